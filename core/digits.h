@@ -1,0 +1,72 @@
+#pragma once
+
+// Reduction of numbers by their digits. The functions look alike and are not: which
+// sums come down to one digit and which survive as 11 or 22 is decided here, in each
+// function differently, and the readings hang on these differences.
+//
+// A digit sum adds all the digits of a text. A fold adds the first digit and the last
+// and forgets what stands between them: 123 has the digit sum 6 and folds to 4.
+
+#include "core/int16.h"
+#include "core/text.h"
+
+#include <string_view>
+
+namespace modReadings {
+
+/// The sum of the digits of `text`; 0 for the empty text. Throws RuntimeFailure at the
+/// first character that is no digit, or when the sum leaves the int16 range.
+constexpr int16 DigitSum(std::u16string_view text) {
+    int16 sum = 0;
+    for (const char16_t character : text)
+        sum = Add(sum, DigitValue(character));
+    return sum;
+}
+
+/// The sum of the decimal digits of `value`. Throws RuntimeFailure for a negative
+/// value, whose text begins with a minus sign.
+constexpr int16 DigitSum(int16 value) {
+    if (value < 0)
+        throw RuntimeFailure("not a digit");
+    int16 sum = 0;
+    for (; value != 0; value = static_cast<int16>(value / 10))
+        sum = static_cast<int16>(sum + value % 10);
+    return sum;
+}
+
+/// One fold: a value of two or more digits becomes its first digit plus its last, a
+/// single digit stays. Throws RuntimeFailure for a negative value.
+constexpr int16 Fold(int16 value) {
+    if (value < 0)
+        throw RuntimeFailure("not a digit");
+    if (value < 10)
+        return value;
+    const int last = value % 10;
+    int first = value;
+    while (first >= 10)
+        first /= 10;
+    return static_cast<int16>(first + last);
+}
+
+/// Digit sum and exactly two folds, 0 to 9. Knows no master number: a sum of 11 gives
+/// 2, one of 22 gives 4. The empty text gives 0. Throws as DigitSum does.
+constexpr int16 ReduceDigitString(std::u16string_view text) { return Fold(Fold(DigitSum(text))); }
+
+/// ReduceDigitString of the decimal text of `value`.
+constexpr int16 ReduceNumber(int16 value) { return Fold(Fold(DigitSum(value))); }
+
+/// Reduces `number` in place and returns its new value: 0 to 9, 11 or 22.
+///
+/// 11 and 22 survive at two points only, as the number itself and as its digit sum.
+/// After that nothing protects them: 38 gives 11, but 2999 has the digit sum 29, which
+/// folds to 11 and on to 2. A loop that guards every stage would change readings.
+/// Throws RuntimeFailure for a negative number, which then stays as it was.
+constexpr int16 ReduceKeepMaster(int16 &number) {
+    if (number == 11 || number == 22)
+        return number;
+    const int16 sum = DigitSum(number);
+    number = sum == 11 || sum == 22 ? sum : Fold(Fold(sum));
+    return number;
+}
+
+} // namespace modReadings

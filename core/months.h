@@ -1,0 +1,41 @@
+#pragma once
+
+// Birth months as numbers. The names are English; a month box filled in another
+// language matches none of them, and the month then counts 0.
+
+#include "core/int16.h"
+
+#include <array>
+#include <string_view>
+
+namespace modReadings {
+
+/// The twelve month names that the calculators know, in calendar order.
+inline constexpr std::array<std::u16string_view, 12> englishMonths{
+    u"January", u"February", u"March",     u"April",   u"May",      u"June",
+    u"July",    u"August",   u"September", u"October", u"November", u"December"};
+
+/// The value of the month that stands at `index`, 0 to 11: its number reduced to one
+/// digit, so that October counts 1, November 2 and never 11, December 3.
+constexpr int16 MonthValue(std::size_t index) {
+    return static_cast<int16>(index < 9 ? index + 1 : index - 8);
+}
+
+/// The value of a month name, compared exactly: 1 to 9, or 0 for any other text.
+constexpr int16 EnglishMonthValue(std::u16string_view monthName) {
+    for (std::size_t index = 0; index < englishMonths.size(); ++index)
+        if (monthName == englishMonths[index])
+            return MonthValue(index);
+    return 0;
+}
+
+/// The value of a month name, 0 to 9, by a chain of twelve tests, each of which also
+/// holds when ScratchLetter equals the month's number as text. Never fails.
+///
+/// ScratchLetter keeps the last character of the name walked last. That is a letter
+/// and matches nothing, unless the name ended in a digit: after a name that ends in 3,
+/// January and February still win by their earlier place and every later month counts
+/// 3. This is how the month has always been read and it stays.
+int16 MonthNumber(std::u16string_view monthName);
+
+} // namespace modReadings

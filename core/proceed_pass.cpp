@@ -1,0 +1,22 @@
+#include "core/proceed_pass.h"
+
+#include "core/runtime_failure.h"
+#include "numbers/calculators.h"
+
+namespace modReadings {
+
+constinit const std::array<Calculator, 22> passOrder{
+    CalcPersonalMonth, CalcBirthday,      CalcHiddenPassion,    CalcLifePathPeriods,
+    CalcPersonalYear,  CalcPinnacles,     CalcSubconsciousSelf, CalcLifePath,
+    CalcDestiny,       CalcKarmicLessons, CalcChallenges,       CalcKarmicDebt,
+    CalcBalance,       CalcPersonalDay,   CalcRationalThought,  CalcHPBridge,
+    CalcLEBridge,      CalcEssence,       CalcRealization,      CalcInnerDreams,
+    CalcPlanes,        CalcSoulUrge,
+};
+
+void RunAllCalculators() {
+    for (const Calculator calculate : passOrder)
+        Attempt(calculate);
+}
+
+} // namespace modReadings

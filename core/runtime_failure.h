@@ -1,0 +1,33 @@
+#pragma once
+
+// The one failure of the arithmetic and the calculators, and the one place that
+// swallows it.
+//
+// A calculator that fails is abandoned where it stands: what it has written stays
+// written. The event procedure that called it goes on with its next statement, so
+// every statement of an event procedure that can fail is its own call of Attempt.
+
+#include <stdexcept>
+#include <utility>
+
+namespace modReadings {
+
+/// Thrown when a result leaves the 16-bit range, a character is no digit, a text is
+/// no number, or a divisor is 0. Caught by Attempt and by nothing else.
+class RuntimeFailure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Runs one statement of an event procedure. Returns false when it was abandoned by a
+/// RuntimeFailure; nothing is reported, the caller simply goes on.
+template <typename Statement> bool Attempt(Statement &&statement) {
+    try {
+        std::forward<Statement>(statement)();
+        return true;
+    } catch (const RuntimeFailure &) {
+        return false;
+    }
+}
+
+} // namespace modReadings

@@ -1,0 +1,16 @@
+#include "core/reading_store.h"
+#include "core/text.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+namespace modReadings {
+
+void CalcBirthday() {
+    const int16 day = NumberFromText(profile.BirthDay);
+    SelectReading(store.BirthdayText, day, readings::birthday);
+    store.BirthdayRaw = day; // kept whether or not the day has a reading
+    store.BirthdayAbout = readings::birthdayAbout;
+}
+
+} // namespace modReadings

@@ -1,0 +1,70 @@
+#include "numbers/essence.h"
+
+#include "core/clock.h"
+#include "core/digits.h"
+#include "core/letters.h"
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+namespace modReadings {
+
+namespace {
+
+using Chart = int16 (*)(char16_t);
+
+/// The chart of the last name: a lower-case l stands where F should. Names are upper
+/// case, so it never matches, and F has no years in a last name. Required as it is.
+int16 LastNameChartValue(char16_t character) {
+    if (character == u'l')
+        return 6;
+    return character == u'F' ? int16{0} : ChartValue(character);
+}
+
+/// The value of the letter in force at `age`: every letter lasts as many years as its
+/// value, and a name that is used up starts again. 0 for a negative age.
+///
+/// A name without a valued letter never ends at a positive age; there is no limit on
+/// the passes. A loop without side effects would be undefined there and could be
+/// optimized into anything, so the condition reads a volatile.
+int16 LetterInForce(std::u16string_view untrimmed, int16 age, Chart chart) {
+    static const volatile bool unguarded = true;
+
+    int16 years = 0;
+    int16 value = 0;
+    do {
+        for (const char16_t character : TrimBlanks(untrimmed)) {
+            if (years > age) // a letter is still taken when the years equal the age ...
+                continue;
+            if (const int16 lasts = chart(character); lasts != 0) {
+                years = Add(years, lasts);
+                value = lasts;
+            }
+        }
+    } while (unguarded && years < age); // ... but the name does not start again for it
+    return value;
+}
+
+} // namespace
+
+bool LastsInFirstName(char16_t character) { return ChartValue(character) != 0; }
+
+bool LastsInLastName(char16_t character) { return LastNameChartValue(character) != 0; }
+
+void CalcEssence() {
+    const int16 age = Subtract(Clock::Year(), NumberFromText(TrimBlanks(profile.BirthYear)));
+
+    const int16 first = LetterInForce(profile.FirstName, age, ChartValue);
+    // Only the middle name is tested for being empty.
+    int16 middle = 0;
+    if (!TrimBlanks(profile.MiddleName).empty())
+        middle = LetterInForce(profile.MiddleName, age, ChartValue);
+    const int16 last = LetterInForce(profile.LastName, age, LastNameChartValue);
+
+    store.EssenceNumber = ReduceNumber(Add(first, middle, last));
+    SelectReading(store.EssenceText, store.EssenceNumber, readings::essence);
+    store.EssenceAbout = readings::essenceAbout;
+}
+
+} // namespace modReadings

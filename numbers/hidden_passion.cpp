@@ -1,0 +1,35 @@
+#include "core/letters.h"
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+#include <algorithm>
+
+namespace modReadings {
+
+// Counts characters and never values: letters of one value are not pooled, and a blank,
+// a hyphen or a digit competes like any letter.
+void CalcHiddenPassion() {
+    const std::u16string name = WholeName();
+    ToInt16(static_cast<std::int64_t>(name.size()));
+
+    char16_t best = 0;
+    std::ptrdiff_t bestCount = 0;
+    for (const char16_t character : name) {
+        const auto count = std::count(name.begin(), name.end(), character);
+        if (count > bestCount) { // strictly: of equals the earlier one wins
+            best = character;
+            bestCount = count;
+        }
+    }
+
+    // A winner without a value, or no character at all, leaves the number of the run
+    // before, which then selects its reading again.
+    if (const int16 value = ChartValue(best); value != 0)
+        store.HiddenPassionNumber = value;
+    SelectReading(store.HiddenPassionText, store.HiddenPassionNumber, readings::hiddenPassion);
+    store.HiddenPassionAbout = readings::hiddenPassionAbout;
+}
+
+} // namespace modReadings

@@ -1,0 +1,38 @@
+#include "core/letters.h"
+#include "core/reading_store.h"
+#include "core/text.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+#include <bitset>
+
+namespace modReadings {
+
+void CalcKarmicLessons() {
+    store.KarmicLessonsNumber.clear();
+    store.KarmicLessonsText.clear();
+
+    const std::u16string name = WholeName();
+    ToInt16(static_cast<std::int64_t>(
+        name.size())); // a name too long to count fails here, with both slots empty
+
+    std::bitset<10> present;
+    for (const char16_t character : name)
+        present.set(static_cast<std::size_t>(ChartValue(character)));
+
+    for (int16 value = 1; value <= 9; ++value) {
+        if (present.test(static_cast<std::size_t>(value)))
+            continue;
+        const std::u16string digit = DecimalText(value);
+        // A blank in front of every digit, the first too: the list goes behind its
+        // heading as it stands.
+        store.KarmicLessonsNumber += u' ' + digit;
+        std::u16string lesson;
+        SelectReading(lesson, value, readings::karmicLessons);
+        store.KarmicLessonsText += u"\r\n" + digit + u"\r\n" + lesson;
+    }
+    store.KarmicLessonsAbout = readings::karmicLessonsAbout;
+}
+
+} // namespace modReadings

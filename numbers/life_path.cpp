@@ -1,0 +1,32 @@
+#include "core/digits.h"
+#include "core/months.h"
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+namespace modReadings {
+
+// Neither ReduceDigitString nor ReduceKeepMaster nor MonthNumber serves here: day and
+// year fold once where those fold twice, and ScratchLetter has no say in the month.
+void CalcLifePath() {
+    const int16 daySum = DigitSum(profile.BirthDay);
+    const int16 day = Fold(daySum);
+    const int16 month = EnglishMonthValue(profile.BirthMonth);
+    // A single fold, on purpose: 1999 has the digit sum 28 and enters as 10.
+    const int16 year = Fold(DigitSum(profile.BirthYear));
+
+    int16 number = Add(day, month, year);
+    if (number != 11 && number != 22) {
+        number = DigitSum(number);
+        if (number != 11 && number != 22)
+            number = Fold(number);
+    }
+
+    store.LifePathNumber = number;
+    store.LifePathDaySum = daySum; // of the day alone, not of the date
+    SelectReading(store.LifePathText, number, readings::lifePath);
+    store.LifePathAbout = readings::lifePathAbout;
+}
+
+} // namespace modReadings

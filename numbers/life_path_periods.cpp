@@ -1,0 +1,119 @@
+#include "core/clock.h"
+#include "core/digits.h"
+#include "core/months.h"
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace modReadings {
+
+namespace {
+
+/// The ages of one root. The lines of the periods are literals beside the compared
+/// ages and not computed from them.
+struct PeriodAges {
+    int16 root;
+    int16 firstEnds;  ///< last age of period 1
+    int16 secondEnds; ///< last age of period 2
+    std::array<std::u16string_view, 3> lines;
+};
+
+// Root 4 breaks the run: its second period lasts 36 years where all others last 27.
+// That is intended. Roots 11 and 22 have ages but no lines; no sum reduces to them.
+constexpr PeriodAges ageTable[] = {
+    {1,
+     26,
+     53,
+     {u"Life Path Period 1 from age 0 - 26 is ", u"Life Path Period 2 from age 27 - 53 is ",
+      u"Life Path Period 3 from age 54 on is "}},
+    {2,
+     25,
+     52,
+     {u"Life Path Period 1 from age 0 - 25 is ", u"Life Path Period 2 from age 26 - 52 is ",
+      u"Life Path Period 3 from age 53 on is "}},
+    {3,
+     24,
+     51,
+     {u"Life Path Period 1 from age 0 - 24 is ", u"Life Path Period 2 from age 25 - 51 is ",
+      u"Life Path Period 3 from age 52 on is "}},
+    {4,
+     23,
+     59,
+     {u"Life Path Period 1 from age 0 - 23 is ", u"Life Path Period 2 from age 24 - 59 is ",
+      u"Life Path Period 3 from age 60 on is "}},
+    {5,
+     31,
+     58,
+     {u"Life Path Period 1 from age 0 - 31 is ", u"Life Path Period 2 from age 32 - 58 is ",
+      u"Life Path Period 3 from age 59 on is "}},
+    {6,
+     30,
+     57,
+     {u"Life Path Period 1 from age 0 - 30 is ", u"Life Path Period 2 from age 31 - 57 is ",
+      u"Life Path Period 3 from age 58 on is "}},
+    {7,
+     29,
+     56,
+     {u"Life Path Period 1 from age 0 - 29 is ", u"Life Path Period 2 from age 30 - 56 is ",
+      u"Life Path Period 3 from age 57 on is "}},
+    {8,
+     28,
+     55,
+     {u"Life Path Period 1 from age 0 - 28 is ", u"Life Path Period 2 from age 29 - 55 is ",
+      u"Life Path Period 3 from age 56 on is "}},
+    {9,
+     27,
+     54,
+     {u"Life Path Period 1 from age 0 - 27 is ", u"Life Path Period 2 from age 28 - 54 is ",
+      u"Life Path Period 3 from age 55 on is "}},
+    {11, 26, 53, {}},
+    {22, 26, 53, {}},
+};
+
+void AssignLine(std::u16string &slot, std::u16string_view line, int16 number) {
+    if (!line.empty())
+        slot = std::u16string(line) + DecimalText(number);
+}
+
+} // namespace
+
+void CalcLifePathPeriods() {
+    store.PeriodNumber1 = MonthNumber(profile.BirthMonth);
+    store.PeriodNumber2 = ReduceDigitString(profile.BirthDay);
+    store.PeriodNumber3 = ReduceDigitString(profile.BirthYear);
+
+    store.PeriodStage1 = readings::periodStage1;
+    store.PeriodStage2 = readings::periodStage2;
+    store.PeriodStage3 = readings::periodStage3;
+
+    // Whole calendar years: a person born in December is a year older on 1 January.
+    const int16 age = Subtract(Clock::Year(), NumberFromText(TrimBlanks(profile.BirthYear)));
+
+    store.PeriodRoot =
+        ReduceNumber(Add(store.PeriodNumber2, store.PeriodNumber1, store.PeriodNumber3));
+
+    const auto row = std::ranges::find(ageTable, store.PeriodRoot, &PeriodAges::root);
+    if (row != std::end(ageTable)) {
+        // The index of the period, though its heading announces a number. A negative
+        // age is in no period and leaves the index of the run before.
+        if (age >= 0 && age <= row->firstEnds)
+            store.LifePathPeriodsNumber = 1;
+        else if (age > row->firstEnds && age <= row->secondEnds)
+            store.LifePathPeriodsNumber = 2;
+        else if (age > row->secondEnds)
+            store.LifePathPeriodsNumber = 3;
+
+        AssignLine(store.PeriodLine1, row->lines[0], store.PeriodNumber1);
+        AssignLine(store.PeriodLine2, row->lines[1], store.PeriodNumber2);
+        AssignLine(store.PeriodLine3, row->lines[2], store.PeriodNumber3);
+        SelectReading(store.LifePathPeriodsText, store.PeriodRoot, readings::lifePathPeriods);
+    }
+    store.LifePathPeriodsAbout = readings::lifePathPeriodsAbout;
+}
+
+} // namespace modReadings

@@ -1,0 +1,27 @@
+#include "numbers/name_total.h"
+
+#include "core/digits.h"
+#include "core/letters.h"
+#include "core/reading_store.h"
+
+namespace modReadings {
+
+void WalkLetters(std::u16string_view text, LetterFilter admits) {
+    const int16 length = ToInt16(static_cast<std::int64_t>(text.size()));
+    for (int16 index = 0; index < length; ++index) {
+        const char16_t character = text[static_cast<std::size_t>(index)];
+        store.ScratchIndex = static_cast<int16>(index + 1);
+        store.ScratchLetter.assign(1, character);
+        if (admits(character))
+            store.ScratchSum = Add(store.ScratchSum, ChartValue(character));
+    }
+}
+
+void StoreNameTotal(const NameTotalEntry &entry) {
+    entry.raw = store.ScratchSum;
+    entry.number = ReduceKeepMaster(store.ScratchSum);
+    SelectReading(entry.text, entry.number, entry.table);
+    entry.about = entry.aboutText;
+}
+
+} // namespace modReadings

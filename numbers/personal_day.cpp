@@ -1,0 +1,26 @@
+#include "core/clock.h"
+#include "core/digits.h"
+#include "core/months.h"
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+namespace modReadings {
+
+void CalcPersonalDay() {
+    const int16 birthDay = ReduceDigitString(profile.BirthDay);
+    const int16 birthMonth = MonthNumber(profile.BirthMonth);
+    store.CurrentDayText = DecimalText(Clock::Day());
+    const int16 currentMonth = Clock::Month();
+    store.CurrentYearText = DecimalText(Clock::Year());
+    const int16 day = ReduceDigitString(store.CurrentDayText);
+    const int16 month = ReduceNumber(currentMonth);
+    const int16 year = ReduceDigitString(store.CurrentYearText);
+
+    store.PersonalDayNumber = ReduceNumber(Add(birthDay, birthMonth, day, month, year));
+    SelectReading(store.PersonalDayText, store.PersonalDayNumber, readings::personalDay);
+    store.PersonalDayAbout = readings::personalDayAbout;
+}
+
+} // namespace modReadings

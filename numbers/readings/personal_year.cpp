@@ -1,0 +1,123 @@
+#include "numbers/readings.h"
+
+namespace modReadings::readings {
+
+namespace {
+constexpr Reading rows[] = {
+    {1, u"It is the year of a new beginning of life. Whatever you have been promising yourself "
+        u"for the last two or three years comes up again now, and this time it gives when you "
+        u"push. Other people are slow to join in. You sign on for the course alone, or you show "
+        u"the plan to an old friend and get a polite nod, and the first months look rather bare. "
+        u"Go ahead all the same, because a start made now sets the direction of several years, "
+        u"and one put off until everybody agrees is seldom made at all. The mistake of the year "
+        u"is to start five things out of sheer appetite. By the middle of it four of them are a "
+        u"weight, and you snap at whoever asks how they are getting on. Choose the one or two "
+        u"that you would still want if nobody ever praised you for them, and give those the best "
+        u"hours of your week. Impatience does the rest of the damage: results belong to a later "
+        u"year, and a plan torn up after three months has had no trial. When you are stuck, ask "
+        u"somebody who has done it before. It costs a little pride and saves months."},
+    {2, u"It is the year of Development, Cooperation and Patience. What you began before is "
+        u"growing, though mostly in other people's hands: a reply is due, a partner is still "
+        u"thinking, a committee meets again next month. Pressing for an answer in such a year "
+        u"usually gets you the wrong one. Put the waiting to use by learning how the others work "
+        u"and what they are afraid of, for your best chances arrive through someone who has found "
+        u"you easy to deal with. Taking the second chair suits the time, and so does the careful "
+        u"part of a job that another person signs. Your skin is thinner than usual. A short "
+        u"remark at breakfast spoils your week, and instead of answering it you agree to "
+        u"something else that you did not want. These small surrenders add up, and by the last "
+        u"months you are cross with a person who never knew that you objected. Speak while the "
+        u"matter is still small, in a quiet tone and to the one concerned. A friendship tended "
+        u"this year is often still there twenty years on."},
+    {3, u"It is a year when you will be very Social & Creative. Invitations come from people you "
+        u"had lost sight of, and you find that you have something to say when you get there. A "
+        u"story told at a dinner goes round and is asked for again; a sketch or a song that lay "
+        u"in a drawer for years gets shown to somebody at last. Let yourself be seen, since the "
+        u"liking you win this year gets you into places where hard work alone did not. What "
+        u"suffers is whatever is dull. The form stays unsigned, small sums slip away on evenings "
+        u"out, and promises made in high spirits to three friends fall on the same Saturday. "
+        u"Loose talk costs more still: a good joke about a colleague travels farther than you "
+        u"meant it to. Pick one piece of work with your own name on it, the book or the garden or "
+        u"the little show, and bring that one to its end before the year is out. Otherwise you "
+        u"have twelve pleasant months behind you and nothing to point at. Low spells pass quickly "
+        u"in such a time if you get out of the house, and they grow long if you act the cheerful "
+        u"host on top of them."},
+    {4, u"It is time for hard work and a slow, but steady progress. Shortcuts fail this year with "
+        u"a certain regularity, and you lose more time looking for them than the long way would "
+        u"have taken. The tasks are plain: put the papers in order, mend what leaks, learn the "
+        u"tool properly that you have been getting by with. Weeks go by that resemble each other, "
+        u"and somewhere past the middle comes the wish to throw it all over. Stay where you are "
+        u"for the present, grumbling if you must. Much of what you lay down in these months will "
+        u"have to carry weight later, and a gap left in it is hard to reach once the rest stands "
+        u"on top. To see that you are moving at all, compare today with three months ago and "
+        u"leave yesterday out of it. Watch your temper with people who do things otherwise than "
+        u"you; a method can be sound and still be the wrong one for your partner or the new "
+        u"assistant. There is also a way of working that is only hiding, when you stay late so as "
+        u"not to go home. Fix one evening a week on which nothing useful is done, and keep it as "
+        u"strictly as you keep the others."},
+    {5, u"It is a year of freedom. After a long stretch of sameness something comes loose: a post "
+        u"falls vacant in another town, or a chance turns up on a Tuesday and wants its answer by "
+        u"Friday. Plans made far ahead are upset more than once, and those who keep some weeks "
+        u"open gain from it. Go to the place you have only read about, apply for the work that is "
+        u"a size too odd for you, and talk to strangers on the way. You learn faster than you "
+        u"have for a good while, mostly from things that were no part of the program.\r\n"
+        u"The trouble is that every fence looks like a prison now. An ordinary bad week is enough "
+        u"to make you want to quit the job, the apartment and the love affair all together, "
+        u"though only one of them is at fault. Find out which. Before you leave anything for "
+        u"good, wait a month and see whether you are still sure after a full night's sleep. "
+        u"Pleasures are overdone as well, and the last months are tired ones. Keep one thing "
+        u"fixed throughout, a class or a person, so that there is somewhere to come back to."},
+    {6, u"It is the year, which is focused on your Love, Family, Home and Responsibility. "
+        u"Somebody leans on you: a parent who no longer manages the stairs, a child with a bad "
+        u"school report, a friend whose marriage has come apart and who turns up with a bag. Your "
+        u"own plans get the hours that are left, and it helps to admit this in the first weeks "
+        u"rather than resent it all year long. There is much to be had from it. Old quarrels in a "
+        u"family can be settled now by whoever is willing to cook the meal and invite both sides, "
+        u"and a couple that has lived side by side like lodgers finds the way back to talking. "
+        u"Trouble starts when help turns into running other people's lives. A brother or a grown "
+        u"child who is told how to bring up the little ones stops coming, and you sit there hurt "
+        u"with the cake untouched. Before you step in, ask what is wanted, and do that much. "
+        u"Refuse at least one request that is really another person's duty. Those who love you "
+        u"get used to a no sooner than you expect, and you are better company afterwards."},
+    {7, u"It is a time for self-analysis and understanding of your inner being. The telephone "
+        u"rings less, business moves at its own pace, and company that you enjoyed a year ago "
+        u"leaves you tired by ten o'clock. None of this means that something has gone wrong. An "
+        u"old question has come back, about your work or about what you believe, and it wants "
+        u"longer hours than you usually give it. Take up the subject you broke off, read the hard "
+        u"book slowly, walk by yourself and let a thought run to its end. Forcing matters outside "
+        u"goes badly just now; a deal that has to be talked into life tends to die of its own "
+        u"accord. The danger lies at home, in the closed door. Those who live with you see a "
+        u"silent face and suppose that they have offended you, and when you do speak it is to "
+        u"point out a fault. Tell them plainly that you need an hour to yourself and when it will "
+        u"be over. And test your suspicions before you act on them, for a mind left much alone "
+        u"finds evidence for anything. By the end you know one or two things about yourself that "
+        u"will serve you in the busier year to come."},
+    {8, u"It is the year of financial gains. They come to the one who sends the bill, names the "
+        u"price and asks for the post, because what you have earned over several years is ready "
+        u"and nobody is going to carry it to your desk. Bargain in person, and know your figures "
+        u"before you sit down. People look to you for a decision and on the whole you make a good "
+        u"one, as long as you have listened to the person it falls upon. The sour side of the "
+        u"year is a habit of measuring. With so much to get done you begin to weigh a slow "
+        u"colleague, an idle Sunday and even an old friend by what they bring in, and the friend "
+        u"is the first to notice. Owning up to one hard word does more for your standing than "
+        u"another success. Set a date for the end of the big push, and when it comes, stop, even "
+        u"with one more good order in sight."},
+    {9, u"It is the period year of self-reflection. A round of nine years is closing, and you can "
+        u"feel which parts of it are over: a committee you dread, a friendship kept up by habit, "
+        u"boxes in the cellar from two houses ago. Finish these or hand them on while you can do "
+        u"it kindly. Large undertakings begun now seldom hold, so keep the new idea in a notebook "
+        u"until the next year comes round. Moods run high, and a piece of music can undo you in a "
+        u"shop. Strangers' troubles move you to real generosity, while a promise to someone under "
+        u"your own roof is still waiting from last winter. See to that one first. Write the "
+        u"letter that thanks or forgives, whether or not it is answered, and leave some shelves "
+        u"empty at the end."},
+};
+} // namespace
+
+constinit const ReadingTable personalYear = rows;
+
+constinit const std::u16string_view personalYearAbout =
+    u"This number describes the pattern of the particular year. Each year of your life is "
+    u"different in one way or the other from the other years of your life. There are basically "
+    u"nine personal years in the life of a person. It coincides with the calendar year.";
+
+} // namespace modReadings::readings

@@ -1,0 +1,27 @@
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/name_total.h"
+
+namespace modReadings {
+
+void CalcSoulUrge() {
+    const std::u16string name = WholeName();
+
+    store.ScratchSum = 0;
+    WalkLetters(name, IsVowel);
+    // One vowel anywhere in the whole name shuts Y out everywhere: the test is on the
+    // total, not on syllables or single names. CalcInnerDreams counts the same Y again.
+    if (store.ScratchSum == 0) {
+        WalkLetters(name, [](char16_t letter) {
+            if (letter != u'Y')
+                return false;
+            store.YUsedAsVowel = -1; // raised, never cleared, read nowhere
+            return true;
+        });
+    }
+    StoreNameTotal({store.SoulUrgeNumber, store.SoulUrgeRaw, store.SoulUrgeText,
+                    store.SoulUrgeAbout, readings::soulUrge, readings::soulUrgeAbout});
+}
+
+} // namespace modReadings

@@ -1,0 +1,32 @@
+#include "core/letters.h"
+#include "core/reading_store.h"
+#include "core/text.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/readings.h"
+
+#include <bitset>
+
+namespace modReadings {
+
+void CalcSubconsciousSelf() {
+    std::bitset<10> present;
+    for (const char16_t character : WholeName())
+        present.set(static_cast<std::size_t>(ChartValue(character)));
+
+    // The list is built and thrown away; only the count matters.
+    int16 count = 0;
+    for (int16 value = 1; value <= 9; ++value) {
+        if (!present.test(static_cast<std::size_t>(value)))
+            continue;
+        store.MissingDigitsScratch += u' ' + DecimalText(value);
+        ++count;
+    }
+
+    store.SubconsciousSelfNumber = count; // also where the reading refuses it
+    SelectReading(store.SubconsciousSelfText, count, readings::subconsciousSelf);
+    store.SubconsciousSelfAbout = readings::subconsciousSelfAbout;
+    store.MissingDigitsScratch.clear();
+}
+
+} // namespace modReadings

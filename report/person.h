@@ -1,0 +1,23 @@
+#pragma once
+
+// One person's inputs as typed and picked, on their way into the profile. The window and
+// the report tool capture through here, so both read the same person the same way.
+
+#include <QString>
+
+namespace modReadings {
+
+struct Person {
+    QString firstName;
+    QString middleName;
+    QString lastName;
+    QString birthMonth;
+    QString birthDay;
+    QString birthYear;
+};
+
+/// Writes the profile: blanks (U+0020) trimmed at both ends, the names upper-cased by
+/// Unicode's rules whatever the locale, the dates as they stand.
+void CaptureProfile(const Person &person);
+
+} // namespace modReadings

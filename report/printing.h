@@ -1,0 +1,10 @@
+#pragma once
+
+// The report on paper.
+
+class QTextDocument;
+
+/// Prints the whole of `document` on the default printer with the printer's own settings:
+/// no dialog, no heading, no page numbers. Returns once the spooler has the job. Does
+/// nothing, silently, where there is no printer.
+void PrintDocument(const QTextDocument &document);

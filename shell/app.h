@@ -1,0 +1,16 @@
+#pragma once
+
+// What the program calls itself.
+
+#include <QString>
+
+namespace App {
+
+/// The title of its messages and of the save dialog.
+inline QString Title() { return QStringLiteral("Orravane"); }
+
+/// Sets name, version and organization, which also say where its settings lie. To be
+/// called once, before the window is made.
+void Identify();
+
+} // namespace App

@@ -1,0 +1,229 @@
+#include "shell/frm_main.h"
+
+#include "core/proceed_pass.h"
+#include "report/person.h"
+#include "report/printing.h"
+#include "report/rendering.h"
+#include "shell/app.h"
+#include "shell/geometry.h"
+#include "shell/help_page.h"
+#include "shell/image_button.h"
+#include "shell/input_page.h"
+#include "shell/links.h"
+#include "shell/main_page.h"
+#include "shell/name_box.h"
+#include "shell/report_page.h"
+#include "shell/rich_text_box.h"
+#include "shell/save_report.h"
+#include "shell/topic_tree_view.h"
+#include "shell/update_reminder.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QPushButton>
+
+// The event procedures of the window. Whatever fails in them is passed over: a calculator
+// that gives up (see core/runtime_failure.h), a page that does not open, a printer that
+// is not there. The user is told of none of it.
+
+using modReadings::NodePosition;
+
+namespace {
+
+/// A modal message with the application's title. Returns the button pressed; Escape is
+/// No where there is one.
+QMessageBox::StandardButton Ask(QWidget *parent, QMessageBox::Icon icon, const QString &text,
+                                QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, App::Title(), text, buttons, parent);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+// --- Start and exit
+
+bool frmMain::Form_Load() {
+    TV->Build();
+    Picture1->FillLists();
+    Picture1->SelectFirstDates();
+
+    if (instance_.AnotherIsRunning()) {
+        Ask(nullptr, QMessageBox::Critical, App::Title() + tr(" Is Already Running"),
+            QMessageBox::Ok);
+        UnloadAllForms();
+        return false;
+    }
+
+    if (UpdateReminder::IsDue()) {
+        const auto answer =
+            Ask(nullptr, QMessageBox::Warning, tr("Do You Wish To Update The Software ?"),
+                QMessageBox::Yes | QMessageBox::No);
+        if (answer == QMessageBox::Yes)
+            OpenUpdatePage();
+        UpdateReminder::Settle();
+    }
+
+    picMain->raise();
+    Picture1->txtFirstName->setFocus();
+    CentreOnScreen();
+    return true;
+}
+
+void frmMain::Form_Unload() { OpenThankYouPage(); }
+
+void frmMain::Unload() {
+    if (unloaded_)
+        return;
+    unloaded_ = true;
+    Form_Unload();
+    hide();
+}
+
+void frmMain::UnloadAllForms() {
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (auto *form = qobject_cast<frmMain *>(window))
+            form->Unload();
+}
+
+void frmMain::closeEvent(QCloseEvent *event) {
+    Unload();
+    QMainWindow::closeEvent(event);
+}
+
+void frmMain::picExit_Click() {
+    if (Ask(this, QMessageBox::Warning, tr("Are You Sure You Want to Exit Orravane?"),
+            QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
+        close();
+}
+
+// --- Input
+
+void frmMain::txtName_KeyPress(qint16 &KeyAscii) {
+    if (KeyAscii >= 97 && KeyAscii <= 122) // a to z
+        KeyAscii = static_cast<qint16>(KeyAscii - 32);
+}
+
+bool frmMain::RequireInput(const QString &text, const QString &message, QWidget *control) {
+    if (!text.isEmpty()) // not trimmed: blanks are an answer
+        return true;
+    Ask(this, QMessageBox::Critical, message, QMessageBox::Ok);
+    control->setFocus();
+    return false;
+}
+
+bool frmMain::ValidateInputs() {
+    // The lists always stand on an entry, so their checks never fire; they stay.
+    return RequireInput(Picture1->txtFirstName->text(), tr("Please Enter Your First Name"),
+                        Picture1->txtFirstName) &&
+           RequireInput(Picture1->txtLastName->text(), tr("Please Enter Your Last Name"),
+                        Picture1->txtLastName) &&
+           RequireInput(Picture1->cboDate->currentText(), tr("Please Specify Your Birth Date"),
+                        Picture1->cboDate) &&
+           RequireInput(Picture1->cboMonth->currentText(), tr("Please Specify Your Birth Month"),
+                        Picture1->cboMonth) &&
+           RequireInput(Picture1->cboYear->currentText(), tr("Please Specify Your Birth Year"),
+                        Picture1->cboYear);
+}
+
+void frmMain::ResetInputs() {
+    Picture1->txtFirstName->clear();
+    Picture1->txtMiddleName->clear();
+    Picture1->txtLastName->clear();
+    Picture1->SelectFirstDates();
+    Picture1->txtFirstName->setFocus();
+}
+
+void frmMain::cmdNext_Click() {
+    if (!ValidateInputs())
+        return;
+    modReadings::CaptureProfile({Picture1->txtFirstName->text(), Picture1->txtMiddleName->text(),
+                                 Picture1->txtLastName->text(), Picture1->cboMonth->currentText(),
+                                 Picture1->cboDate->currentText(),
+                                 Picture1->cboYear->currentText()});
+    modReadings::RunAllCalculators();
+
+    TV->Node(NodePosition::Numerology)->setExpanded(true);
+    TV->setCurrentItem(TV->Node(NodePosition::N1)); // selects, and does not run the handler
+    TV->Node(NodePosition::UserInfo)->setExpanded(false);
+    TV->Node(NodePosition::UserInfo)->setSelected(false);
+    TV->Node(NodePosition::U1)->setExpanded(false);
+    TV->Node(NodePosition::U1)->setSelected(false);
+
+    WriteReport([](modReadings::RichTextPane &pane) {
+        modReadings::RenderTopic(pane, *modReadings::FindTopic(u"Personal Month"));
+    });
+    ShowReportPage();
+}
+
+// --- The tree and the pages
+
+void frmMain::TV_NodeClick(QTreeWidgetItem *Node) {
+    modReadings::DispatchClick(Node->text(0).toStdU16String(), *this);
+}
+
+void frmMain::WriteReport(const std::function<void(modReadings::RichTextPane &)> &write) {
+    Picture2->RTB->WriteAsOne(write);
+}
+
+void frmMain::ShowInputPage() { BringToFront(Picture1); }
+
+void frmMain::ShowReportPage() { BringToFront(Picture2); }
+
+void frmMain::ShowHelpPage() { BringToFront(Picture3); }
+
+void frmMain::BringToFront(QWidget *page) {
+    page->raise();
+    frontPage_ = page;
+
+    // "&Proceed" and "&Print" share a key: it belongs to the one whose page is in front.
+    const QKeySequence alt_P(Qt::ALT | Qt::Key_P);
+    cmdNext->setShortcut(page == Picture2 ? QKeySequence() : alt_P);
+    cmdPrint->setShortcut(page == Picture2 ? alt_P : QKeySequence());
+
+    // The focus must not stay behind on a page that nobody sees.
+    if (focusWidget() != nullptr && !IsReachable(focusWidget()))
+        TV->setFocus();
+}
+
+bool frmMain::IsReachable(const QWidget *control) const {
+    for (const QWidget *page : {static_cast<QWidget *>(Picture1), static_cast<QWidget *>(Picture2),
+                                static_cast<QWidget *>(Picture3)})
+        if (page != frontPage_ && page->isAncestorOf(control))
+            return false;
+    return true;
+}
+
+/// The pages are never hidden, so Tab would wander through the covered ones too.
+bool frmMain::focusNextPrevChild(bool next) {
+    QWidget *start = focusWidget() != nullptr ? focusWidget() : this;
+    for (QWidget *candidate = next ? start->nextInFocusChain() : start->previousInFocusChain();
+         candidate != start;
+         candidate = next ? candidate->nextInFocusChain() : candidate->previousInFocusChain()) {
+        if ((candidate->focusPolicy() & Qt::TabFocus) != 0 && candidate->window() == this &&
+            candidate->isVisibleTo(this) && candidate->isEnabled() &&
+            candidate->focusProxy() == nullptr && IsReachable(candidate)) {
+            candidate->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    }
+    return false;
+}
+
+// --- The report
+
+void frmMain::RTB_Event() {
+    // Change, click, press, release and move alike wipe the whole clipboard, whoever put
+    // something there. That is required.
+    QApplication::clipboard()->clear();
+}
+
+void frmMain::cmdPrint_Click() {
+    QTextCursor caret = Picture2->RTB->textCursor();
+    caret.clearSelection(); // the whole document, not what is marked
+    Picture2->RTB->setTextCursor(caret);
+    PrintDocument(*Picture2->RTB->document());
+}
+
+void frmMain::cmdSave_Click() { SaveReport(*Picture2->RTB, this); }

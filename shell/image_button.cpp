@@ -1,0 +1,123 @@
+#include "shell/image_button.h"
+
+#include "shell/focus_frame.h"
+#include "shell/image_list.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmapCache>
+
+namespace {
+
+/// Some platforms let no client have the mouse outside its window. There the button
+/// makes do with being told that the mouse has left it.
+bool CanGrabMouse() {
+    static const bool can = QGuiApplication::platformName() == QLatin1StringView("xcb") ||
+                            QGuiApplication::platformName() == QLatin1StringView("windows");
+    return can;
+}
+
+} // namespace
+
+ImageButton::ImageButton(int plain, int hover, const QString &name, QWidget *parent)
+    : QAbstractButton(parent), plain_(plain), hover_(hover), shown_(plain) {
+    setAccessibleName(name);
+    setCursor(Qt::PointingHandCursor);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+bool ImageButton::HasCapture() const {
+    return captured_ && (!CanGrabMouse() || QWidget::mouseGrabber() == this);
+}
+
+void ImageButton::SetCapture() {
+    captured_ = true;
+    if (CanGrabMouse())
+        grabMouse(cursor());
+}
+
+void ImageButton::ReleaseCapture() {
+    captured_ = false;
+    if (QWidget::mouseGrabber() == this)
+        releaseMouse();
+}
+
+void ImageButton::ShowImage(int position) {
+    if (shown_ == position)
+        return;
+    shown_ = position;
+    update();
+}
+
+void ImageButton::mouseMoveEvent(QMouseEvent *event) {
+    QAbstractButton::mouseMoveEvent(event);
+    // A point exactly on the far edge still counts as inside.
+    const QPointF point = event->position();
+    const bool outside =
+        point.x() < 0 || point.x() > width() || point.y() < 0 || point.y() > height();
+    if (outside) {
+        ReleaseCapture();
+        ShowImage(plain_);
+    } else if (!HasCapture()) {
+        SetCapture();
+        ShowImage(hover_);
+    }
+}
+
+void ImageButton::mouseReleaseEvent(QMouseEvent *event) {
+    // What the click opens must have the mouse to itself. The image stays as it is until
+    // the next move.
+    ReleaseCapture();
+    QAbstractButton::mouseReleaseEvent(event);
+}
+
+void ImageButton::leaveEvent(QEvent *event) {
+    QAbstractButton::leaveEvent(event);
+    // With the mouse captured the moves outside tell more exactly.
+    if (QWidget::mouseGrabber() == this)
+        return;
+    ReleaseCapture();
+    ShowImage(plain_);
+}
+
+void ImageButton::hideEvent(QHideEvent *event) {
+    ReleaseCapture();
+    QAbstractButton::hideEvent(event);
+}
+
+bool ImageButton::event(QEvent *event) {
+    if (event->type() == QEvent::WindowDeactivate) { // another window has come up: let go
+        ReleaseCapture();
+        ShowImage(plain_);
+    }
+    return QAbstractButton::event(event);
+}
+
+void ImageButton::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+        return;
+    }
+    QAbstractButton::keyPressEvent(event);
+}
+
+void ImageButton::paintEvent(QPaintEvent *) {
+    const qreal ratio = devicePixelRatioF();
+    const QString key = QStringLiteral("%1@%2x%3@%4")
+                            .arg(ImageList::Key(shown_))
+                            .arg(width())
+                            .arg(height())
+                            .arg(ratio);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = ImageList::Picture(shown_, size(), ratio);
+        QPixmapCache::insert(key, picture);
+    }
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, picture);
+    if (hasFocus())
+        DrawFocusFrame(painter, rect());
+}

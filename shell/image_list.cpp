@@ -1,0 +1,32 @@
+#include "shell/image_list.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include <array>
+
+namespace {
+
+constexpr std::array<const char *, ImageList::count> keys{
+    "exit",        "exit-hyper", "help",          "help-hyper", "print",
+    "print-hyper", "proceed",    "proceed-hyper", "save",       "save-hyper"};
+
+} // namespace
+
+QString ImageList::Key(int position) {
+    return QLatin1StringView(keys.at(static_cast<std::size_t>(position) - 1));
+}
+
+QPixmap ImageList::Picture(int position, QSize size, qreal devicePixelRatio) {
+    return RenderArtwork(Key(position), size, devicePixelRatio);
+}
+
+QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio) {
+    QPixmap picture((QSizeF(size) * devicePixelRatio).toSize());
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QSvgRenderer(QStringLiteral(":/artwork/%1.svg").arg(name)).render(&painter);
+    painter.end();
+    picture.setDevicePixelRatio(devicePixelRatio);
+    return picture;
+}

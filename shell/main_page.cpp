@@ -1,0 +1,28 @@
+#include "shell/main_page.h"
+
+#include "shell/geometry.h"
+#include "shell/image_list.h"
+#include "shell/links.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+MainPage::MainPage(QWidget *parent) : QWidget(parent) { setAttribute(Qt::WA_OpaquePaintEvent); }
+
+void MainPage::paintEvent(QPaintEvent *event) {
+    const qreal ratio = devicePixelRatioF();
+    if (sky_.isNull() || !qFuzzyCompare(sky_.devicePixelRatio(), ratio)) {
+        sky_ = RenderArtwork(QStringLiteral("background"), size(), ratio);
+        // The address belongs to the picture but follows the site that was built in. The
+        // label above it is an empty hot area.
+        QPainter painter(&sky_);
+        QFont bold = font();
+        bold.setBold(true);
+        painter.setFont(bold);
+        painter.setPen(QColor(255, 217, 92));
+        painter.drawText(PlaceOf("lblHyperlink"), Qt::AlignRight | Qt::AlignVCenter, SiteAddress());
+    }
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawPixmap(0, 0, sky_);
+}

@@ -1,0 +1,178 @@
+#include "tools/formats.h"
+
+#include "core/clock.h"
+#include "core/text.h"
+#include "core/user_profile.h"
+#include "report/rtf.h"
+
+#include <QString>
+
+#define RAPIDJSON_SSE2
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <algorithm>
+#include <cstdio>
+
+using modReadings::BookEntry;
+using modReadings::Run;
+
+namespace {
+
+using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer>;
+
+template <typename Writer> void WriteString(Writer &json, std::string_view text) {
+    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
+}
+
+template <typename Writer> void WriteMember(Writer &json, const char *name, std::string_view text) {
+    json.Key(name);
+    WriteString(json, text);
+}
+
+std::string Today() {
+    const auto date = modReadings::Clock::Date();
+    char text[32];
+    std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
+    return text;
+}
+
+/// UTF-8 with "\r\n" as "\n".
+void AppendPlain(std::string &out, std::u16string_view text) {
+    std::string utf8 = ToUtf8(text);
+    std::erase(utf8, '\r');
+    out += utf8;
+}
+
+} // namespace
+
+std::string ToUtf8(std::u16string_view text) {
+    if (std::ranges::all_of(
+            text, [](char16_t unit) { return unit < 0x80; })) { // all prose of the program
+        std::string ascii(text.size(), '\0');
+        std::ranges::transform(text, ascii.begin(),
+                               [](char16_t unit) { return static_cast<char>(unit); });
+        return ascii;
+    }
+    return QStringView(text).toUtf8().toStdString();
+}
+
+std::string ReadingsAsText(std::span<const TopicReading> readings) {
+    std::string text;
+    for (const TopicReading &reading : readings) {
+        if (!text.empty())
+            text += '\n';
+        for (const Run &run : reading.runs)
+            AppendPlain(text, run.text);
+        if (!text.ends_with('\n'))
+            text += '\n';
+    }
+    return text;
+}
+
+std::string ReadingsAsJson(std::span<const TopicReading> readings) {
+    using modReadings::profile;
+    rapidjson::StringBuffer buffer;
+    JsonWriter json(buffer);
+    json.StartObject();
+    WriteMember(json, "first", ToUtf8(profile.FirstName));
+    WriteMember(json, "middle", ToUtf8(profile.MiddleName));
+    WriteMember(json, "last", ToUtf8(profile.LastName));
+    WriteMember(json, "month", ToUtf8(profile.BirthMonth));
+    json.Key("day");
+    json.Int(modReadings::NumberFromText(profile.BirthDay));
+    json.Key("year");
+    json.Int(modReadings::NumberFromText(profile.BirthYear));
+    WriteMember(json, "today", Today());
+    json.Key("topics");
+    json.StartArray();
+    for (const TopicReading &reading : readings) {
+        json.StartObject();
+        WriteMember(json, "caption", ToUtf8(reading.caption));
+        WriteMember(json, "number", ToUtf8(reading.number));
+        json.Key("runs");
+        json.StartArray();
+        for (const Run &run : reading.runs) {
+            json.StartObject();
+            WriteMember(json, "text", ToUtf8(run.text));
+            json.Key("bold");
+            json.Bool(run.bold);
+            json.EndObject();
+        }
+        json.EndArray();
+        json.EndObject();
+    }
+    json.EndArray();
+    json.EndObject();
+    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+}
+
+std::string ReadingsAsRtf(std::span<const TopicReading> readings) {
+    std::vector<Run> runs;
+    for (const TopicReading &reading : readings) {
+        if (!runs.empty())
+            runs.back().text += u"\r\n\r\n";
+        runs.insert(runs.end(), reading.runs.begin(), reading.runs.end());
+    }
+    return modReadings::ToRtf(runs);
+}
+
+std::string ReadingsAs(Format format, std::span<const TopicReading> readings) {
+    switch (format) {
+    case Format::Json:
+        return ReadingsAsJson(readings);
+    case Format::Rtf:
+        return ReadingsAsRtf(readings);
+    case Format::Text:
+        break;
+    }
+    return ReadingsAsText(readings);
+}
+
+std::string ErrorAsJson(long long line, std::string_view complaint) {
+    rapidjson::StringBuffer buffer;
+    JsonWriter json(buffer);
+    json.StartObject();
+    json.Key("line");
+    json.Int64(line);
+    WriteMember(json, "error", complaint);
+    json.EndObject();
+    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+}
+
+std::string BookAsText(std::span<const BookEntry> book) {
+    std::string text;
+    for (const BookEntry &entry : book) {
+        if (!text.empty())
+            text += '\n';
+        text += entry.slot;
+        if (entry.number)
+            text += ' ' + std::to_string(*entry.number);
+        text += '\n';
+        AppendPlain(text, entry.text);
+        text += '\n';
+    }
+    return text;
+}
+
+std::string BookAsJson(std::span<const BookEntry> book) {
+    rapidjson::StringBuffer buffer;
+    rapidjson::PrettyWriter<rapidjson::StringBuffer> json(buffer);
+    json.SetIndent(' ', 1);
+    json.StartArray();
+    for (const BookEntry &entry : book) {
+        json.StartObject();
+        WriteMember(json, "slot", entry.slot);
+        json.Key("number");
+        if (entry.number)
+            json.Int(*entry.number);
+        else
+            json.Null();
+        WriteMember(json, "text", ToUtf8(entry.text));
+        json.EndObject();
+    }
+    json.EndArray();
+    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+}

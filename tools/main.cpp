@@ -1,0 +1,80 @@
+#include "core/clock.h"
+#include "tools/batch.h"
+#include "tools/options.h"
+#include "tools/output.h"
+#include "version.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+enum ExitCode { ok = 0, failed = 1, wrongInput = 2 };
+
+/// One line on standard error.
+int Complain(const QString &complaint, ExitCode code) {
+    std::fprintf(stderr, "orravane-report: %s\n", complaint.toUtf8().constData());
+    return code;
+}
+
+int Print(const QString &fileName, const std::string &bytes) {
+    Output output(fileName);
+    output.Write(bytes);
+    output.Finish();
+    return output.Error().isEmpty() ? ok : Complain(output.Error(), failed);
+}
+
+int PrintBook(const Options &options) {
+    const auto book = modReadings::Book();
+    return Print(options.output,
+                 options.format == Format::Json ? BookAsJson(book) : BookAsText(book));
+}
+
+int PrintPerson(const Options &options) {
+    QString complaint;
+    const auto person = CheckPerson(options.person, {QStringLiteral("--")}, complaint);
+    if (!person)
+        return Complain(complaint, wrongInput);
+    return Print(options.output, ReadingsAs(options.format, ReadPerson(*person, options.topics)));
+}
+
+int PrintBatch(const Options &options) {
+    QString complaint;
+    const BatchResult result = RunBatch(options, complaint);
+    if (!complaint.isEmpty())
+        return Complain(complaint, result == BatchResult::Unusable ? wrongInput : failed);
+    return result == BatchResult::AllRead ? ok : failed;
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    qputenv("LC_ALL", "C.UTF-8"); // the tool speaks English and UTF-8 wherever it runs
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("orravane-report"));
+
+    QString complaint;
+    const auto options = ParseOptions(QCoreApplication::arguments(), complaint);
+    if (!options)
+        return Complain(complaint, wrongInput);
+
+    std::optional<modReadings::FixedClock> today;
+    if (options->today)
+        today.emplace(*options->today);
+
+    switch (options->task) {
+    case Options::Task::Help:
+        return Print({}, options->help.toStdString());
+    case Options::Task::Version:
+        return Print({}, std::string("orravane-report ") + orravaneVersion + '\n');
+    case Options::Task::Book:
+        return PrintBook(*options);
+    case Options::Task::Batch:
+        return PrintBatch(*options);
+    case Options::Task::Person:
+        return PrintPerson(*options);
+    }
+    return failed;
+}

@@ -1,0 +1,37 @@
+#include "tools/output.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+Output::Output(const QString &fileName) : fileName_(fileName) {
+    if (fileName.isEmpty())
+        return;
+    file_ = std::make_unique<QSaveFile>(fileName);
+    if (!file_->open(QIODevice::WriteOnly))
+        Fail(file_->errorString());
+}
+
+void Output::Fail(const QString &reason) {
+    if (error_.isEmpty())
+        error_ = (fileName_.isEmpty() ? QStringLiteral("standard output") : fileName_) +
+                 QStringLiteral(": ") + reason;
+}
+
+void Output::Write(std::string_view bytes) {
+    if (!error_.isEmpty())
+        return;
+    if (file_) {
+        if (file_->write(bytes.data(), static_cast<qint64>(bytes.size())) !=
+            static_cast<qint64>(bytes.size()))
+            Fail(file_->errorString());
+    } else if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() ||
+               std::fflush(stdout) != 0) {
+        Fail(QString::fromLocal8Bit(std::strerror(errno)));
+    }
+}
+
+void Output::Finish() {
+    if (error_.isEmpty() && file_ && !file_->commit())
+        Fail(file_->errorString());
+}

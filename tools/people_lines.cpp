@@ -1,0 +1,167 @@
+#include "tools/people_lines.h"
+
+#include <QStringDecoder>
+
+#include <csv.h>
+#include <rapidjson/document.h>
+#include <rapidjson/error/en.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+struct Member {
+    std::string_view name;
+    QString PersonInput::*input;
+};
+
+constexpr std::array<Member, 6> members{{{"first", &PersonInput::first},
+                                         {"middle", &PersonInput::middle},
+                                         {"last", &PersonInput::last},
+                                         {"month", &PersonInput::month},
+                                         {"day", &PersonInput::day},
+                                         {"year", &PersonInput::year}}};
+
+const QString allowedMembers =
+    QStringLiteral("allowed are first, middle, last, month, day and year");
+
+QString PersonInput::*InputNamed(std::string_view name) {
+    const auto found = std::ranges::find(members, name, &Member::name);
+    return found == members.end() ? nullptr : found->input;
+}
+
+/// `bytes` as text, or nothing when they are not UTF-8.
+std::optional<QString> FromUtf8(std::string_view bytes) {
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    return decode.hasError() ? std::nullopt : std::optional(std::move(text));
+}
+
+/// The fields of one CSV line. Blanks in a field are part of it.
+class CsvLine {
+public:
+    explicit CsvLine(const std::string &line) {
+        csv_parser parser;
+        csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI);
+        csv_set_space_func(&parser, [](unsigned char) { return 0; });
+        const auto field = [](void *text, std::size_t size, void *self) {
+            static_cast<CsvLine *>(self)->fields.emplace_back(static_cast<const char *>(text),
+                                                              size);
+        };
+        if (csv_parse(&parser, line.data(), line.size(), field, nullptr, this) != line.size() ||
+            csv_fini(&parser, field, nullptr, this) != 0)
+            error = csv_strerror(csv_error(&parser));
+        csv_free(&parser);
+    }
+
+    std::vector<std::string> fields;
+    std::string error; ///< empty when the line is well formed
+};
+
+/// A JSON string as it is, a whole number in decimal.
+std::optional<QString> Value(const rapidjson::Value &value) {
+    if (value.IsString())
+        return QString::fromUtf8(value.GetString(),
+                                 static_cast<qsizetype>(value.GetStringLength()));
+    if (value.IsInt64())
+        return QString::number(value.GetInt64());
+    return std::nullopt;
+}
+
+} // namespace
+
+bool PeopleLines::Begin(const std::string &line, QString &complaint) {
+    if (line.starts_with('{'))
+        return false;
+
+    const CsvLine header(line);
+    for (const std::string &name : header.fields) {
+        QString PersonInput::*input = InputNamed(name);
+        if (input == nullptr || std::ranges::find(columns_, input) != columns_.end()) {
+            complaint = QStringLiteral("the header has the column \"%1\" %2; %3")
+                            .arg(QString::fromUtf8(name),
+                                 input == nullptr ? QStringLiteral("that is not allowed")
+                                                  : QStringLiteral("twice"),
+                                 allowedMembers);
+            return true;
+        }
+        columns_.push_back(input);
+    }
+    for (const Member &member : members)
+        if (member.name != "middle" &&
+            std::ranges::find(columns_, member.input) == columns_.end()) {
+            complaint = QStringLiteral("the header lacks the column \"%1\"; %2")
+                            .arg(QLatin1StringView(member.name.data(),
+                                                   static_cast<qsizetype>(member.name.size())),
+                                 allowedMembers);
+            return true;
+        }
+    if (!header.error.empty())
+        complaint =
+            QStringLiteral("the header is not CSV: ") + QString::fromStdString(header.error);
+    return true;
+}
+
+std::optional<PersonInput> PeopleLines::Parse(const std::string &line, QString &complaint) const {
+    return columns_.empty() ? ParseJson(line, complaint) : ParseCsv(line, complaint);
+}
+
+std::optional<PersonInput> PeopleLines::ParseJson(const std::string &line,
+                                                  QString &complaint) const {
+    const auto complain = [&](const QString &what) {
+        complaint = what;
+        return std::nullopt;
+    };
+    rapidjson::Document document;
+    document.Parse<rapidjson::kParseValidateEncodingFlag>(line.data(), line.size());
+    if (document.HasParseError())
+        return complain(
+            QStringLiteral("not JSON: %1 (at character %2)")
+                .arg(QLatin1StringView(rapidjson::GetParseError_En(document.GetParseError())))
+                .arg(document.GetErrorOffset() + 1));
+    if (!document.IsObject())
+        return complain(QStringLiteral("not a JSON object; ") + allowedMembers);
+
+    PersonInput person;
+    for (const auto &member : document.GetObject()) {
+        const QString name = QString::fromUtf8(
+            member.name.GetString(), static_cast<qsizetype>(member.name.GetStringLength()));
+        QString PersonInput::*input =
+            InputNamed({member.name.GetString(), member.name.GetStringLength()});
+        if (input == nullptr)
+            return complain(
+                QStringLiteral("the member \"%1\" is not allowed; %2").arg(name, allowedMembers));
+        const auto value = Value(member.value);
+        if (!value)
+            return complain(QStringLiteral("%1 is neither a text nor a whole number").arg(name));
+        person.*input = *value;
+    }
+    return person;
+}
+
+std::optional<PersonInput> PeopleLines::ParseCsv(const std::string &line,
+                                                 QString &complaint) const {
+    const CsvLine csv(line);
+    if (!csv.error.empty()) {
+        complaint = QStringLiteral("not CSV: ") + QString::fromStdString(csv.error);
+        return std::nullopt;
+    }
+    if (csv.fields.size() != columns_.size()) {
+        complaint = QStringLiteral("%1 fields where the header has %2")
+                        .arg(csv.fields.size())
+                        .arg(columns_.size());
+        return std::nullopt;
+    }
+    PersonInput person;
+    for (std::size_t index = 0; index < columns_.size(); ++index) {
+        const auto text = FromUtf8(csv.fields[index]);
+        if (!text) {
+            complaint = QStringLiteral("not UTF-8");
+            return std::nullopt;
+        }
+        person.*columns_[index] = *text;
+    }
+    return person;
+}
