@@ -14,14 +14,14 @@ constexpr Reading rows[] = {
         u"feeling, and it shows that there is room beside you."},
     {2, u"You are a selfless individual. Your talent is so quiet that you scarcely count it as "
         u"one: you feel the temperature of a household as the door opens, and you know which two "
-        u"cousins should not be seated together. When a couple you know falls out, each of them "
-        u"telephones you, and you carry across what was meant while leaving out what was said. "
-        u"You hold the ladder, keep the minutes, look up the train for somebody who is late. It "
-        u"is done so smoothly that nobody sees it or thanks you, and this rankles for weeks "
-        u"behind a pleasant face. Worse, you have adjusted for so many years that when someone "
-        u"asks what you yourself would enjoy, you have to go and look. Answer that question on "
-        u"paper, for a Sunday of your own choosing, and then spend it that way. The ladder can "
-        u"lean against the wall that day."},
+        u"cousins should not be seated together. In a talk that has turned stiff you find the "
+        u"harmless subject, and you pass on what was meant while leaving out what was said. You "
+        u"hold the ladder, keep the minutes, look up the train for somebody who is late. It is "
+        u"done so smoothly that nobody sees it or thanks you, and this rankles for weeks behind a "
+        u"pleasant face. Worse, you have adjusted for so many years that when someone asks what "
+        u"you yourself would enjoy, you have to go and look. Answer that question on paper, for a "
+        u"Sunday of your own choosing, and then spend it that way. The ladder can lean against "
+        u"the wall that day."},
     {3, u"You have good verbal and written communication skills and thus express your creative "
         u"skills in an effective way. A flat tire becomes a story by the time the tow truck "
         u"arrives, and your note on the kitchen table gets kept. You talk your way past guards, "
@@ -36,8 +36,8 @@ constexpr Reading rows[] = {
         u"and feels looked after. You use this gift even where nobody wants it. A picture that "
         u"hangs crooked in a stranger's hall distracts you from the stranger. There is one right "
         u"way to load a car, and a vacation planned to the quarter hour leaves no gap for "
-        u"anything to happen in. Leave one afternoon of it blank. If what turns up is poor, you "
-        u"have lost three hours, and you will still be the one who knows where the tickets are."},
+        u"anything to happen in. Walk past one crooked picture a day and look at the host. Very "
+        u"little is lost by it, and you will still be the one who knows where the tickets are."},
     {5, u"You are unconventional and would like to do things in new and different ways. There are "
         u"several ways home and you take them by mood. In a foreign town you are bargaining in "
         u"bad grammar, with both hands, while your companions are still searching the phrase "

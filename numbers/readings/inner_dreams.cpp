@@ -22,15 +22,15 @@ constexpr Reading rows[] = {
         u"notice that the other person is mostly relieved."},
     {3, u"People of this number are more artistically inclined. Color, a good phrase, a hat that "
         u"nobody else would risk: something about you is noticed as you enter, and you would be "
-        u"sorry if it were not. Stories improve in your mouth, and by the fourth telling a single "
-        u"dog has become a pack. Company brightens when you arrive, so hosts seat you next to the "
-        u"difficult cousin. In secret you see yourself on a stage, at a microphone or between the "
-        u"covers of a book, with strangers laughing in the right places. Two things stand in the "
-        u"way. Charm earns you applause for mere sketches, which makes the finished work feel "
-        u"unnecessary, and people put you down as a lightweight. Besides, you go on entertaining "
-        u"when you are miserable, and even your oldest friend is deceived. Turn up at that "
-        u"friend's door one evening with nothing amusing to say. You will be let in just the "
-        u"same, and stay longer."},
+        u"sorry if it were not. You talk with both hands, and people at the far end lean in to "
+        u"learn what they are missing. Company brightens when you arrive, so hosts seat you next "
+        u"to the difficult cousin. In secret you see yourself on a stage, at a microphone or "
+        u"between the covers of a book, with strangers laughing in the right places. Two things "
+        u"stand in the way. Charm earns you applause for mere sketches, which makes the finished "
+        u"work feel unnecessary, and people put you down as a lightweight. Besides, you go on "
+        u"entertaining when you are miserable, and even your oldest friend is deceived. Turn up "
+        u"at that friend's door one evening with nothing amusing to say. You will be let in just "
+        u"the same, and stay longer."},
     {4, u"People of this number have tremendous grit and courage. It does not show in any "
         u"swagger: you wear what lasts, arrive at the hour agreed, and are handed the cash box at "
         u"every school fair because you look as if the sum would come out right. Strangers trust "
@@ -77,9 +77,9 @@ constexpr Reading rows[] = {
         u"people who would know what you had found. Applause from a crowd would only embarrass "
         u"you. What suffers is affection, since yours is deep and mostly invisible. In a quarrel "
         u"you go silent, settle the whole matter in your head, and come back with a conclusion "
-        u"that nobody else took part in. A friend in tears is given the correct fact. When you "
-        u"need to withdraw, say on which day you will talk again; the silence then has an end and "
-        u"can be borne. And put a hand on the friend's arm before the fact comes out."},
+        u"that nobody else took part in. A friend in tears is given the correct fact. Read the "
+        u"other person your verdict while there is still time to appeal, and be prepared to lose "
+        u"a point or two. And put a hand on the friend's arm before the fact comes out."},
     {8, u"People who belong to this personality number have a strong and dynamic personality. "
         u"When you walk into a meeting, backs straighten and the jokes stop, though you only came "
         u"for your glasses. Good cloth, a steady look and short sentences give the impression of "

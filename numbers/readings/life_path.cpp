@@ -39,7 +39,7 @@ constexpr Reading rows[] = {
         u"more to you than great occasions. The danger lies in waiting to be read as well as you "
         u"read others. Few people listen as you do, and someone who misses a hint is seldom cold, "
         u"only hard of hearing in that place. Your road leads to saying what you want while it is "
-        u"still a small matter. Name the restaurant, or say that the joke hurt. At first your "
+        u"still a small matter. Ask for the window seat, or say that the joke hurt. At first your "
         u"voice will sound to you like shouting, where others merely hear somebody being clear. "
         u"Once the friendship has stood that test, you can keep the peace without leaving "
         u"yourself out of it."},
@@ -139,8 +139,8 @@ constexpr Reading rows[] = {
         u"Love comes slowly. You test a person for a good while, often without their noticing, "
         u"and those who pass are given a trust that is not taken back. Even then they have to "
         u"guess at what you feel. Your road is about relying on something before the proof is "
-        u"complete. Tell one person what is on your mind while you are still unsure of it, in "
-        u"unfinished sentences. Up to now they have only met your conclusions."},
+        u"complete. Give somebody whom you have tested long enough a thing of yours to hold, a "
+        u"key, a plan or a grief, and do not look in to see how it is kept."},
     {8, u"People with Life Path number 8 are good leaders, organizers and governors. Shown a "
         u"failing shop or a badly run committee, you see within minutes what it wastes and who "
         u"ought to be doing what. Large decisions leave you calm, and only the endless talk "

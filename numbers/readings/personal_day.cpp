@@ -22,7 +22,7 @@ constexpr Reading rows[] = {
         u"repay a second reading. The machine or the clerk will be slow, so bring something to do "
         u"meanwhile. Stop at the hour you set; the mistakes come after it."},
     {5, u"On this day you would love to travel to distant places for relaxation. If the far "
-        u"country is out of reach, get off two stops early, eat a dish you cannot pronounce, sit "
+        u"country is out of reach, ride some bus to its last stop, order lunch by pointing, sit "
         u"in a park where nobody knows you. A plan is changed at short notice, rather to your "
         u"taste. Promise nothing for next month while you are in this mood."},
     {6, u"This is a day to maintain balance and harmony in life. Work asks for one hour more and "

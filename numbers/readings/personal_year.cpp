@@ -22,12 +22,12 @@ constexpr Reading rows[] = {
         u"usually gets you the wrong one. Put the waiting to use by learning how the others work "
         u"and what they are afraid of, for your best chances arrive through someone who has found "
         u"you easy to deal with. Taking the second chair suits the time, and so does the careful "
-        u"part of a job that another person signs. Your skin is thinner than usual. A short "
-        u"remark at breakfast spoils your week, and instead of answering it you agree to "
-        u"something else that you did not want. These small surrenders add up, and by the last "
-        u"months you are cross with a person who never knew that you objected. Speak while the "
-        u"matter is still small, in a quiet tone and to the one concerned. A friendship tended "
-        u"this year is often still there twenty years on."},
+        u"part of a job that another person signs. Your skin is thinner than usual. A joke at "
+        u"your expense spoils your week, and instead of answering it you agree to something else "
+        u"that you did not want. These small surrenders add up, and by the last months you are "
+        u"cross with a person who never knew that you objected. Speak while the matter is still "
+        u"small, in a quiet tone and to the one concerned. A friendship tended this year is often "
+        u"still there twenty years on."},
     {3, u"It is a year when you will be very Social & Creative. Invitations come from people you "
         u"had lost sight of, and you find that you have something to say when you get there. A "
         u"story told at a dinner goes round and is asked for again; a sketch or a song that lay "

@@ -13,10 +13,10 @@ constexpr Reading rows[] = {
         u"out and set aside. You are better company for it, since a person who has their own way "
         u"at last has less reason to snap.\r\n"
         u"The price is that you can become someone whom everybody works around. Younger people "
-        u"stop arguing, and you take their silence for consent. Notice how long it has been since "
-        u"you were told flatly that you were wrong. Pick a person whose courage you trust, and "
-        u"grant them the right to contradict you without paying for it. Losing an argument now "
-        u"and then does your standing no harm."},
+        u"stop arguing, and it suits you to think them convinced. Notice how long it has been "
+        u"since you were told flatly that you were wrong. Pick a person whose courage you trust, "
+        u"and grant them the right to contradict you without paying for it. Losing an argument "
+        u"now and then does your standing no harm."},
     {2, u"Your people interaction skills will improve and you will handle all sorts of "
         u"relationships with others tactfully. What used to be plain softness turns with age into "
         u"skill. Earlier you gave in for fear of a scene; now you know which points can be "
