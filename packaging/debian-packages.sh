@@ -1,0 +1,37 @@
+# The Debian 12 packages that the two commands need, and their installation.
+# Sourced by ./run and ./test.
+
+build_packages="
+    ca-certificates cmake g++ ninja-build
+    qt6-base-dev qt6-svg-dev rapidjson-dev libcsv-dev
+    fonts-dejavu-core xdg-utils
+"
+
+test_packages="
+    clang-format libgtest-dev
+"
+
+# install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
+# time when all are.
+install_missing() {
+    missing=""
+    for package in "$@"; do
+        case "$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null)" in
+        "install ok installed") ;;
+        *) missing="$missing $package" ;;
+        esac
+    done
+    [ -n "$missing" ] || return 0
+
+    as_root=""
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null 2>&1; then
+            echo "These Debian packages are missing, and neither root nor sudo is there to install them:$missing" >&2
+            return 1
+        fi
+        as_root="sudo"
+    fi
+    echo "Installing Debian packages:$missing" >&2
+    $as_root apt-get -qq update >&2 &&
+        $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -y install --no-install-recommends $missing >&2
+}
