@@ -1,5 +1,6 @@
 #include "shell/rich_text_box.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -68,6 +69,38 @@ std::vector<modReadings::Run> RichTextBox::Runs() const {
         }
     }
     return runs;
+}
+
+void RichTextBox::keyPressEvent(QKeyEvent *event) {
+    // The caret stands at the end while the reader is at the beginning, so plain keys scroll
+    // and leave the caret alone; with Shift they select as usual.
+    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
+        QScrollBar *bar = verticalScrollBar();
+        switch (event->key()) {
+        case Qt::Key_Up:
+            bar->triggerAction(QScrollBar::SliderSingleStepSub);
+            return;
+        case Qt::Key_Down:
+            bar->triggerAction(QScrollBar::SliderSingleStepAdd);
+            return;
+        case Qt::Key_PageUp:
+            bar->triggerAction(QScrollBar::SliderPageStepSub);
+            return;
+        case Qt::Key_PageDown:
+        case Qt::Key_Space:
+            bar->triggerAction(QScrollBar::SliderPageStepAdd);
+            return;
+        case Qt::Key_Home:
+            bar->triggerAction(QScrollBar::SliderToMinimum);
+            return;
+        case Qt::Key_End:
+            bar->triggerAction(QScrollBar::SliderToMaximum);
+            return;
+        default:
+            break;
+        }
+    }
+    QTextEdit::keyPressEvent(event);
 }
 
 void RichTextBox::mousePressEvent(QMouseEvent *event) {

@@ -14,7 +14,7 @@
 namespace {
 
 modReadings::RtfFont FontOf(const RichTextBox &RTB) {
-    const QFont font = RTB.font();
+    const QFont &font = RTB.font();
     modReadings::RtfFont rtf;
     rtf.family = font.families().value(0).toStdString();
     rtf.halfPoints = static_cast<int>(std::lround(font.pixelSize() * 72.0 / 96.0 * 2.0));

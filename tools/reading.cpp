@@ -10,6 +10,7 @@ using namespace modReadings;
 
 std::vector<std::u16string_view> AllCaptions() {
     std::vector<std::u16string_view> captions;
+    captions.reserve(passOrder.size());
     for (const Calculator calculate : passOrder)
         captions.push_back(TopicOf(calculate).caption);
     return captions;
@@ -29,6 +30,7 @@ std::vector<TopicReading> ReadPerson(const Person &person,
     RunAllCalculators();
 
     std::vector<TopicReading> readings;
+    readings.reserve(captions.size());
     for (const std::u16string_view caption : captions) {
         RunList pane;
         TopicReading reading{caption, {}, {}};
