@@ -221,8 +221,10 @@ void frmMain::RTB_Event() {
 
 void frmMain::cmdPrint_Click() {
     QTextCursor caret = Picture2->RTB->textCursor();
-    caret.clearSelection(); // the whole document, not what is marked
-    Picture2->RTB->setTextCursor(caret);
+    if (caret.hasSelection()) { // the whole document is printed, not what is marked
+        caret.setPosition(caret.selectionStart());
+        Picture2->RTB->setTextCursor(caret);
+    }
     PrintDocument(*Picture2->RTB->document());
 }
 

@@ -14,7 +14,6 @@ QString PageStyle() {
         #Picture1, #Picture2, #Picture3 { background-color: rgb(89, 73, 110); }
         #Picture1 QLabel, #Picture3 QLabel { color: white; background: transparent; }
         #Picture3 QLabel { font-weight: bold; }
-        #lblHelp0, #lblHelp1, #lblAbout2 { color: rgb(255, 199, 6); }
         #Picture3 QLabel#lblHelp0, #Picture3 QLabel#lblHelp1, #Picture3 QLabel#lblAbout2 { color: rgb(255, 199, 6); }
 
         QGroupBox { color: white; border: 1px solid rgb(146, 131, 166); border-radius: 3px; margin-top: 7px; }
@@ -31,8 +30,9 @@ QString PageStyle() {
                                       border: 1px solid rgb(176, 163, 193); outline: none;
                                       selection-background-color: rgb(255, 199, 6); selection-color: rgb(42, 28, 62); }
 
-        #TV { color: white; background-color: rgb(89, 73, 110); border: none; outline: none; padding: 4px;
-              show-decoration-selected: 0; }
+        #TV { color: white; background-color: rgb(89, 73, 110); border: 1px solid rgb(89, 73, 110); outline: none;
+              padding: 3px; }
+        #TV:focus { border: 1px solid rgb(255, 199, 6); }
         #TV::item { height: 20px; padding-left: 2px; border: none; color: white; }
         #TV::item:hover { background-color: rgb(108, 91, 131); }
         #TV::item:selected { background-color: rgb(58, 43, 78); color: rgb(255, 217, 92); }
