@@ -19,7 +19,7 @@ void WriteTopic(RichTextPane &pane, const Topic &topic, int closingBreaks) {
     for (const Block &block : blocks) {
         const int breaks =
             &block == &blocks.back() ? std::max(block.breaks, closingBreaks) : block.breaks;
-        AppendBlock(pane, std::u16string(block.before) + store.*block.slot, breaks);
+        AppendBlock(pane, block.before, store.*block.slot, breaks);
     }
 }
 

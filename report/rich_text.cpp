@@ -4,10 +4,14 @@
 
 namespace modReadings {
 
-void AppendBlock(RichTextPane &pane, std::u16string_view text, int breaks) {
-    std::u16string block(text);
+void AppendBlock(RichTextPane &pane, std::u16string_view before, std::u16string_view text,
+                 int breaks) {
+    std::u16string block;
+    block.reserve(before.size() + text.size() +
+                  static_cast<std::size_t>(breaks) * lineBreak.size());
+    block.append(before).append(text);
     for (int written = 0; written < breaks; ++written)
-        block += lineBreak;
+        block.append(lineBreak);
     pane.SetSelectedText(block);
 }
 

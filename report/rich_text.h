@@ -40,8 +40,14 @@ public:
     virtual void SetSelectedText(std::u16string_view text) = 0;
 };
 
+/// Writes `before`, `text` and then `breaks` line breaks at the caret, as one write.
+void AppendBlock(RichTextPane &pane, std::u16string_view before, std::u16string_view text,
+                 int breaks);
+
 /// Writes `text` and then `breaks` line breaks at the caret, as one write.
-void AppendBlock(RichTextPane &pane, std::u16string_view text, int breaks = 0);
+inline void AppendBlock(RichTextPane &pane, std::u16string_view text, int breaks = 0) {
+    AppendBlock(pane, {}, text, breaks);
+}
 
 /// Writes `text` and two line breaks in bold TopicInk. Bold is off afterwards; the
 /// colour stays, so what follows has the colour of its heading.

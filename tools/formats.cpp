@@ -31,6 +31,12 @@ template <typename Writer> void WriteMember(Writer &json, const char *name, std:
     WriteString(json, text);
 }
 
+/// What is in `buffer`, ended as a line.
+std::string Line(rapidjson::StringBuffer &buffer) {
+    buffer.Put('\n');
+    return {buffer.GetString(), buffer.GetSize()};
+}
+
 std::string Today() {
     const auto date = modReadings::Clock::Date();
     char text[32];
@@ -48,16 +54,7 @@ void AppendPlain(std::string &out, std::u16string_view text) {
 
 } // namespace
 
-std::string ToUtf8(std::u16string_view text) {
-    if (std::ranges::all_of(
-            text, [](char16_t unit) { return unit < 0x80; })) { // all prose of the program
-        std::string ascii(text.size(), '\0');
-        std::ranges::transform(text, ascii.begin(),
-                               [](char16_t unit) { return static_cast<char>(unit); });
-        return ascii;
-    }
-    return QStringView(text).toUtf8().toStdString();
-}
+std::string ToUtf8(std::u16string_view text) { return QStringView(text).toUtf8().toStdString(); }
 
 std::string ReadingsAsText(std::span<const TopicReading> readings) {
     std::string text;
@@ -106,7 +103,7 @@ std::string ReadingsAsJson(std::span<const TopicReading> readings) {
     }
     json.EndArray();
     json.EndObject();
-    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+    return Line(buffer);
 }
 
 std::string ReadingsAsRtf(std::span<const TopicReading> readings) {
@@ -139,7 +136,7 @@ std::string ErrorAsJson(long long line, std::string_view complaint) {
     json.Int64(line);
     WriteMember(json, "error", complaint);
     json.EndObject();
-    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+    return Line(buffer);
 }
 
 std::string BookAsText(std::span<const BookEntry> book) {
@@ -174,5 +171,5 @@ std::string BookAsJson(std::span<const BookEntry> book) {
         json.EndObject();
     }
     json.EndArray();
-    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+    return Line(buffer);
 }
