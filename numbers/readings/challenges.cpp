@@ -141,8 +141,8 @@ constinit const std::u16string_view challengeAbout =
     u"your date of birth and name these weak places for you, so that you know what you are up "
     u"against and can set to work on it early.\r\n"
     u"There are generally three challenges included in your life path. Two of them are sub "
-    u"challenges, and the third is the main one, whose lesson goes with you for the whole of "
-    u"your life and asks the most.\r\n"
+    u"challenges, and the third is the main one, whose lesson goes with you through the whole "
+    u"of life and asks the most.\r\n"
     u"The first sub challenge indicates problems in the first part of your life, and the second "
     u"sub challenge indicates problems during the second half of the life. Both grow lighter "
     u"once you stop blaming others or bad luck and look at your own part in them.";

@@ -39,10 +39,10 @@ constexpr Reading rows[] = {
         u"one sheet, hear the person who disagrees, and decide before the afternoon is over. What "
         u"you put off is soon decided by somebody with less care. Tonight you are off duty, and "
         u"nobody at the table reports to you."},
-    {9, u"This is a day to cherish the companionship of others. Sit with an old friend and ask "
-        u"about the thing they mentioned last time. You are inclined to give away your coat and "
-        u"your lunch money today; keep the bus fare. At the goodbye, say the warm thing that you "
-        u"usually save for cards."},
+    {9, u"This is a day to cherish the companionship of others. Sit down with an old friend and "
+        u"ask about the thing they mentioned last time. You are inclined to give away your coat "
+        u"and your lunch money today; keep the bus fare. At the goodbye, say the warm thing that "
+        u"you usually save for cards."},
 };
 } // namespace
 

@@ -1,0 +1,58 @@
+#include "core/letters.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace modReadings {
+namespace {
+
+static_assert(LetterValue(u"J") == 1 && LetterValue(u"A") == 1 && LetterValue(u"S") == 1);
+static_assert(LetterValue(u"K") == 2 && LetterValue(u"B") == 2 && LetterValue(u"T") == 2);
+static_assert(LetterValue(u"L") == 3 && LetterValue(u"C") == 3 && LetterValue(u"U") == 3);
+static_assert(LetterValue(u"M") == 4 && LetterValue(u"D") == 4 && LetterValue(u"V") == 4);
+static_assert(LetterValue(u"N") == 5 && LetterValue(u"E") == 5 && LetterValue(u"W") == 5);
+static_assert(LetterValue(u"O") == 6 && LetterValue(u"F") == 6 && LetterValue(u"X") == 6);
+static_assert(LetterValue(u"P") == 7 && LetterValue(u"G") == 7 && LetterValue(u"Y") == 7);
+static_assert(LetterValue(u"Q") == 8 && LetterValue(u"H") == 8 && LetterValue(u"Z") == 8);
+static_assert(LetterValue(u"R") == 9 && LetterValue(u"I") == 9);
+
+static_assert(LetterValue(u"") == 0);
+static_assert(LetterValue(u"a") == 0 && LetterValue(u"z") == 0);
+static_assert(LetterValue(u"AB") == 0 && LetterValue(u"AA") == 0);
+static_assert(LetterValue(u"A ") == 0 && LetterValue(u" A") == 0);
+static_assert(LetterValue(u"1") == 0 && LetterValue(u" ") == 0 && LetterValue(u"-") == 0);
+static_assert(LetterValue(u"\u00C9") == 0);     // E with an acute accent
+static_assert(LetterValue(u"\u0391") == 0);     // a Greek Alpha, which looks like an A
+static_assert(LetterValue(u"\uFF21") == 0);     // a wide A
+static_assert(LetterValue(u"\U0001F600") == 0); // two characters
+
+/// The chart runs through the alphabet in nines, so a letter's value follows from its place.
+consteval bool OnlyTheCapitalsHaveAValue() {
+    for (char32_t unit = 0; unit <= 0xFFFF; ++unit) {
+        const bool capital = unit >= U'A' && unit <= U'Z';
+        const int expected = capital ? static_cast<int>((unit - U'A') % 9) + 1 : 0;
+        if (ChartValue(static_cast<char16_t>(unit)) != expected)
+            return false;
+    }
+    return true;
+}
+static_assert(OnlyTheCapitalsHaveAValue());
+
+static_assert(NameLetterSum(u"") == 0);
+static_assert(NameLetterSum(u"OAK") == 9);                          // 6 + 1 + 2
+static_assert(NameLetterSum(u"RIVER") == 36);                       // 9 + 9 + 4 + 5 + 9
+static_assert(NameLetterSum(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ") == 126); // 45 + 45 + 36
+static_assert(NameLetterSum(u"12-' \u00C9oak") == 0);
+
+TEST(NameLetterSum, IsCheckedToTheLastLetter) {
+    const std::u16string upTo32760(3640, u'R');
+    EXPECT_EQ(NameLetterSum(upTo32760 + u"P"), 32767);
+    EXPECT_THROW(NameLetterSum(upTo32760 + u"Q"), RuntimeFailure);
+    EXPECT_EQ(NameLetterSum(std::u16string(32767, u'A')), 32767);
+    EXPECT_THROW(NameLetterSum(std::u16string(32768, u'A')), RuntimeFailure);
+}
+
+} // namespace
+} // namespace modReadings

@@ -1,0 +1,110 @@
+#include "numbers/calculators.h"
+#include "tests/numbers/cycles/slots.h"
+#include "tests/numbers/derived/derived_rows.h"
+#include "tests/support/fresh_store.h"
+
+namespace modReadings {
+namespace {
+
+// Values of A to Z.
+constexpr std::string_view valuesOfAlphabet = "12345678912345678912345678";
+
+class Balance : public FreshStore {
+protected:
+    static int Of(std::u16string first, std::u16string middle, std::u16string last) {
+        Named(std::move(first), std::move(middle), std::move(last));
+        CalcBalance();
+        return store.BalanceNumber;
+    }
+};
+
+TEST_F(Balance, ThreeInitials) {
+    EXPECT_EQ(Of(u"ANNA", u"IDA", u"RIVER"), 1); // 1 + 9 + 9 = 19, 10
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 1, balanceRows));
+    EXPECT_EQ(Of(u"IDA", u"ROSE", u"IVES"), 9); // 27
+    EXPECT_EQ(Of(u"IDA", u"ROSE", u"DUNN"), 4); // 22 does not stay
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 4, balanceRows));
+}
+
+TEST_F(Balance, NoMiddleName) {
+    EXPECT_EQ(Of(u"CORA", u"", u"HILL"), 2); // 3 + 8 = 11, and never 11
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, balanceRows));
+    EXPECT_EQ(Of(u"ANNA", u"", u"SMITH"), 2); // 1 + 1
+}
+
+TEST_F(Balance, AllInitials) {
+    // Position 26 stands for a name that is missing.
+    const auto name = [](int position) {
+        return position == 26 ? std::u16string()
+                              : std::u16string{static_cast<char16_t>(u'A' + position), u'I'};
+    };
+    const auto value = [](int position) {
+        return position == 26 ? 0 : valuesOfAlphabet[static_cast<std::size_t>(position)] - '0';
+    };
+    for (int first = 0; first <= 26; ++first) {
+        for (int middle = 0; middle <= 26; ++middle) {
+            for (int last = 0; last <= 26; ++last) {
+                const int sum = value(first) + value(middle) + value(last);
+                const int expected = sum == 0 ? 0 : 1 + (sum - 1) % 9;
+                ASSERT_EQ(Of(name(first), name(middle), name(last)), expected)
+                    << first << ' ' << middle << ' ' << last;
+                if (expected != 0) {
+                    ASSERT_TRUE(IsReadingOf(store.BalanceText, expected, balanceRows));
+                }
+            }
+        }
+    }
+}
+
+TEST_F(Balance, InitialWithoutAValueAddsNothing) {
+    EXPECT_EQ(Of(u"-ANNA", u"1IDA", u"BELL"), 2); // the B alone: the first character counts
+    EXPECT_EQ(Of(u" ANNA", u"\u00C9VA", u"BELL"), 2);
+    EXPECT_EQ(Of(u"anna", u"ida", u"BELL"), 2);
+}
+
+TEST_F(Balance, ZeroKeepsTheReadingOfThePersonBefore) {
+    EXPECT_EQ(Of(u"1", u"", u"-"), 0);
+    EXPECT_EQ(store.BalanceText, u"");
+    EXPECT_TRUE(store.BalanceAbout.starts_with(u"Different people"));
+
+    EXPECT_EQ(Of(u"CORA", u"", u"HILL"), 2);
+
+    EXPECT_EQ(Of(u"\u00C9VA", u"", u"\u00D6MER"), 0);
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, balanceRows));
+
+    EXPECT_EQ(Of(u"", u"", u""), 0);
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, balanceRows));
+
+    EXPECT_EQ(Of(u"ANNA", u"IDA", u"RIVER"), 1);
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 1, balanceRows));
+}
+
+TEST_F(Balance, SixHasItsShortSentenceAndTheAboutItsTwoParagraphs) {
+    EXPECT_EQ(Of(u"ED", u"", u"ASH"), 6);
+    EXPECT_NE(store.BalanceText.find(
+                  u"You have a loving nature and you will be loved by one and all at the same "
+                  u"time."),
+              std::u16string::npos);
+    EXPECT_TRUE(ParagraphsBegin(
+        store.BalanceAbout,
+        {u"Different people react differently to the challenges they face in life.",
+         u"This number tells you about the difficult times you would face in your life."}));
+    EXPECT_NEAR(static_cast<double>(store.BalanceAbout.size()), 857, 17);
+}
+
+TEST_F(Balance, WritesItsOwnSlotsAndNoOthers) {
+    const ReadingStore marked = MarkedStore();
+    store = marked;
+    EXPECT_EQ(Of(u"CORA", u"", u"HILL"), 2);
+    EXPECT_EQ(ChangedSince(marked), (SlotNames{"BalanceNumber", "BalanceText", "BalanceAbout"}));
+    const ReadingStore once = store;
+    CalcBalance();
+    EXPECT_EQ(ChangedSince(once), SlotNames{});
+
+    store = marked;
+    EXPECT_EQ(Of(u"1", u"2", u"3"), 0);
+    EXPECT_EQ(ChangedSince(marked), (SlotNames{"BalanceNumber", "BalanceAbout"}));
+}
+
+} // namespace
+} // namespace modReadings

@@ -1,0 +1,354 @@
+// The prose of the program against the table of what is settled about it.
+
+#include "numbers/book.h"
+
+#include <gtest/gtest.h>
+#include <rapidjson/document.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace modReadings {
+namespace {
+
+/// What is settled about one text.
+struct Fact {
+    std::string slot;
+    std::optional<int> number;
+    std::size_t paragraphs = 0, characters = 0;
+    std::vector<std::size_t> paragraphLengths; ///< empty where only the whole is settled
+    std::string opening;
+    std::vector<std::string> openings; ///< of every paragraph, where that is settled
+    std::optional<std::string> full, firstParagraph, lastParagraph, ends, contains,
+        thirdSentenceContains;
+};
+
+// The request that stands in place of a reading while there is nothing to read. It shares
+// the slot of a table and is no row of it.
+constexpr std::string_view refusal =
+    "Your Maturity Number is dependent on your LifePath Number and Destiny Number. Please "
+    "calculate these two figures first";
+
+std::string Name(const std::string &slot, std::optional<int> number) {
+    return number ? slot + ' ' + std::to_string(*number) : slot;
+}
+
+Fact FactOf(const rapidjson::Value &row) {
+    Fact fact;
+    const auto lengthOf = [](const rapidjson::Value &value) {
+        return static_cast<std::size_t>(value.GetUint());
+    };
+    for (const auto &member : row.GetObject()) {
+        const std::string key = member.name.GetString();
+        const rapidjson::Value &value = member.value;
+        if (key == "slot")
+            fact.slot = value.GetString();
+        else if (key == "number")
+            fact.number = value.IsNull() ? std::nullopt : std::optional(value.GetInt());
+        else if (key == "paragraphs")
+            fact.paragraphs = lengthOf(value);
+        else if (key == "characters")
+            fact.characters = lengthOf(value);
+        else if (key == "opening")
+            fact.opening = value.GetString();
+        else if (key == "full")
+            fact.full = value.GetString();
+        else if (key == "first_paragraph")
+            fact.firstParagraph = value.GetString();
+        else if (key == "last_paragraph")
+            fact.lastParagraph = value.GetString();
+        else if (key == "ends")
+            fact.ends = value.GetString();
+        else if (key == "contains")
+            fact.contains = value.GetString();
+        else if (key == "third_sentence_contains")
+            fact.thirdSentenceContains = value.GetString();
+        else if (key == "openings")
+            for (const rapidjson::Value &opening : value.GetArray())
+                fact.openings.emplace_back(opening.GetString());
+        else if (key == "paragraph_lengths") {
+            if (!value.IsNull())
+                for (const rapidjson::Value &length : value.GetArray())
+                    fact.paragraphLengths.push_back(lengthOf(length));
+        } else
+            ADD_FAILURE() << "nothing checks the field " << key;
+    }
+    return fact;
+}
+
+const std::vector<Fact> &Facts() {
+    static const std::vector<Fact> facts = [] {
+        std::ifstream file(READINGS_TABLE, std::ios::binary);
+        const std::string json{std::istreambuf_iterator<char>(file), {}};
+        rapidjson::Document document;
+        document.Parse(json.c_str(), json.size());
+        std::vector<Fact> rows;
+        if (document.HasParseError() || !document.IsArray())
+            ADD_FAILURE() << "the table cannot be read";
+        else
+            for (const rapidjson::Value &row : document.GetArray())
+                rows.push_back(FactOf(row));
+        return rows;
+    }();
+    return facts;
+}
+
+using Key = std::pair<std::string, std::optional<int>>;
+
+/// All texts of the book by slot and number. Characters beyond ASCII become a question
+/// mark here; a test of their own finds them.
+const std::multimap<Key, std::string> &Texts() {
+    static const std::multimap<Key, std::string> texts = [] {
+        std::multimap<Key, std::string> all;
+        for (const BookEntry &entry : Book()) {
+            std::string text;
+            for (const char16_t unit : entry.text)
+                text += unit < 0x80 ? static_cast<char>(unit) : '?';
+            all.emplace(Key{entry.slot, entry.number}, text);
+        }
+        return all;
+    }();
+    return texts;
+}
+
+std::vector<std::string> Split(std::string_view text) {
+    std::vector<std::string> paragraphs;
+    for (;;) {
+        const auto end = text.find("\r\n");
+        paragraphs.emplace_back(text.substr(0, end));
+        if (end == std::string_view::npos)
+            return paragraphs;
+        text.remove_prefix(end + 2);
+    }
+}
+
+/// The sentences of a paragraph, each behind the close of the one before and blanks.
+std::vector<std::string> Sentences(const std::string &text) {
+    std::vector<std::string> sentences(1);
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        const bool blank = std::isspace(static_cast<unsigned char>(text[index])) != 0;
+        if (blank && index > 0 &&
+            std::string_view(".!?").find(text[index - 1]) != std::string::npos)
+            sentences.emplace_back();
+        else
+            sentences.back() += text[index];
+    }
+    return sentences;
+}
+
+/// Calls `check(fact, text, paragraphs)` for every text of the table that the book holds.
+template <typename Check> void ForEveryText(Check check) {
+    std::size_t texts = 0;
+    for (const Fact &fact : Facts()) {
+        SCOPED_TRACE(Name(fact.slot, fact.number));
+        const auto [first, last] = Texts().equal_range({fact.slot, fact.number});
+        for (auto text = first; text != last; ++text) {
+            if (text->second == refusal)
+                continue;
+            check(fact, text->second, Split(text->second));
+            ++texts;
+        }
+    }
+    EXPECT_EQ(texts, 251u);
+}
+
+/// Whether a length is within so many percent of the settled one; six characters are
+/// always granted.
+bool Near(std::size_t length, std::size_t settled, std::size_t percent) {
+    const std::size_t away = length > settled ? length - settled : settled - length;
+    return away <= 6 || away * 100 <= settled * percent;
+}
+
+// The table itself, lest a slip in it let a text pass.
+
+TEST(ReadingsTable, HoldsEveryTextOnce) {
+    EXPECT_EQ(Facts().size(), 251u);
+    std::set<Key> keys;
+    for (const Fact &fact : Facts())
+        EXPECT_TRUE(keys.emplace(fact.slot, fact.number).second) << Name(fact.slot, fact.number);
+}
+
+TEST(ReadingsTable, AddsUp) {
+    for (const Fact &fact : Facts()) {
+        SCOPED_TRACE(Name(fact.slot, fact.number));
+        EXPECT_FALSE(fact.opening.empty());
+        EXPECT_GT(fact.paragraphs, 0u);
+        EXPECT_GT(fact.characters, 0u);
+        if (!fact.paragraphLengths.empty()) {
+            EXPECT_EQ(fact.paragraphLengths.size(), fact.paragraphs);
+            std::size_t characters = 2 * (fact.paragraphs - 1); // the line breaks
+            for (const std::size_t length : fact.paragraphLengths)
+                characters += length;
+            EXPECT_EQ(characters, fact.characters);
+        }
+        if (!fact.openings.empty()) {
+            EXPECT_EQ(fact.openings.size(), fact.paragraphs);
+            EXPECT_EQ(fact.openings.front(), fact.opening);
+        }
+        if (fact.full) {
+            EXPECT_EQ(fact.full->size(), fact.characters);
+            EXPECT_TRUE(fact.full->starts_with(fact.opening));
+        }
+    }
+}
+
+// The book.
+
+TEST(Readings, AreAllThereExactlyOnce) {
+    for (const Fact &fact : Facts()) {
+        std::size_t count = 0;
+        const auto [first, last] = Texts().equal_range({fact.slot, fact.number});
+        for (auto text = first; text != last; ++text)
+            count += text->second != refusal;
+        EXPECT_EQ(count, 1u) << Name(fact.slot, fact.number);
+    }
+}
+
+TEST(Readings, AreNoOthersThanTheseAndOneRefusal) {
+    std::set<Key> settled;
+    for (const Fact &fact : Facts())
+        settled.emplace(fact.slot, fact.number);
+    int refusals = 0;
+    for (const auto &[key, text] : Texts()) {
+        if (!settled.contains(key)) {
+            EXPECT_EQ(Name(key.first, key.second), "RealizationText");
+            EXPECT_EQ(text, refusal);
+            ++refusals;
+        }
+    }
+    EXPECT_EQ(refusals, 1);
+    EXPECT_EQ(Texts().size(), 252u);
+}
+
+TEST(Readings, OpenWordForWord) {
+    ForEveryText([](const Fact &fact, const std::string &text, const auto &paragraphs) {
+        EXPECT_TRUE(text.starts_with(fact.opening)) << text.substr(0, 150);
+        ASSERT_GE(paragraphs.size(), fact.openings.size());
+        for (std::size_t index = 0; index < fact.openings.size(); ++index) {
+            // A paragraph without an opening is an empty line.
+            if (fact.openings[index].empty())
+                EXPECT_EQ(paragraphs[index], "") << "paragraph " << index + 1;
+            else
+                EXPECT_TRUE(paragraphs[index].starts_with(fact.openings[index]))
+                    << "paragraph " << index + 1 << ": " << paragraphs[index].substr(0, 150);
+        }
+    });
+}
+
+TEST(Readings, HaveTheirParagraphs) {
+    ForEveryText([](const Fact &fact, const std::string &, const auto &paragraphs) {
+        EXPECT_EQ(paragraphs.size(), fact.paragraphs);
+    });
+}
+
+TEST(Readings, HoldWhatIsFixedInThem) {
+    int fixed = 0;
+    ForEveryText([&](const Fact &fact, const std::string &text, const auto &paragraphs) {
+        const auto expect = [&](const std::optional<std::string> &words, auto found) {
+            if (!words)
+                return;
+            EXPECT_TRUE(found(*words)) << *words << "\n  in: " << text;
+            ++fixed;
+        };
+        expect(fact.full, [&](const std::string &words) { return text == words; });
+        expect(fact.firstParagraph,
+               [&](const std::string &words) { return paragraphs.front() == words; });
+        expect(fact.lastParagraph,
+               [&](const std::string &words) { return paragraphs.back() == words; });
+        expect(fact.ends, [&](const std::string &words) { return text.ends_with(words); });
+        expect(fact.contains,
+               [&](const std::string &words) { return text.find(words) != std::string::npos; });
+        expect(fact.thirdSentenceContains, [&](const std::string &words) {
+            const auto sentences = Sentences(text);
+            return sentences.size() >= 3 && sentences[2].find(words) != std::string::npos;
+        });
+    });
+    // 17 whole texts, a first, a last and a third, one close and two inner sentences.
+    EXPECT_EQ(fixed, 23);
+}
+
+TEST(Readings, ArePlainAscii) {
+    std::size_t texts = 0;
+    for (const BookEntry &entry : Book()) {
+        const auto outside = std::ranges::find_if(entry.text, [](char16_t unit) {
+            return !(unit >= 0x20 && unit < 0x7F) && unit != u'\r' && unit != u'\n';
+        });
+        EXPECT_EQ(outside, entry.text.end())
+            << entry.slot << " holds character " << (outside == entry.text.end() ? 0 : +*outside);
+        ++texts;
+    }
+    EXPECT_EQ(texts, 252u);
+}
+
+TEST(Readings, BreakTheirLinesInOneWay) {
+    ForEveryText([](const Fact &, const std::string &, const auto &paragraphs) {
+        for (const std::string &paragraph : paragraphs) // cut at each "\r\n"
+            EXPECT_EQ(paragraph.find_first_of("\r\n"), std::string::npos) << paragraph;
+    });
+}
+
+TEST(Readings, HoldNoStrayBlanks) {
+    ForEveryText([](const Fact &fact, const std::string &, const auto &paragraphs) {
+        for (std::size_t index = 0; index < paragraphs.size(); ++index) {
+            const std::string &paragraph = paragraphs[index];
+            EXPECT_EQ(paragraph.find("  "), std::string::npos) << paragraph;
+            EXPECT_FALSE(paragraph.starts_with(' ')) << paragraph;
+            // Two headings end in a blank of their own.
+            const bool settled =
+                index < fact.openings.size() && fact.openings[index].ends_with(' ');
+            EXPECT_EQ(paragraph.ends_with(' '), settled) << paragraph;
+        }
+    });
+}
+
+TEST(Readings, HaveEmptyLinesOnlyWhereTheyAreSettled) {
+    ForEveryText([](const Fact &fact, const std::string &, const auto &paragraphs) {
+        for (std::size_t index = 0; index < paragraphs.size(); ++index) {
+            const bool settled =
+                index < fact.paragraphLengths.size() && fact.paragraphLengths[index] == 0;
+            EXPECT_EQ(paragraphs[index].empty(), settled) << "paragraph " << index + 1;
+        }
+    });
+}
+
+TEST(Readings, CloseWithASentence) {
+    ForEveryText([](const Fact &fact, const std::string &text, const auto &) {
+        if (fact.full || fact.slot == "PlanesAbout")
+            return;
+        EXPECT_NE(std::string_view(".!?").find(text.back()), std::string::npos)
+            << "..." << text.substr(text.size() < 40 ? 0 : text.size() - 40);
+    });
+}
+
+TEST(Readings, AreAsLongAsTheyShouldBe) {
+    ForEveryText([](const Fact &fact, const std::string &text, const auto &) {
+        EXPECT_TRUE(Near(text.size(), fact.characters, 2))
+            << text.size() << " characters, " << fact.characters << " settled";
+    });
+}
+
+TEST(Readings, DivideTheirLengthAsTheyShould) {
+    ForEveryText([](const Fact &fact, const std::string &, const auto &paragraphs) {
+        for (std::size_t index = 0;
+             index < std::min(fact.paragraphLengths.size(), paragraphs.size()); ++index) {
+            const std::size_t settled = fact.paragraphLengths[index];
+            EXPECT_TRUE(Near(paragraphs[index].size(), settled, 3))
+                << "paragraph " << index + 1 << ": " << paragraphs[index].size() << " characters, "
+                << settled << " settled";
+        }
+    });
+}
+
+} // namespace
+} // namespace modReadings
