@@ -4,11 +4,12 @@
 build_packages="
     ca-certificates cmake g++ ninja-build
     qt6-base-dev qt6-svg-dev rapidjson-dev libcsv-dev
-    fonts-dejavu-core xdg-utils
+    fonts-dejavu-core gzip librsvg2-bin xdg-utils
 "
 
 test_packages="
-    clang-format libgtest-dev
+    clang-format clang-tidy libgtest-dev
+    appstream desktop-file-utils dpkg-dev man-db
 "
 
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no

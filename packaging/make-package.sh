@@ -1,0 +1,19 @@
+#!/bin/sh
+# make-package.sh [BUILD]
+# Builds the Debian package with Debian's own compiler flags and says where it lies.
+# BUILD is the build folder, build/package by default; there the same sources make the same
+# bytes, wherever the checkout lies.
+set -eu
+cd "$(dirname "$0")/.."
+build=${1:-build/package}
+
+export DEB_BUILD_MAINT_OPTIONS=hardening=+all
+CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)"
+LDFLAGS=$(dpkg-buildflags --get LDFLAGS)
+SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
+export CXXFLAGS LDFLAGS SOURCE_DATE_EPOCH
+
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+    -DORRAVANE_TESTS=OFF >/dev/null
+cmake --build "$build"
+(cd "$build" && cpack -G DEB)

@@ -1,0 +1,167 @@
+#!/bin/bash
+# try-in-bare-root.sh PACKAGE [MIRROR]
+# Tries the Debian package in a bare Debian 12 that has nothing of the build machine:
+# installs it with its dependencies, runs orravane-report and the window as an ordinary
+# user, takes pictures of the window, removes the package and looks for what it left.
+#
+# Runs as root and needs debootstrap. What may be set in the environment:
+#   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
+#   ROOT     the folder of the bare system; by default a temporary one, which is removed at
+#            the end. A folder that is given has to be missing or empty, and it stays.
+#   PICTURES where the pictures of the window go, the current folder by default
+set -euo pipefail
+
+package=$(realpath "${1:?which package?}")
+mirror=${2:-${MIRROR:-http://deb.debian.org/debian}}
+pictures=$(realpath "${PICTURES:-.}")
+kept=${ROOT:-}
+root=$(realpath -m "${ROOT:-$(mktemp -d)}")
+
+step() { printf '\n== %s\n' "$*"; }
+fail() {
+    printf 'FAILED: %s\n' "$*" >&2
+    exit 1
+}
+cleanup() {
+    if mountpoint -q "$root/proc"; then
+        umount "$root/proc"
+    fi
+    if [ -z "$kept" ]; then
+        rm -rf --one-file-system "$root"
+    fi
+}
+
+[ "$(id -u)" -eq 0 ] || fail "only root can make a system and enter it"
+[ -z "$(ls -A "$root" 2>/dev/null)" ] || fail "$root is not empty"
+trap cleanup EXIT
+mkdir -p "$root"
+chmod 755 "$root" # an ordinary user walks through it
+
+in_root() { # COMMAND...: as root of the bare system
+    chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/root \
+        DEBIAN_FRONTEND=noninteractive DEBCONF_NOWARNINGS=yes "$@"
+}
+as_user() { # COMMAND...: as its ordinary user, in the home folder
+    chroot --userspec=reader:reader "$root" env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 \
+        HOME=/home/reader sh -c 'cd && exec "$@"' sh "$@"
+}
+install() { in_root apt-get -qq -y --no-install-recommends install "$@" >/dev/null; }
+files() { (cd "$root" && find . -xdev \( -path ./proc -o -path ./tmp \) -prune -o -print | sort); }
+
+step "A bare Debian 12 from $mirror"
+debootstrap --variant=minbase bookworm "$root" "$mirror" >"$pictures/debootstrap.log" ||
+    fail "see $pictures/debootstrap.log"
+rm "$pictures/debootstrap.log"
+mount -t proc proc "$root/proc"
+printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d" # starts no services
+chmod +x "$root/usr/sbin/policy-rc.d"
+cat >"$root/etc/apt/apt.conf.d/00try" <<'APT'
+Dpkg::Use-Pty "false";
+APT::AutoRemove::RecommendsImportant "false";
+APT
+in_root useradd --create-home reader
+in_root apt-get -qq update
+files >"$root/tmp/files-before"
+
+step "Install, with what it depends on and nothing it only recommends"
+cp "$package" "$root/tmp/orravane.deb"
+chmod 644 "$root/tmp/orravane.deb"
+install /tmp/orravane.deb
+in_root dpkg -s orravane | grep -E '^(Status|Version):'
+in_root dpkg -V orravane
+in_root dpkg -L orravane >"$root/tmp/orravane.files"
+echo "$(in_root dpkg-query -W | wc -l) packages in the system"
+
+step "Every library is there, those of the plugins too"
+plugins="/usr/lib/*/qt6/plugins"
+in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-report $plugins/platforms/libqxcb.so \
+    $plugins/imageformats/libqsvg.so $plugins/printsupport/libcupsprintersupport.so" \
+    >"$root/tmp/libraries" || fail "ldd: $(cat "$root/tmp/libraries")"
+if grep 'not found' "$root/tmp/libraries"; then
+    fail "libraries are missing"
+fi
+in_root fc-match 'Verdana:family=DejaVu Sans'
+
+step "orravane-report"
+as_user orravane-report --version
+as_user orravane-report --first Ada --last Moreau --month May --day 7 --year 1984 \
+    --today 2027-01-01 --topic 'Life Path Number' | head -n 1 | tee "$root/tmp/heading"
+grep -qx 'Your Life Path Number is: 7' "$root/tmp/heading" # 7, 5 and 4 (1984: 22) are 16
+printf '%s\n' '{"first":"Ada","last":"Moreau","month":5,"day":7,"year":1984}' '{}' \
+    >"$root/tmp/people"
+code=0
+as_user sh -c 'orravane-report --batch /tmp/people 2>/dev/null >reports.jsonl' || code=$?
+[ "$code" -eq 1 ] || fail "a batch with a wrong line ends with $code"
+[ "$(wc -l <"$root/home/reader/reports.jsonl")" -eq 2 ] || fail "two lines gave another number"
+rm "$root/home/reader/reports.jsonl"
+
+step "orravane in a window"
+install xvfb xauth xdotool imagemagick x11-utils man-db
+cat >"$root/tmp/window.sh" <<'WINDOW'
+# Runs on a display of its own. Fills the input page as a user does and closes the window.
+set -eu
+export XDG_RUNTIME_DIR="$HOME/runtime"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+orravane 2>/tmp/pictures/orravane.log &
+program=$!
+window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Orravane v1\.0$' | head -n 1)
+xprop -id "$window" WM_CLASS
+xdotool windowfocus --sync "$window"
+import -window root /tmp/pictures/input-page.png
+xdotool type --delay 50 ada
+xdotool key Tab Tab
+xdotool type --delay 50 moreau
+xdotool key alt+p
+# The report is on a light page; wait until its lower part shows.
+for _ in $(seq 100); do
+    import -window root /tmp/pictures/report-page.png
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    pixel=$(convert /tmp/pictures/report-page.png \
+        -format "%[hex:p{$((X + 460)),$((Y + 370))}]" info:)
+    [ "$pixel" = FDFBFF ] && break
+    sleep 0.1
+done
+[ "$pixel" = FDFBFF ] || { echo "the report page did not come: $pixel"; exit 1; }
+xdotool key alt+f
+xdotool key x
+wait $program
+WINDOW
+mkdir -m 777 "$root/tmp/pictures"
+as_user timeout 300 xvfb-run -a -s '-screen 0 800x600x24' sh /tmp/window.sh ||
+    fail "the window: $(cat "$root/tmp/pictures/orravane.log")"
+cp "$root"/tmp/pictures/*.png "$pictures"
+cat "$root/tmp/pictures/orravane.log"
+for page in input report; do
+    colours=$(in_root identify -format '%k' "/tmp/pictures/$page-page.png")
+    echo "$pictures/$page-page.png: $colours colours"
+    [ "$colours" -gt 200 ] || fail "the picture is all but empty"
+done
+(cd "$root/home/reader" && find . -newer "$root/tmp/window.sh" -type f)
+
+step "Its pages in man, and in apropos"
+in_root mandb -q
+for page in orravane orravane-report; do
+    in_root man -P cat 1 $page | grep -q 'EXIT STATUS' || fail "man $page"
+done
+
+step "Remove"
+rm -rf "$root/home/reader" "$root/tmp/pictures"
+in_root apt-get -qq -y purge orravane >/dev/null
+while read -r file; do
+    if [ -f "$root$file" ]; then
+        fail "$file is still there"
+    fi
+done <"$root/tmp/orravane.files"
+if in_root dpkg-query -s orravane >/dev/null 2>&1; then
+    fail "dpkg still knows the package"
+fi
+in_root apt-get -qq -y autoremove --purge xvfb xauth xdotool imagemagick x11-utils man-db >/dev/null
+in_root apt-get -qq clean
+files | comm -13 "$root/tmp/files-before" - >"$root/tmp/left"
+if grep -i orravane "$root/tmp/left"; then
+    fail "the package left something"
+fi
+echo "Nothing of orravane is left. Left by the packages that it needed:"
+grep -vE '^\./(var/(lib/(apt|dpkg)|cache|log)|home)/' "$root/tmp/left" || echo "nothing"
+
+step "All is well"
