@@ -54,7 +54,6 @@ void frmMain::BuildPages() {
     cmdNext = Placed(commandButton(tr("&Proceed")), "cmdNext", PlaceOf("cmdNext"));
 
     picMain = Placed(new MainPage(centralWidget()), "picMain", PlaceOf("picMain"));
-    picMain->setStyleSheet(PageStyle());
 
     picExit = Placed(new ImageButton(1, 2, tr("Exit"), picMain), "picExit", PlaceOf("picExit"));
     picExit->setToolTip(tr("Exit"));
@@ -70,6 +69,7 @@ void frmMain::BuildPages() {
     Picture3 = Placed(new HelpPage(picMain), "Picture3", PlaceOf("Picture3"));
     Picture2 = Placed(new ReportPage(picMain), "Picture2", PlaceOf("Picture2"));
     Picture1 = Placed(new InputPage(picMain), "Picture1", PlaceOf("Picture1"));
+    picMain->setStyleSheet(PageStyle()); // once all that it speaks of is there
     BringToFront(Picture1);
 }
 

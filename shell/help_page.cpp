@@ -14,9 +14,7 @@ QLabel *Paragraph(const QString &text, QWidget *page) {
 
 } // namespace
 
-HelpPage::HelpPage(QWidget *parent) : QWidget(parent) {
-    setAttribute(Qt::WA_StyledBackground);
-
+HelpPage::HelpPage(QWidget *parent) : Page(parent) {
     lblHelp[0] = Placed(new LinkLabel(tr("Online Help"), this), "lblHelp0", PlaceOf("lblHelp0"));
     lblHelp[0]->setToolTip(tr("Click To Go To Online Help"));
     Label15 = Placed(

@@ -2,12 +2,13 @@
 
 // Picture3, the help page: three headed texts, two of whose headings are links.
 
+#include "shell/page.h"
+
 #include <QLabel>
-#include <QWidget>
 
 class LinkLabel;
 
-class HelpPage : public QWidget {
+class HelpPage : public Page {
     Q_OBJECT
 
 public:

@@ -16,9 +16,7 @@ QLabel *Buddy(QLabel *label, QWidget *control) {
 
 } // namespace
 
-InputPage::InputPage(QWidget *parent) : QWidget(parent) {
-    setAttribute(Qt::WA_StyledBackground);
-
+InputPage::InputPage(QWidget *parent) : Page(parent) {
     Frame1 = Placed(new QGroupBox(tr("Note: "), this), "Frame1", PlaceOf("Frame1"));
     Label2 = Placed(
         new QLabel(tr("This program has been designed keeping in mind date settings according to "

@@ -2,15 +2,16 @@
 
 // Picture1, the page where the person is entered.
 
+#include "shell/page.h"
+
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QWidget>
 
 class ImageButton;
 class NameBox;
 
-class InputPage : public QWidget {
+class InputPage : public Page {
     Q_OBJECT
 
 public:

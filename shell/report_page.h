@@ -2,12 +2,12 @@
 
 // Picture2, the page that shows a report and lets it out.
 
-#include <QWidget>
+#include "shell/page.h"
 
 class ImageButton;
 class RichTextBox;
 
-class ReportPage : public QWidget {
+class ReportPage : public Page {
     Q_OBJECT
 
 public:

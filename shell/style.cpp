@@ -11,7 +11,6 @@ QString PageStyle() {
     // A control that a style sheet touches no longer inherits its font, so it is said here too.
     return QStringLiteral(R"(
         #picMain, #picMain * { font-family: "Verdana", "DejaVu Sans"; font-size: 11px; }
-        #Picture1, #Picture2, #Picture3 { background-color: rgb(89, 73, 110); }
         #Picture1 QLabel, #Picture3 QLabel { color: white; background: transparent; }
         #Picture3 QLabel { font-weight: bold; }
         #Picture3 QLabel#lblHelp0, #Picture3 QLabel#lblHelp1, #Picture3 QLabel#lblAbout2 { color: rgb(255, 199, 6); }
