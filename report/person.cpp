@@ -12,7 +12,9 @@ std::u16string Trimmed(const QString &text) {
 }
 
 std::u16string UpperCase(const std::u16string &text) {
-    return QString::fromStdU16String(text).toUpper().toStdU16String(); // Unicode's, not QLocale's
+    // Unicode's rules, not QLocale's. By way of a view: QString's own conversion from UTF-16
+    // would take marks of byte order out of a name.
+    return QStringView(text).toString().toUpper().toStdU16String();
 }
 
 } // namespace

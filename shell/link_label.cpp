@@ -2,13 +2,51 @@
 
 #include "shell/focus_frame.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
+namespace {
+
+/// What assistive technology sees: a link that can be pressed.
+class AccessibleLink final : public QAccessibleWidget {
+public:
+    explicit AccessibleLink(LinkLabel *link)
+        : QAccessibleWidget(link, QAccessible::Link), link_(link) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const bool captioned = kind == QAccessible::Name && link_->accessibleName().isEmpty();
+        return captioned ? link_->text() : QAccessibleWidget::text(kind);
+    }
+    QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString &action) override {
+        if (action == pressAction())
+            emit link_->clicked();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    LinkLabel *link_;
+};
+
+QAccessibleInterface *MakeAccessible(const QString &, QObject *object) {
+    auto *link = qobject_cast<LinkLabel *>(object);
+    return link != nullptr ? new AccessibleLink(link) : nullptr;
+}
+
+} // namespace
+
 LinkLabel::LinkLabel(const QString &text, QWidget *parent) : QLabel(text, parent) {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
+    [[maybe_unused]] static const bool installed = [] {
+        QAccessible::installFactory(MakeAccessible);
+        return true;
+    }();
 }
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent *event) {

@@ -23,8 +23,10 @@ modReadings::RtfFont FontOf(const RichTextBox &RTB) {
 
 void WriteWhole(const QString &name, const std::string &content) {
     QSaveFile file(name); // writes beside the file and takes its place at the end
-    if (file.open(QIODevice::WriteOnly) &&
-        file.write(content.data(), static_cast<qint64>(content.size())) >= 0)
+    const auto size = static_cast<qint64>(content.size());
+    // On a full disk a write can be cut short without failing, and a commit would then put
+    // the stump in place; only a flush tells.
+    if (file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size && file.flush())
         file.commit();
 }
 

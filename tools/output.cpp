@@ -32,6 +32,7 @@ void Output::Write(std::string_view bytes) {
 }
 
 void Output::Finish() {
-    if (error_.isEmpty() && file_ && !file_->commit())
+    // A full disk may show in the flush alone; a commit without it would let a stump through.
+    if (error_.isEmpty() && file_ && !(file_->flush() && file_->commit()))
         Fail(file_->errorString());
 }

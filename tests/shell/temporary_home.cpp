@@ -1,0 +1,28 @@
+#include "tests/shell/temporary_home.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+TemporaryHome::TemporaryHome() {
+    const auto below = [this](const char *variable, const char *name) {
+        QDir(folder_.path()).mkpath(QLatin1StringView(name));
+        qputenv(variable, QFile::encodeName(folder_.filePath(QLatin1StringView(name))));
+    };
+    below("HOME", "home");
+    QDir(PathOf(QStringLiteral("home"))).mkpath(QStringLiteral("Documents"));
+    below("XDG_CONFIG_HOME", "config");
+    below("XDG_CONFIG_DIRS", "no-system-config");
+    below("XDG_DATA_HOME", "data");
+    below("XDG_CACHE_HOME", "cache");
+    below("XDG_RUNTIME_DIR", "runtime");
+    QFile::setPermissions(folder_.filePath(QStringLiteral("runtime")),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    below("CUPS_SERVER", "no-print-server"); // a folder: nothing answers there
+    for (const char *variable : {"PRINTER", "LPDEST", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME",
+                                 "QT_SCALE_FACTOR", "LANGUAGE", "LC_TIME", "LANG"})
+        qunsetenv(variable);
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}

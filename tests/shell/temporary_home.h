@@ -1,0 +1,32 @@
+#pragma once
+
+// A home of its own for a test program, so that it neither sees nor leaves anything on
+// the machine: settings, locks and documents lie below one temporary folder, there is no
+// printer, no dialog of the desktop, and the display is an offscreen one.
+
+#include <QTemporaryDir>
+
+class TemporaryHome {
+public:
+    /// To be made before the application object.
+    TemporaryHome();
+
+    /// The folder of everything that the test writes.
+    QString Path() const { return folder_.path(); }
+
+    /// A path below it.
+    QString PathOf(const QString &name) const { return folder_.filePath(name); }
+
+private:
+    QTemporaryDir folder_;
+};
+
+/// Runs the Qt Test class `Tests` as a program. Its constructor gets the home.
+#define ORRAVANE_TEST_PROGRAM(Tests)                                                               \
+    int main(int argc, char *argv[]) {                                                             \
+        const TemporaryHome home;                                                                  \
+        QApplication application(argc, argv);                                                      \
+        App::Identify();                                                                           \
+        Tests tests(home);                                                                         \
+        return QTest::qExec(&tests, argc, argv);                                                   \
+    }
