@@ -1,6 +1,8 @@
 #include "report/printing.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QPageLayout>
+#include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTextDocument>
@@ -16,10 +18,29 @@ void PrintDocument(const QTextDocument &document) {
     printer.setDocName(QStringLiteral("Orravane"));
     printer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
 
-    // A document that is paginated already is printed as it is; any other would get page
-    // numbers. The pane measures in pixels of 96 to the inch.
+    // The pane measures in pixels of 96 to the inch.
+    constexpr qreal pixelsPerInch = 96;
+    const QSizeF page = printer.pageLayout().paintRect(QPageLayout::Inch).size() * pixelsPerInch;
     const std::unique_ptr<QTextDocument> pages(document.clone());
     pages->setDocumentMargin(0);
-    pages->setPageSize(printer.pageLayout().paintRect(QPageLayout::Inch).size() * 96);
-    pages->print(&printer);
+    pages->setPageSize(page);
+
+    // QTextDocument's own print would do, but it draws the line behind a page break on both
+    // pages, once outside the paper, where searching and copying in a PDF still finds it.
+    QPainter painter(&printer);
+    const qreal scale = printer.resolution() / pixelsPerInch;
+    painter.scale(scale, scale);
+    for (int number = 0; number < pages->pageCount(); ++number) {
+        if (number > 0 && !printer.newPage())
+            return;
+        const QRectF view(QPointF(0, number * page.height()), page);
+        QAbstractTextDocumentLayout::PaintContext context;
+        context.palette.setColor(QPalette::Text, Qt::black);
+        context.clip = view.adjusted(0, 1, 0, -1);
+        painter.save();
+        painter.translate(-view.topLeft());
+        painter.setClipRect(view);
+        pages->documentLayout()->draw(&painter, context);
+        painter.restore();
+    }
 }

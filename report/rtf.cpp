@@ -58,6 +58,8 @@ void AppendText(std::string &rtf, std::u16string_view text) {
             continue; // the line feed behind it ends the paragraph
         if (unit == u'\r' || unit == u'\n')
             rtf += "\\par\r\n";
+        else if (unit == u' ' && index > 0 && text[index - 1] == u' ')
+            rtf += "\\'20"; // readers make one of blanks that stand together
         else
             AppendCharacter(rtf, unit);
     }

@@ -5,6 +5,7 @@
 #include "shell/name_box.h"
 
 #include <QLocale>
+#include <QStyledItemDelegate>
 
 namespace {
 
@@ -62,6 +63,10 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
 }
 
 void InputPage::FillLists() {
+    for (QComboBox *list : {cboMonth, cboDate, cboYear}) {
+        list->setMaxVisibleItems(12);
+        list->setItemDelegate(new QStyledItemDelegate(list)); // the one that heeds the style sheet
+    }
     for (int day = 1; day <= 31; ++day)
         cboDate->addItem(QString::number(day));
     const QLocale locale = QLocale::system();

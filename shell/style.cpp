@@ -23,11 +23,14 @@ QString PageStyle() {
                                border: 1px solid rgb(176, 163, 193); border-radius: 2px; padding: 0 4px;
                                selection-background-color: rgb(255, 199, 6); selection-color: rgb(42, 28, 62); }
         QLineEdit:focus, QComboBox:focus { border: 1px solid rgb(255, 199, 6); background-color: rgb(72, 57, 92); }
+        QComboBox { combobox-popup: 0; } /* a list of bounded height that scrolls */
         QComboBox::drop-down { border: none; width: 18px; }
         QComboBox::down-arrow { image: url(:/artwork/arrow.svg); width: 9px; height: 6px; }
         QComboBox QAbstractItemView { color: white; background-color: rgb(72, 57, 92);
                                       border: 1px solid rgb(176, 163, 193); outline: none;
                                       selection-background-color: rgb(255, 199, 6); selection-color: rgb(42, 28, 62); }
+        QComboBox QAbstractItemView::item { min-height: 18px; padding: 0 2px; color: white; }
+        QComboBox QAbstractItemView::item:selected { color: rgb(42, 28, 62); background-color: rgb(255, 199, 6); }
 
         #TV { color: white; background-color: rgb(89, 73, 110); border: 1px solid rgb(89, 73, 110); outline: none;
               padding: 3px; }

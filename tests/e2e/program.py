@@ -1,0 +1,235 @@
+"""The running program, and what a user does with it by mouse and keyboard."""
+
+import unittest
+
+from readings import expected_runs, plain_text, today
+from waiting import wait_for
+
+# --- Where the controls stand: left, top, width, height in twips, from the window's client area
+
+_page = (4730, 840)
+_name = (_page[0] + 120, _page[1] + 1020)
+_birth = (_page[0] + 120, _page[1] + 2760)
+
+
+def _on(origin, left, top, width, height):
+    return (origin[0] + left, origin[1] + top, width, height)
+
+
+PLACES = {
+    "picExit": (8490, 100, 660, 585),
+    "picHelp": (7680, 100, 660, 585),
+    "TV": (200, 840, 4450, 5200),
+    "lblHyperlink": (6600, 6195, 2535, 255),
+    "Page": (4730, 840, 4450, 5200),
+    "picProceed": _on(_page, 3075, 4680, 1260, 390),
+    "txtFirstName": _on(_name, 1440, 360, 2500, 285),
+    "txtMiddleName": _on(_name, 1440, 840, 2500, 285),
+    "txtLastName": _on(_name, 1440, 1320, 2500, 285),
+    "cboMonth": _on(_birth, 1440, 240, 1455, 315),
+    "cboDate": _on(_birth, 1440, 720, 855, 315),
+    "cboYear": _on(_birth, 1440, 1200, 975, 315),
+    "RTB": _on(_page, 120, 120, 4215, 4455),
+    "picPrint": _on(_page, 1800, 4680, 1260, 390),
+    "picSave": _on(_page, 3075, 4680, 1260, 390),
+    "lblHelp0": _on(_page, 240, 120, 1110, 195),
+    "lblHelp1": _on(_page, 240, 1320, 1395, 195),
+    "lblAbout2": _on(_page, 240, 3000, 1500, 195),
+}
+CLIENT = (626, 440)  # 9390 by 6600 twips, 15 to the pixel
+TWIPS_TO_PIXEL = 15
+
+TOPICS = [
+    "Personal Month",
+    "Hidden Passion Number",
+    "Life Path Periods",
+    "Personal Year",
+    "Pinnacle Phases",
+    "Subconscious Self Number",
+    "Life Path Number",
+    "Destiny / Expressions Number",
+    "Karmic Lessons Number",
+    "Birthday Number",
+    "Challenge Number",
+    "Karmic Debt Numbers",
+    "Balance Number",
+    "Personal Day",
+    "Rational Thought Number",
+    "H/P Bridge Number",
+    "L/E Bridge Number",
+    "Essence",
+    "Realization / Maturity Number",
+    "Inner Dreams / Personality Number",
+    "Planes Of Expression / Personal Aspects",
+    "Soul Urge / Heart's Desire Number",
+]
+COMPREHENSIVE = "Comprehensive Reading"
+
+# The rows of the tree once a report is open: the user branch is closed, the other open.
+ROWS = ["User Information", "Numerology", *TOPICS, COMPREHENSIVE, "Help"]
+ROW_HEIGHT = 20  # logical pixels
+TREE_PADDING = 4
+
+PAGE_COLOUR = (89, 73, 110)
+GOLD = (255, 199, 6)
+TOPIC_INK = (128, 0, 128)
+
+
+class Program:
+    """The running program and its window."""
+
+    def __init__(self, desktop, process, scale=1):
+        self.desktop, self.process, self.scale, self.moves = desktop, process, scale, 0
+        self.window = wait_for("the program's window", self._mapped_window)
+        self.left, self.top, self.width, self.height = desktop.geometry(self.window)
+        self.menu_height = self.height - round(CLIENT[1] * scale)
+        wait_for("the window to be painted", lambda: self.part("Page").colours()[PAGE_COLOUR] > 100)
+
+    def _mapped_window(self):
+        if self.process.poll() is not None:
+            raise AssertionError(f"the program ended with {self.process.returncode}: "
+                                 f"{self.desktop.log('orravane')}")
+        for window in self.desktop.windows("Orravane v1.0"):
+            owner = self.desktop.run("xdotool", "getwindowpid", str(window), check=False)
+            framed = self.desktop.run("xprop", "-id", str(window), "_NET_FRAME_EXTENTS",
+                                      check=False)
+            if owner.strip() == str(self.process.pid).encode() and b"=" in framed:
+                return window
+        return None
+
+    def alive(self):
+        return self.process.poll() is None
+
+    def await_end(self):
+        """Waits for the program's end and gives its exit code."""
+        wait_for("the program's end", lambda: self.process.poll() is not None)
+        return self.process.returncode
+
+    # Places
+
+    def box(self, control):
+        """The place of a control on the screen: left, top, width, height."""
+        left, top, width, height = (twips / TWIPS_TO_PIXEL * self.scale
+                                    for twips in PLACES[control])
+        return (round(self.left + left), round(self.top + self.menu_height + top), round(width),
+                round(height))
+
+    def middle(self, control):
+        left, top, width, height = self.box(control)
+        return left + width // 2, top + height // 2
+
+    def picture(self):
+        """The window's inside, as the screen shows it."""
+        return self.desktop.screenshot(self.left, self.top, self.width, self.height)
+
+    def part(self, control):
+        """A control, as the screen shows it."""
+        return self.desktop.screenshot(*self.box(control))
+
+    def keep(self, name):
+        picture = self.picture()
+        picture.save(self.desktop.artefact(name + ".png"))
+        return picture
+
+    # What a user does
+
+    def move_to(self, control):
+        """Moves the mouse onto a control, each time onto another point, as a hand does: the
+        program is not told of a move to the place where it saw the mouse last."""
+        left, top, width, height = self.box(control)
+        self.moves = (self.moves + 1) % 5
+        # Low enough for a tool tip to come up below the control.
+        self.desktop.move(left + width // 2 + self.moves, top + height * 3 // 4)
+
+    def click(self, control):
+        self.move_to(control)
+        self.desktop.xdotool("click", 1)
+
+    def click_row(self, caption):
+        """Clicks a node of the tree by mouse, once a report is open."""
+        left, top, width, height = self.box("TV")
+        row, row_height = ROWS.index(caption), ROW_HEIGHT * self.scale
+        shown = int((height - 2 * TREE_PADDING * self.scale) // row_height)
+        first, wheel = (0, 4) if row < shown else (len(ROWS) - shown, 5)
+        x, y = left + width // 2, top + TREE_PADDING * self.scale + (row - first + 0.5) * row_height
+        self.desktop.xdotool("mousemove", x, round(y), "click", "--repeat", 12, "--delay", 1,
+                             wheel, "click", 1)
+
+    def enter(self, person):
+        """Types the name; picks the date by keyboard."""
+        for control, text in (("txtFirstName", person.first), ("txtMiddleName", person.middle),
+                              ("txtLastName", person.last)):
+            self.click(control)
+            if text:
+                self.desktop.type(text)
+        # A list takes the entry whose beginning is typed.
+        for text in (person.month, str(person.day), str(person.year)):
+            self.desktop.keys("Tab")
+            self.desktop.type(text)
+
+    def proceed(self, person):
+        """Enters a person and proceeds, by mouse; waits for the report."""
+        self.enter(person)
+        self.click("picProceed")
+        self.await_report()
+
+    def await_report(self):
+        wait_for("the report page", lambda: self.part("RTB").colours()[TOPIC_INK] > 50)
+
+    def open_save_dialog(self):
+        self.click("picSave")
+        dialog = self.desktop.window("Orravane")
+        self.desktop.await_keyboard(dialog)
+        return dialog
+
+    def save_as(self, name):
+        """Saves under `name`, typed into the save dialog; waits until the dialog is gone."""
+        self.open_save_dialog()
+        self.desktop.type(name)
+        self.desktop.keys("Return")
+        self.await_no_dialog()
+
+    def replace(self, name):
+        """Saves under the name of a file that is there and answers the question with Yes."""
+        dialog = self.open_save_dialog()
+        self.desktop.type(name)
+        self.desktop.keys("Return")
+        wait_for("the question before a file is replaced",
+                 lambda: len(self.desktop.windows("Orravane")) == 2)
+        (question,) = set(self.desktop.windows("Orravane")) - {dialog}
+        self.desktop.await_keyboard(question)
+        self.desktop.keys("alt+y")
+        self.await_no_dialog()
+
+    def await_no_dialog(self):
+        # Where the keyboard is now is the window manager's affair; the next click settles it.
+        wait_for("the dialog to go", lambda: not self.desktop.windows("Orravane"))
+
+    def copy_report(self):
+        """Selects and copies the report by keyboard; the mouse stays over the tree."""
+        self.desktop.await_keyboard(self.window)
+        # From the tree, which the click has given the focus, back over Save and Print.
+        self.desktop.keys("shift+Tab", "shift+Tab", "shift+Tab", "ctrl+a", "ctrl+c")
+
+    def read_topic(self, caption, person):
+        """Clicks a topic, checks that the report reads as the tool's, and gives its runs."""
+        while True:
+            day = today()
+            runs = expected_runs(person, caption, day)
+            self.click_row(caption)
+            self.copy_report()
+            try:
+                self.await_clipboard(plain_text(runs))
+                return runs
+            except AssertionError:
+                if today() == day:  # else a midnight came between: read it again
+                    raise
+
+    def await_clipboard(self, text):
+        """Waits until the clipboard holds `text`; tells the difference where it does not."""
+        try:
+            wait_for("the report on the clipboard", lambda: self.desktop.clipboard() == text, 20)
+        except AssertionError:
+            test = unittest.TestCase()
+            test.maxDiff = None
+            test.assertEqual(self.desktop.clipboard(), text)
