@@ -36,7 +36,8 @@ int main(int argc, char *argv[]) {
     auto *pane = new QTextEdit(page);
     pane->setGeometry(315, 56, 297, 347);
     for (int button = 0; button < 8; ++button)
-        (new QPushButton(QString::number(button), page))->setGeometry(20 + 60 * button, 410, 50, 24);
+        (new QPushButton(QString::number(button), page))
+            ->setGeometry(20 + 60 * button, 410, 50, 24);
 
     auto *inputs = new QWidget(page);
     inputs->setGeometry(315, 56, 297, 347);

@@ -1,5 +1,6 @@
 #include "tools/batch.h"
 
+#include "tools/one_line.h"
 #include "tools/output.h"
 #include "tools/people_lines.h"
 #include "tools/progress.h"
@@ -32,6 +33,8 @@ public:
             if (!begun) {
                 begun = true;
                 const bool header = lines_.Begin(line_, complaint);
+                if (complaint.isEmpty())
+                    MakeFolder(complaint); // not before it is known that there is something to read
                 if (!complaint.isEmpty())
                     return BatchResult::Unusable;
                 if (header)
@@ -42,6 +45,11 @@ public:
                 complaint = error_;
                 return BatchResult::Broken;
             }
+        }
+        if (input_.bad()) { // broken off, which is not the same as having come to its end
+            complaint = QStringLiteral("--batch: the input cannot be read to its end (%1)")
+                            .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            return number_ == 0 ? BatchResult::Unusable : BatchResult::Broken;
         }
         if (options_.outputDir.isEmpty()) {
             output_.Finish();
@@ -64,6 +72,12 @@ private:
         return true;
     }
 
+    void MakeFolder(QString &complaint) const {
+        if (!options_.outputDir.isEmpty() && !QDir().mkpath(options_.outputDir))
+            complaint = QStringLiteral("--output-dir: the folder \"%1\" cannot be made")
+                            .arg(options_.outputDir);
+    }
+
     void ReadLine() {
         QString complaint;
         const auto input = lines_.Parse(line_, complaint);
@@ -78,14 +92,15 @@ private:
     void Report(const QString &complaint) {
         ++wrong_;
         progress_.Clear();
-        const std::string utf8 = complaint.toStdString();
-        std::fprintf(stderr, "orravane-report: line %lld: %s\n", number_, utf8.c_str());
+        const std::string line = OneLine(complaint);
+        std::fprintf(stderr, "orravane-report: line %lld: %s\n", number_, line.c_str());
         if (options_.outputDir.isEmpty())
-            WriteTo(output_, ErrorAsJson(number_, utf8));
+            WriteTo(output_, ErrorAsJson(number_, line));
     }
 
     void Write(const std::string &reading) {
         if (options_.outputDir.isEmpty()) {
+            progress_.MakeRoomForOutput();
             WriteTo(output_, reading);
             return;
         }
@@ -120,11 +135,6 @@ private:
 } // namespace
 
 BatchResult RunBatch(const Options &options, QString &complaint) {
-    if (!options.outputDir.isEmpty() && !QDir().mkpath(options.outputDir)) {
-        complaint =
-            QStringLiteral("--output-dir: the folder \"%1\" cannot be made").arg(options.outputDir);
-        return BatchResult::Unusable;
-    }
     if (options.batchFile == QLatin1StringView("-")) {
         std::ios::sync_with_stdio(false); // takes what a pipe has, line by line
         return Batch(options, std::cin, 0).Run(complaint);

@@ -5,7 +5,7 @@
 #include "core/user_profile.h"
 #include "report/rtf.h"
 
-#include <QString>
+#include <QStringEncoder>
 
 #define RAPIDJSON_SSE2
 #include <rapidjson/prettywriter.h>
@@ -31,6 +31,23 @@ template <typename Writer> void WriteMember(Writer &json, const char *name, std:
     WriteString(json, text);
 }
 
+void AppendUtf8(std::string &out, std::u16string_view text) {
+    QStringEncoder encode(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    const QStringView view(text);
+    const std::size_t before = out.size();
+    out.resize(before + static_cast<std::size_t>(encode.requiredSpace(view.size())));
+    const char *end = encode.appendToBuffer(out.data() + before, view);
+    out.resize(static_cast<std::size_t>(end - out.data()));
+}
+
+/// A member of UTF-16 text. One buffer serves all of them: a batch writes millions.
+void WriteMember(JsonWriter &json, const char *name, std::u16string_view text) {
+    static std::string utf8;
+    utf8.clear();
+    AppendUtf8(utf8, text);
+    WriteMember(json, name, std::string_view(utf8));
+}
+
 /// What is in `buffer`, ended as a line.
 std::string Line(rapidjson::StringBuffer &buffer) {
     buffer.Put('\n');
@@ -54,7 +71,11 @@ void AppendPlain(std::string &out, std::u16string_view text) {
 
 } // namespace
 
-std::string ToUtf8(std::u16string_view text) { return QStringView(text).toUtf8().toStdString(); }
+std::string ToUtf8(std::u16string_view text) {
+    std::string utf8;
+    AppendUtf8(utf8, text);
+    return utf8;
+}
 
 std::string ReadingsAsText(std::span<const TopicReading> readings) {
     std::string text;
@@ -71,29 +92,30 @@ std::string ReadingsAsText(std::span<const TopicReading> readings) {
 
 std::string ReadingsAsJson(std::span<const TopicReading> readings) {
     using modReadings::profile;
-    rapidjson::StringBuffer buffer;
+    static rapidjson::StringBuffer buffer; // keeps its memory from one report to the next
+    buffer.Clear();
     JsonWriter json(buffer);
     json.StartObject();
-    WriteMember(json, "first", ToUtf8(profile.FirstName));
-    WriteMember(json, "middle", ToUtf8(profile.MiddleName));
-    WriteMember(json, "last", ToUtf8(profile.LastName));
-    WriteMember(json, "month", ToUtf8(profile.BirthMonth));
+    WriteMember(json, "first", profile.FirstName);
+    WriteMember(json, "middle", profile.MiddleName);
+    WriteMember(json, "last", profile.LastName);
+    WriteMember(json, "month", profile.BirthMonth);
     json.Key("day");
     json.Int(modReadings::NumberFromText(profile.BirthDay));
     json.Key("year");
     json.Int(modReadings::NumberFromText(profile.BirthYear));
-    WriteMember(json, "today", Today());
+    WriteMember(json, "today", std::string_view(Today()));
     json.Key("topics");
     json.StartArray();
     for (const TopicReading &reading : readings) {
         json.StartObject();
-        WriteMember(json, "caption", ToUtf8(reading.caption));
-        WriteMember(json, "number", ToUtf8(reading.number));
+        WriteMember(json, "caption", reading.caption);
+        WriteMember(json, "number", reading.number);
         json.Key("runs");
         json.StartArray();
         for (const Run &run : reading.runs) {
             json.StartObject();
-            WriteMember(json, "text", ToUtf8(run.text));
+            WriteMember(json, "text", run.text);
             json.Key("bold");
             json.Bool(run.bold);
             json.EndObject();

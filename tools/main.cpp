@@ -1,5 +1,6 @@
 #include "core/clock.h"
 #include "tools/batch.h"
+#include "tools/one_line.h"
 #include "tools/options.h"
 #include "tools/output.h"
 #include "version.h"
@@ -15,7 +16,7 @@ enum ExitCode { ok = 0, failed = 1, wrongInput = 2 };
 
 /// One line on standard error.
 int Complain(const QString &complaint, ExitCode code) {
-    std::fprintf(stderr, "orravane-report: %s\n", complaint.toUtf8().constData());
+    std::fprintf(stderr, "orravane-report: %s\n", OneLine(complaint).c_str());
     return code;
 }
 

@@ -83,7 +83,7 @@ private:
 
 /// A date that exists, written YYYY-MM-DD.
 std::optional<std::chrono::year_month_day> DateFrom(const QString &text) {
-    static const QRegularExpression form(QStringLiteral("^[0-9]{4}-[0-9]{2}-[0-9]{2}$"));
+    static const QRegularExpression form(QStringLiteral("\\A[0-9]{4}-[0-9]{2}-[0-9]{2}\\z"));
     const QDate date = QDate::fromString(text, Qt::ISODate);
     if (!form.match(text).hasMatch() || !date.isValid())
         return std::nullopt;

@@ -1,5 +1,7 @@
 #include "tools/output.h"
 
+#include <QFileInfo>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -7,7 +9,11 @@
 Output::Output(const QString &fileName) : fileName_(fileName) {
     if (fileName.isEmpty())
         return;
-    file_ = std::make_unique<QSaveFile>(fileName);
+    const QFileInfo present(fileName);
+    if (present.exists() && !present.isFile() && !present.isDir())
+        file_ = std::make_unique<QFile>(fileName);
+    else
+        file_ = std::make_unique<QSaveFile>(fileName);
     if (!file_->open(QIODevice::WriteOnly))
         Fail(file_->errorString());
 }
@@ -32,7 +38,10 @@ void Output::Write(std::string_view bytes) {
 }
 
 void Output::Finish() {
+    if (!error_.isEmpty() || !file_)
+        return;
     // A full disk may show in the flush alone; a commit without it would let a stump through.
-    if (error_.isEmpty() && file_ && !(file_->flush() && file_->commit()))
+    auto *replacing = qobject_cast<QSaveFile *>(file_.get());
+    if (!file_->flush() || (replacing != nullptr && !replacing->commit()))
         Fail(file_->errorString());
 }

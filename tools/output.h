@@ -10,7 +10,8 @@
 
 class Output {
 public:
-    /// To the file of this name, or to standard output for an empty one.
+    /// To the file of this name, or to standard output for an empty one. A device or a pipe
+    /// is written as it is, since it cannot be replaced.
     explicit Output(const QString &fileName);
 
     /// Why the output cannot be written, or empty while all is well.
@@ -26,6 +27,6 @@ private:
     void Fail(const QString &reason);
 
     QString fileName_;
-    std::unique_ptr<QSaveFile> file_; ///< none for standard output
+    std::unique_ptr<QFileDevice> file_; ///< none for standard output
     QString error_;
 };

@@ -46,6 +46,7 @@ public:
         csv_parser parser;
         csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI);
         csv_set_space_func(&parser, [](unsigned char) { return 0; });
+        csv_set_term_func(&parser, [](unsigned char) { return 0; }); // the line is cut already
         const auto field = [](void *text, std::size_t size, void *self) {
             static_cast<CsvLine *>(self)->fields.emplace_back(static_cast<const char *>(text),
                                                               size);
@@ -60,11 +61,11 @@ public:
     std::string error; ///< empty when the line is well formed
 };
 
-/// A JSON string as it is, a whole number in decimal.
+/// A JSON string as it is, a whole number in decimal. None for any other value, nor for a
+/// string with half of a surrogate pair in it.
 std::optional<QString> Value(const rapidjson::Value &value) {
     if (value.IsString())
-        return QString::fromUtf8(value.GetString(),
-                                 static_cast<qsizetype>(value.GetStringLength()));
+        return FromUtf8({value.GetString(), value.GetStringLength()});
     if (value.IsInt64())
         return QString::number(value.GetInt64());
     return std::nullopt;
@@ -73,7 +74,7 @@ std::optional<QString> Value(const rapidjson::Value &value) {
 } // namespace
 
 bool PeopleLines::Begin(const std::string &line, QString &complaint) {
-    if (line.starts_with('{'))
+    if (line[line.find_first_not_of(" \t")] == '{')
         return false;
 
     const CsvLine header(line);
@@ -115,7 +116,9 @@ std::optional<PersonInput> PeopleLines::ParseJson(const std::string &line,
         return std::nullopt;
     };
     rapidjson::Document document;
-    document.Parse<rapidjson::kParseValidateEncodingFlag>(line.data(), line.size());
+    // Iteratively: a line nested without measure must not exhaust the stack.
+    document.Parse<rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag>(
+        line.data(), line.size());
     if (document.HasParseError())
         return complain(
             QStringLiteral("not JSON: %1 (at character %2)")
@@ -135,7 +138,9 @@ std::optional<PersonInput> PeopleLines::ParseJson(const std::string &line,
                 QStringLiteral("the member \"%1\" is not allowed; %2").arg(name, allowedMembers));
         const auto value = Value(member.value);
         if (!value)
-            return complain(QStringLiteral("%1 is neither a text nor a whole number").arg(name));
+            return complain(
+                QStringLiteral("%1 is neither a text of whole characters nor a whole number")
+                    .arg(name));
         person.*input = *value;
     }
     return person;

@@ -7,8 +7,8 @@
 #include <unistd.h>
 
 Progress::Progress(long long total)
-    : total_(total), visible_(isatty(STDERR_FILENO) == 1), next_(std::chrono::steady_clock::now()) {
-}
+    : total_(total), visible_(isatty(STDERR_FILENO) == 1),
+      outputIsTerminal_(isatty(STDOUT_FILENO) == 1), next_(std::chrono::steady_clock::now()) {}
 
 Progress::~Progress() { Clear(); }
 
@@ -34,4 +34,9 @@ void Progress::Clear() {
     if (drawn_)
         std::fprintf(stderr, "\r\033[K");
     drawn_ = false;
+}
+
+void Progress::MakeRoomForOutput() {
+    if (outputIsTerminal_)
+        Clear();
 }

@@ -18,9 +18,13 @@ public:
     /// Takes the bar away, so that a message can be written in its place.
     void Clear();
 
+    /// The same before a line on standard output, if that is the terminal too.
+    void MakeRoomForOutput();
+
 private:
     const long long total_;
     const bool visible_;
+    const bool outputIsTerminal_;
     bool drawn_ = false;
     std::chrono::steady_clock::time_point next_;
 };

@@ -1,0 +1,43 @@
+#pragma once
+
+// A complaint of orravane-report: one line on standard error that begins with the
+// program's name.
+
+#include "tests/tools/program.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+/// Expects exactly one line, without control characters, that holds all of `parts`.
+inline void ExpectOneLine(const std::string &err, const std::vector<std::string> &parts) {
+    EXPECT_TRUE(err.starts_with("orravane-report: ")) << err;
+    ASSERT_TRUE(err.ends_with('\n')) << err;
+    const std::string line = err.substr(0, err.size() - 1);
+    EXPECT_TRUE(std::ranges::none_of(line, [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+    })) << line;
+    for (const std::string &part : parts)
+        EXPECT_NE(line.find(part), std::string::npos) << "\"" << part << "\" in: " << line;
+}
+
+/// Expects that the program refused its input: exit code 2, nothing written, one line.
+inline void ExpectRefused(const Finished &run, const std::vector<std::string> &parts) {
+    EXPECT_EQ(run.exitCode, 2) << "signal " << run.signal;
+    EXPECT_EQ(run.out, "");
+    ExpectOneLine(run.err, parts);
+}
+
+/// Expects that the program could not write what it had: exit code 1, one line.
+inline void ExpectFailed(const Finished &run, const std::vector<std::string> &parts) {
+    EXPECT_EQ(run.exitCode, 1) << "signal " << run.signal;
+    ExpectOneLine(run.err, parts);
+}
+
+/// Expects success without a word.
+inline void ExpectGood(const Finished &run) {
+    EXPECT_EQ(run.exitCode, 0) << "signal " << run.signal;
+    EXPECT_EQ(run.err, "");
+}

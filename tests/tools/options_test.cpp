@@ -1,0 +1,102 @@
+#include "tools/options.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList ann{"orravane-report", "--first", "Ann", "--last", "Lee", "--month",
+                      "March",           "--day",   "7",   "--year", "1990"};
+
+std::optional<Options> Parsed(const QStringList &arguments) {
+    QString complaint;
+    const auto options = ParseOptions(arguments, complaint);
+    EXPECT_EQ(complaint.isEmpty(), options.has_value()) << complaint.toStdString();
+    return options;
+}
+
+std::string ComplaintAbout(const QStringList &arguments) {
+    QString complaint;
+    EXPECT_FALSE(ParseOptions(arguments, complaint).has_value());
+    return complaint.toStdString();
+}
+
+TEST(ParseOptions, OfOnePerson) {
+    const auto options = Parsed(ann + QStringList{"--middle", " M "});
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->task, Options::Task::Person);
+    EXPECT_EQ(options->person.first, "Ann");
+    EXPECT_EQ(options->person.middle, " M ");
+    EXPECT_EQ(options->person.last, "Lee");
+    EXPECT_EQ(options->person.month, "March");
+    EXPECT_EQ(options->person.day, "7");
+    EXPECT_EQ(options->person.year, "1990");
+    EXPECT_EQ(options->format, Format::Text);
+    EXPECT_FALSE(options->today);
+    EXPECT_EQ(options->output, "");
+    EXPECT_EQ(options->topics.size(), 22U);
+}
+
+// What a person's inputs may be is checked where one is read, on the command line or not.
+TEST(ParseOptions, LeavesTheInputsOfAPersonUnchecked) {
+    const auto options = Parsed({"orravane-report", "--month", "13"});
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->person.month, "13");
+    EXPECT_EQ(options->person.first, "");
+}
+
+TEST(ParseOptions, TakesFormatDayTopicsAndFile) {
+    const auto options = Parsed(ann + QStringList{"--format", "rtf", "--today", "2024-02-29",
+                                                  "--output", "f", "--topic", "Essence", "--topic",
+                                                  "Comprehensive Reading", "--topic", "Essence"});
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->format, Format::Rtf);
+    EXPECT_EQ(options->today, std::chrono::year(2024) / 2 / 29);
+    EXPECT_EQ(options->output, "f");
+    EXPECT_EQ(options->topics,
+              (std::vector<std::u16string_view>{u"Essence", u"Comprehensive Reading", u"Essence"}));
+    EXPECT_EQ(Parsed(ann + QStringList{"--format", "json"})->format, Format::Json);
+    EXPECT_EQ(Parsed(ann + QStringList{"--format", "text"})->format, Format::Text);
+}
+
+TEST(ParseOptions, OfABatch) {
+    const auto lines = Parsed({"orravane-report", "--batch", "-"});
+    ASSERT_TRUE(lines);
+    EXPECT_EQ(lines->task, Options::Task::Batch);
+    EXPECT_EQ(lines->batchFile, "-");
+    EXPECT_EQ(lines->format, Format::Json);
+
+    const auto files = Parsed({"orravane-report", "--batch", "p.csv", "--output-dir", "d"});
+    ASSERT_TRUE(files);
+    EXPECT_EQ(files->batchFile, "p.csv");
+    EXPECT_EQ(files->outputDir, "d");
+    EXPECT_EQ(files->format, Format::Text);
+    EXPECT_EQ(
+        Parsed({"orravane-report", "--batch", "-", "--output-dir", "d", "--format", "rtf"})->format,
+        Format::Rtf);
+}
+
+TEST(ParseOptions, OfTheBookHelpAndVersion) {
+    const auto book = Parsed({"orravane-report", "--book", "--format", "json"});
+    ASSERT_TRUE(book);
+    EXPECT_EQ(book->task, Options::Task::Book);
+    EXPECT_EQ(book->format, Format::Json);
+    const auto help = Parsed({"orravane-report", "--help"});
+    ASSERT_TRUE(help);
+    EXPECT_EQ(help->task, Options::Task::Help);
+    EXPECT_TRUE(help->help.contains("--output-dir"));
+    EXPECT_EQ(Parsed({"orravane-report", "--version"})->task, Options::Task::Version);
+}
+
+TEST(ParseOptions, NamesTheOptionAndWhatIsAllowed) {
+    EXPECT_NE(ComplaintAbout(ann + QStringList{"--format", "doc"}).find("text, json or rtf"),
+              std::string::npos);
+    EXPECT_NE(ComplaintAbout(ann + QStringList{"--today", "1.1.2026"}).find("YYYY-MM-DD"),
+              std::string::npos);
+    const std::string twice = ComplaintAbout(ann + QStringList{"--day", "8"});
+    EXPECT_NE(twice.find("--day"), std::string::npos);
+    const std::string both = ComplaintAbout({"orravane-report", "--book", "--batch", "-"});
+    EXPECT_NE(both.find("--book"), std::string::npos);
+    EXPECT_NE(both.find("--batch"), std::string::npos);
+}
+
+} // namespace
