@@ -1,6 +1,7 @@
 #include "core/clock.h"
 
 #include <ctime>
+#include <utility>
 
 namespace modReadings {
 
@@ -22,7 +23,7 @@ const Clock *current = nullptr;
 
 } // namespace
 
-void Clock::Install(const Clock *clock) { current = clock; }
+const Clock *Clock::Install(const Clock *clock) { return std::exchange(current, clock); }
 
 std::chrono::year_month_day Clock::Date() {
     const Clock &clock = current != nullptr ? *current : systemClock;

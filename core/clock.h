@@ -26,17 +26,17 @@ protected:
     /// The date that this clock shows now.
     virtual std::chrono::year_month_day Now() const = 0;
 
-    /// Puts `clock` in place of the system clock; nullptr puts the system clock back.
-    /// The clock must live until it is replaced.
-    static void Install(const Clock *clock);
+    /// Puts `clock` in place of the present one, which is returned; nullptr stands for the
+    /// system clock. The clock must live until it is replaced.
+    static const Clock *Install(const Clock *clock);
 };
 
-/// A clock that stands still on one date for as long as it lives, then gives way to
-/// the system clock.
+/// A clock that stands still on one date for as long as it lives, then gives way to the
+/// clock before it.
 class FixedClock final : public Clock {
 public:
-    explicit FixedClock(std::chrono::year_month_day date) : date_(date) { Install(this); }
-    ~FixedClock() override { Install(nullptr); }
+    explicit FixedClock(std::chrono::year_month_day date) : date_(date), before_(Install(this)) {}
+    ~FixedClock() override { Install(before_); }
     FixedClock(const FixedClock &) = delete;
     FixedClock &operator=(const FixedClock &) = delete;
 
@@ -50,6 +50,7 @@ private:
     std::chrono::year_month_day Now() const override { return date_; }
 
     std::chrono::year_month_day date_;
+    const Clock *const before_;
 };
 
 } // namespace modReadings

@@ -1,6 +1,6 @@
 #include "report/rich_text.h"
 
-#include <string>
+#include <utility>
 
 namespace modReadings {
 
@@ -12,7 +12,7 @@ void AppendBlock(RichTextPane &pane, std::u16string_view before, std::u16string_
     block.append(before).append(text);
     for (int written = 0; written < breaks; ++written)
         block.append(lineBreak);
-    pane.SetSelectedText(block);
+    pane.SetSelectedText(std::move(block));
 }
 
 void BoldHeading(RichTextPane &pane, std::u16string_view text) {

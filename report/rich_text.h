@@ -6,6 +6,7 @@
 // them.
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace modReadings {
@@ -37,7 +38,7 @@ public:
     virtual void SetColor(Ink ink) = 0;
     /// Replaces the selection, which is empty in practice, at the caret; the caret then
     /// stands behind `text`. "\r\n" is one line break.
-    virtual void SetSelectedText(std::u16string_view text) = 0;
+    virtual void SetSelectedText(std::u16string text) = 0;
 };
 
 /// Writes `before`, `text` and then `breaks` line breaks at the caret, as one write.

@@ -23,15 +23,17 @@ struct Run {
 
 class RunList final : public RichTextPane {
 public:
+    RunList() { runs_.reserve(10); } // a topic has no more
+
     void SetText(std::u16string_view text) override {
         runs_.clear();
         if (!text.empty())
-            SetSelectedText(text);
+            SetSelectedText(std::u16string(text));
     }
     void SetBold(bool bold) override { bold_ = bold; }
     void SetColor(Ink ink) override { ink_ = ink; }
-    void SetSelectedText(std::u16string_view text) override {
-        runs_.push_back({std::u16string(text), bold_, ink_});
+    void SetSelectedText(std::u16string text) override {
+        runs_.push_back({std::move(text), bold_, ink_});
     }
 
     const std::vector<Run> &Runs() const { return runs_; }

@@ -21,12 +21,15 @@ QPixmap ImageList::Picture(int position, QSize size, qreal devicePixelRatio) {
     return RenderArtwork(Key(position), size, devicePixelRatio);
 }
 
-QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio) {
+QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio,
+                      const QRegion &inSight) {
     QPixmap picture((QSizeF(size) * devicePixelRatio).toSize());
+    picture.setDevicePixelRatio(devicePixelRatio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    QSvgRenderer(QStringLiteral(":/artwork/%1.svg").arg(name)).render(&painter);
-    painter.end();
-    picture.setDevicePixelRatio(devicePixelRatio);
+    if (!inSight.isEmpty())
+        painter.setClipRegion(inSight);
+    QSvgRenderer(QStringLiteral(":/artwork/%1.svg").arg(name))
+        .render(&painter, QRectF(QPointF(), size));
     return picture;
 }

@@ -5,6 +5,7 @@
 // resolution.
 
 #include <QPixmap>
+#include <QRegion>
 #include <QSize>
 #include <QString>
 
@@ -22,5 +23,7 @@ QPixmap Picture(int position, QSize size, qreal devicePixelRatio);
 
 } // namespace ImageList
 
-/// Any drawing of the resources, `name` without folder and ending.
-QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio);
+/// Any drawing of the resources, `name` without folder and ending. Outside `inSight`, in
+/// logical pixels, it stays transparent; an empty region stands for all of it.
+QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio,
+                      const QRegion &inSight = {});

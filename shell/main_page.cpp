@@ -12,7 +12,9 @@ MainPage::MainPage(QWidget *parent) : QWidget(parent) { setAttribute(Qt::WA_Opaq
 void MainPage::paintEvent(QPaintEvent *event) {
     const qreal ratio = devicePixelRatioF();
     if (sky_.isNull() || !qFuzzyCompare(sky_.devicePixelRatio(), ratio)) {
-        sky_ = RenderArtwork(QStringLiteral("background"), size(), ratio);
+        // The tree and the pages never move, so what lies under them is not drawn.
+        const QRegion inSight = QRegion(rect()) - PlaceOf("TV") - PlaceOf("Picture1");
+        sky_ = RenderArtwork(QStringLiteral("background"), size(), ratio, inSight);
         // The address belongs to the picture but follows the site that was built in. The
         // label above it is an empty hot area.
         QPainter painter(&sky_);

@@ -18,7 +18,7 @@ RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent), caret_(document()
 void RichTextBox::SetText(std::u16string_view text) {
     caret_.select(QTextCursor::Document);
     caret_.removeSelectedText();
-    SetSelectedText(text);
+    SetSelectedText(std::u16string(text));
 }
 
 void RichTextBox::SetBold(bool bold) {
@@ -29,7 +29,7 @@ void RichTextBox::SetColor(modReadings::Ink ink) {
     caretFormat_.setForeground(QColor(ink.red, ink.green, ink.blue));
 }
 
-void RichTextBox::SetSelectedText(std::u16string_view text) {
+void RichTextBox::SetSelectedText(std::u16string text) {
     if (!text.empty()) // "\r\n" becomes one paragraph mark
         caret_.insertText(QStringView(text).toString(), caretFormat_);
 }

@@ -19,7 +19,7 @@ public:
     void SetText(std::u16string_view text) override;
     void SetBold(bool bold) override;
     void SetColor(modReadings::Ink ink) override;
-    void SetSelectedText(std::u16string_view text) override;
+    void SetSelectedText(std::u16string text) override;
 
     /// Runs `write` as one change: one repaint, one changed(). Afterwards the caret stands
     /// at the end of the text and the view at its beginning, where reading starts.

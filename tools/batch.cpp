@@ -1,5 +1,6 @@
 #include "tools/batch.h"
 
+#include "core/clock.h"
 #include "tools/one_line.h"
 #include "tools/output.h"
 #include "tools/people_lines.h"
@@ -79,6 +80,7 @@ private:
     }
 
     void ReadLine() {
+        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // for the whole person
         QString complaint;
         const auto input = lines_.Parse(line_, complaint);
         const auto person = input ? CheckPerson(*input, {}, complaint) : std::nullopt;

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <vector>
 
 using modReadings::BookEntry;
 using modReadings::Run;
@@ -31,21 +33,20 @@ template <typename Writer> void WriteMember(Writer &json, const char *name, std:
     WriteString(json, text);
 }
 
-void AppendUtf8(std::string &out, std::u16string_view text) {
+/// `text` in UTF-8, until the next call. One buffer serves all calls: a batch makes millions.
+std::string_view Utf8(std::u16string_view text) {
+    static std::vector<char> buffer;
     QStringEncoder encode(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QStringView view(text);
-    const std::size_t before = out.size();
-    out.resize(before + static_cast<std::size_t>(encode.requiredSpace(view.size())));
-    const char *end = encode.appendToBuffer(out.data() + before, view);
-    out.resize(static_cast<std::size_t>(end - out.data()));
+    const auto space = static_cast<std::size_t>(encode.requiredSpace(view.size()));
+    if (buffer.size() < space)
+        buffer.resize(space);
+    const char *end = encode.appendToBuffer(buffer.data(), view);
+    return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
 }
 
-/// A member of UTF-16 text. One buffer serves all of them: a batch writes millions.
 void WriteMember(JsonWriter &json, const char *name, std::u16string_view text) {
-    static std::string utf8;
-    utf8.clear();
-    AppendUtf8(utf8, text);
-    WriteMember(json, name, std::string_view(utf8));
+    WriteMember(json, name, Utf8(text));
 }
 
 /// What is in `buffer`, ended as a line.
@@ -64,18 +65,12 @@ std::string Today() {
 
 /// UTF-8 with "\r\n" as "\n".
 void AppendPlain(std::string &out, std::u16string_view text) {
-    std::string utf8 = ToUtf8(text);
-    std::erase(utf8, '\r');
-    out += utf8;
+    std::ranges::copy_if(Utf8(text), std::back_inserter(out), [](char c) { return c != '\r'; });
 }
 
 } // namespace
 
-std::string ToUtf8(std::u16string_view text) {
-    std::string utf8;
-    AppendUtf8(utf8, text);
-    return utf8;
-}
+std::string ToUtf8(std::u16string_view text) { return std::string(Utf8(text)); }
 
 std::string ReadingsAsText(std::span<const TopicReading> readings) {
     std::string text;

@@ -34,6 +34,8 @@ int PrintBook(const Options &options) {
 }
 
 int PrintPerson(const Options &options) {
+    const modReadings::FixedClock oneDay(
+        modReadings::Clock::Date()); // for numbers and "today" alike
     QString complaint;
     const auto person = CheckPerson(options.person, {QStringLiteral("--")}, complaint);
     if (!person)

@@ -22,7 +22,7 @@ public:
         operations.push_back("colour " + std::to_string(ink.red) + ' ' + std::to_string(ink.green) +
                              ' ' + std::to_string(ink.blue));
     }
-    void SetSelectedText(std::u16string_view text) override {
+    void SetSelectedText(std::u16string text) override {
         operations.push_back("write " + Readable(text));
     }
 };
