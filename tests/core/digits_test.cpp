@@ -1,6 +1,6 @@
 #include "core/digits.h"
 
-#include "tests/core/longhand.h"
+#include "tests/support/longhand.h"
 
 #include <gtest/gtest.h>
 

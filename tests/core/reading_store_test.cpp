@@ -1,8 +1,8 @@
 #include "core/reading_store.h"
 
 #include "core/user_profile.h"
-#include "tests/core/store_slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/store_slots.h"
 
 #include <string>
 #include <type_traits>

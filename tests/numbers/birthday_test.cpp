@@ -1,7 +1,7 @@
 #include "numbers/calculators.h"
-#include "tests/core/reading_rows.h"
-#include "tests/core/store_slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_rows.h"
+#include "tests/support/store_slots.h"
 
 #include <set>
 #include <string>
@@ -143,14 +143,14 @@ TEST_F(Birthday, FailsOnTextThatIsNoNumberAndKeepsItsSlots) {
     for (const std::u16string text : {u"", u"x", u"1x", u"x1", u"1 2", u"-", u"1.5", u"\u0661",
                                       u"first", u"32768", u"-32769", u"40000", u"99999999999"}) {
         EXPECT_THROW(On(text), RuntimeFailure) << PrintToString(text);
-        EXPECT_EQ(Changed(before, store), Slots({})) << PrintToString(text);
+        EXPECT_EQ(Changed(before, store), SlotNames{}) << PrintToString(text);
     }
 }
 
 TEST_F(Birthday, WritesItsThreeSlotsAndNoOther) {
-    const ReadingStore before = store = Marked();
+    const ReadingStore before = store = MarkedStore();
     On(u"29");
-    EXPECT_EQ(Changed(before, store), Slots({"BirthdayText", "BirthdayRaw", "BirthdayAbout"}));
+    EXPECT_EQ(Changed(before, store), (SlotNames{"BirthdayText", "BirthdayRaw", "BirthdayAbout"}));
 }
 
 TEST_F(Birthday, IsTheSameWhenItIsRunAgain) {
@@ -158,7 +158,7 @@ TEST_F(Birthday, IsTheSameWhenItIsRunAgain) {
     const ReadingStore first = store;
     CalcBirthday();
     CalcBirthday();
-    EXPECT_EQ(Changed(first, store), Slots({}));
+    EXPECT_EQ(Changed(first, store), SlotNames{});
 }
 
 TEST_F(Birthday, OfThreePeopleKeepsTheTextOfADayThatHasOne) {

@@ -1,9 +1,9 @@
 // What is in a name and what is missing: Karmic Lessons and Hidden Passion.
 
 #include "numbers/calculators.h"
-#include "tests/core/reading_rows.h"
-#include "tests/core/store_slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_rows.h"
+#include "tests/support/store_slots.h"
 
 #include <map>
 #include <random>
@@ -165,7 +165,7 @@ TEST_F(KarmicLessons, DoNotPileUpWhenTheyAreRunAgain) {
     const ReadingStore first = store;
     CalcKarmicLessons();
     CalcKarmicLessons();
-    EXPECT_EQ(Changed(first, store), Slots({}));
+    EXPECT_EQ(Changed(first, store), SlotNames{});
 }
 
 TEST_F(KarmicLessons, OfThreePeopleStartFromNothingEachTime) {
@@ -177,10 +177,10 @@ TEST_F(KarmicLessons, OfThreePeopleStartFromNothingEachTime) {
 }
 
 TEST_F(KarmicLessons, WriteTheirThreeSlotsAndNoOther) {
-    const ReadingStore before = store = Marked();
+    const ReadingStore before = store = MarkedStore();
     Of(u"OAK", u"", u"RIVER");
     EXPECT_EQ(Changed(before, store),
-              Slots({"KarmicLessonsNumber", "KarmicLessonsText", "KarmicLessonsAbout"}));
+              (SlotNames{"KarmicLessonsNumber", "KarmicLessonsText", "KarmicLessonsAbout"}));
 }
 
 TEST_F(KarmicLessons, OfANameTooLongToCountAreEmptiedBeforeTheyFail) {
@@ -188,13 +188,13 @@ TEST_F(KarmicLessons, OfANameTooLongToCountAreEmptiedBeforeTheyFail) {
     ExpectLessons(u"9");
 
     for (const std::size_t length : {std::size_t{32768}, std::size_t{40000}}) {
-        store = Marked();
+        store = MarkedStore();
         const ReadingStore before = store;
         Named(std::u16string(length - 8, u'A'), u"B", u"CDEFGHI");
         EXPECT_THROW(CalcKarmicLessons(), RuntimeFailure);
         EXPECT_EQ(store.KarmicLessonsNumber, u"");
         EXPECT_EQ(store.KarmicLessonsText, u"");
-        EXPECT_EQ(Changed(before, store), Slots({"KarmicLessonsNumber", "KarmicLessonsText"}));
+        EXPECT_EQ(Changed(before, store), (SlotNames{"KarmicLessonsNumber", "KarmicLessonsText"}));
     }
 }
 
@@ -334,14 +334,14 @@ TEST_F(HiddenPassion, IsTheSameWhenItIsRunAgain) {
     const ReadingStore first = store;
     CalcHiddenPassion();
     CalcHiddenPassion();
-    EXPECT_EQ(Changed(first, store), Slots({}));
+    EXPECT_EQ(Changed(first, store), SlotNames{});
 }
 
 TEST_F(HiddenPassion, WritesItsThreeSlotsAndNoOther) {
-    const ReadingStore before = store = Marked();
+    const ReadingStore before = store = MarkedStore();
     Of(u"OAK", u"", u"RIVER");
     EXPECT_EQ(Changed(before, store),
-              Slots({"HiddenPassionNumber", "HiddenPassionText", "HiddenPassionAbout"}));
+              (SlotNames{"HiddenPassionNumber", "HiddenPassionText", "HiddenPassionAbout"}));
 }
 
 TEST_F(HiddenPassion, OfTheLongestNameIsFound) {
@@ -351,10 +351,10 @@ TEST_F(HiddenPassion, OfTheLongestNameIsFound) {
 
 TEST_F(HiddenPassion, OfANameTooLongToCountFailsAndKeepsItsSlots) {
     for (const std::size_t length : {std::size_t{32768}, std::size_t{40000}}) {
-        const ReadingStore before = store = Marked();
+        const ReadingStore before = store = MarkedStore();
         Named(std::u16string(length - 2, u'A'), u"B", u"C");
         EXPECT_THROW(CalcHiddenPassion(), RuntimeFailure);
-        EXPECT_EQ(Changed(before, store), Slots({}));
+        EXPECT_EQ(Changed(before, store), SlotNames{});
     }
 }
 

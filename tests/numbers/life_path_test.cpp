@@ -1,8 +1,8 @@
 #include "core/digits.h"
 #include "numbers/calculators.h"
-#include "tests/core/reading_rows.h"
-#include "tests/core/store_slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_rows.h"
+#include "tests/support/store_slots.h"
 
 #include <algorithm>
 #include <array>
@@ -203,10 +203,10 @@ TEST_F(LifePath, SelectsTheReadingOfItsNumber) {
 }
 
 TEST_F(LifePath, WritesItsFourSlotsAndNoOther) {
-    const ReadingStore before = store = Marked();
+    const ReadingStore before = store = MarkedStore();
     Of(u"29", u"November", u"1999");
     EXPECT_EQ(Changed(before, store),
-              Slots({"LifePathNumber", "LifePathDaySum", "LifePathText", "LifePathAbout"}));
+              (SlotNames{"LifePathNumber", "LifePathDaySum", "LifePathText", "LifePathAbout"}));
 }
 
 TEST_F(LifePath, DoesNotLookAtTheName) {
@@ -221,7 +221,7 @@ TEST_F(LifePath, IsTheSameWhenItIsRunAgain) {
     const ReadingStore first = store;
     CalcLifePath();
     CalcLifePath();
-    EXPECT_EQ(Changed(first, store), Slots({}));
+    EXPECT_EQ(Changed(first, store), SlotNames{});
 }
 
 TEST_F(LifePath, FailsAtACharacterThatIsNoDigitAndKeepsItsSlots) {
@@ -235,7 +235,7 @@ TEST_F(LifePath, FailsAtACharacterThatIsNoDigitAndKeepsItsSlots) {
         EXPECT_THROW(CalcLifePath(), RuntimeFailure) << PrintToString(text);
         Born(u"7", u"May", u"199" + text);
         EXPECT_THROW(CalcLifePath(), RuntimeFailure) << PrintToString(text);
-        EXPECT_EQ(Changed(before, store), Slots({})) << PrintToString(text);
+        EXPECT_EQ(Changed(before, store), SlotNames{}) << PrintToString(text);
     }
 }
 
@@ -249,7 +249,7 @@ TEST_F(LifePath, FailsWhenADigitSumLeavesTheInt16Range) {
         EXPECT_THROW(CalcLifePath(), RuntimeFailure);
         Born(u"7", u"May", digits);
         EXPECT_THROW(CalcLifePath(), RuntimeFailure);
-        EXPECT_EQ(Changed(before, store), Slots({}));
+        EXPECT_EQ(Changed(before, store), SlotNames{});
     }
 }
 

@@ -2,10 +2,10 @@
 
 #include "core/months.h"
 #include "numbers/calculators.h"
-#include "tests/core/longhand.h"
-#include "tests/core/reading_rows.h"
-#include "tests/core/store_slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
+#include "tests/support/reading_rows.h"
+#include "tests/support/store_slots.h"
 
 #include <algorithm>
 #include <random>
@@ -440,16 +440,16 @@ TEST_P(NameTotal, IsTheSameWhenItIsRunAgain) {
     const ReadingStore first = store;
     topic.calculate();
     topic.calculate();
-    EXPECT_EQ(Changed(first, store), Slots({}));
+    EXPECT_EQ(Changed(first, store), SlotNames{});
 }
 
 TEST_P(NameTotal, WritesItsOwnSlotsAndItsScratchAndNoOther) {
-    const ReadingStore before = store = Marked();
+    const ReadingStore before = store = MarkedStore();
     Calculate(u"OAK", u"", u"RIVER");
     const std::string word = topic.word;
     EXPECT_EQ(Changed(before, store),
-              Slots({word + "Number", word + "Raw", word + "Text", word + "About", "ScratchIndex",
-                     "ScratchLetter", "ScratchSum"}));
+              (SlotNames{word + "Number", word + "Raw", word + "Text", word + "About",
+                         "ScratchIndex", "ScratchLetter", "ScratchSum"}));
 }
 
 TEST_P(NameTotal, OwesNothingToWhatIsLeftInTheScratchSlots) {

@@ -1,15 +1,12 @@
 // The prose of the program against the table of what is settled about it.
 
 #include "numbers/book.h"
+#include "tests/support/reading_facts.h"
 
 #include <gtest/gtest.h>
-#include <rapidjson/document.h>
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <optional>
 #include <ostream>
@@ -22,18 +19,6 @@
 namespace modReadings {
 namespace {
 
-/// What is settled about one text.
-struct Fact {
-    std::string slot;
-    std::optional<int> number;
-    std::size_t paragraphs = 0, characters = 0;
-    std::vector<std::size_t> paragraphLengths; ///< empty where only the whole is settled
-    std::string opening;
-    std::vector<std::string> openings; ///< of every paragraph, where that is settled
-    std::optional<std::string> full, firstParagraph, lastParagraph, ends, contains,
-        thirdSentenceContains;
-};
-
 // The request that stands in place of a reading while there is nothing to read. It shares
 // the slot of a table and is no row of it.
 constexpr std::string_view refusal =
@@ -42,66 +27,6 @@ constexpr std::string_view refusal =
 
 std::string Name(const std::string &slot, std::optional<int> number) {
     return number ? slot + ' ' + std::to_string(*number) : slot;
-}
-
-Fact FactOf(const rapidjson::Value &row) {
-    Fact fact;
-    const auto lengthOf = [](const rapidjson::Value &value) {
-        return static_cast<std::size_t>(value.GetUint());
-    };
-    for (const auto &member : row.GetObject()) {
-        const std::string key = member.name.GetString();
-        const rapidjson::Value &value = member.value;
-        if (key == "slot")
-            fact.slot = value.GetString();
-        else if (key == "number")
-            fact.number = value.IsNull() ? std::nullopt : std::optional(value.GetInt());
-        else if (key == "paragraphs")
-            fact.paragraphs = lengthOf(value);
-        else if (key == "characters")
-            fact.characters = lengthOf(value);
-        else if (key == "opening")
-            fact.opening = value.GetString();
-        else if (key == "full")
-            fact.full = value.GetString();
-        else if (key == "first_paragraph")
-            fact.firstParagraph = value.GetString();
-        else if (key == "last_paragraph")
-            fact.lastParagraph = value.GetString();
-        else if (key == "ends")
-            fact.ends = value.GetString();
-        else if (key == "contains")
-            fact.contains = value.GetString();
-        else if (key == "third_sentence_contains")
-            fact.thirdSentenceContains = value.GetString();
-        else if (key == "openings")
-            for (const rapidjson::Value &opening : value.GetArray())
-                fact.openings.emplace_back(opening.GetString());
-        else if (key == "paragraph_lengths") {
-            if (!value.IsNull())
-                for (const rapidjson::Value &length : value.GetArray())
-                    fact.paragraphLengths.push_back(lengthOf(length));
-        } else
-            ADD_FAILURE() << "nothing checks the field " << key;
-    }
-    return fact;
-}
-
-const std::vector<Fact> &Facts() {
-    static const std::vector<Fact> facts = [] {
-        std::ifstream file(READINGS_TABLE, std::ios::binary);
-        const std::string json{std::istreambuf_iterator<char>(file), {}};
-        rapidjson::Document document;
-        document.Parse(json.c_str(), json.size());
-        std::vector<Fact> rows;
-        if (document.HasParseError() || !document.IsArray())
-            ADD_FAILURE() << "the table cannot be read";
-        else
-            for (const rapidjson::Value &row : document.GetArray())
-                rows.push_back(FactOf(row));
-        return rows;
-    }();
-    return facts;
 }
 
 using Key = std::pair<std::string, std::optional<int>>;
@@ -120,17 +45,6 @@ const std::multimap<Key, std::string> &Texts() {
         return all;
     }();
     return texts;
-}
-
-std::vector<std::string> Split(std::string_view text) {
-    std::vector<std::string> paragraphs;
-    for (;;) {
-        const auto end = text.find("\r\n");
-        paragraphs.emplace_back(text.substr(0, end));
-        if (end == std::string_view::npos)
-            return paragraphs;
-        text.remove_prefix(end + 2);
-    }
 }
 
 /// The sentences of a paragraph, each behind the close of the one before and blanks.
@@ -156,18 +70,11 @@ template <typename Check> void ForEveryText(Check check) {
         for (auto text = first; text != last; ++text) {
             if (text->second == refusal)
                 continue;
-            check(fact, text->second, Split(text->second));
+            check(fact, text->second, Paragraphs(text->second));
             ++texts;
         }
     }
     EXPECT_EQ(texts, 251u);
-}
-
-/// Whether a length is within so many percent of the settled one; six characters are
-/// always granted.
-bool Near(std::size_t length, std::size_t settled, std::size_t percent) {
-    const std::size_t away = length > settled ? length - settled : settled - length;
-    return away <= 6 || away * 100 <= settled * percent;
 }
 
 // The table itself, lest a slip in it let a text pass.

@@ -3,8 +3,8 @@
 #include "report/rtf.h"
 #include "tests/report/expected_report.h"
 #include "tests/report/report_text.h"
-#include "tests/report/rtf_reader.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/rtf_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "tests/report/rtf_reader.h"
 #include "tests/shell/program.h"
+#include "tests/support/rtf_reader.h"
 
 #include <QDialogButtonBox>
 #include <QDir>

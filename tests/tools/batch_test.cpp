@@ -1,7 +1,7 @@
+#include "tests/support/rtf_reader.h"
 #include "tests/tools/batch_lines.h"
 #include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
-#include "tests/tools/rtf_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -334,9 +334,7 @@ TEST_F(OutputFolder, GetsTextUnlessAnotherFormatIsAskedFor) {
 TEST_F(OutputFolder, GetsTheTopicsAskedFor) {
     ExpectGood(Write(AsJson(oak), "rtf", {"--topic", "Comprehensive Reading"}));
     ASSERT_EQ(People().size(), 1U);
-    std::u16string shown;
-    for (const ShownCharacter &character : ReadRtf(People()[0].second))
-        shown += character.unit;
+    const std::u16string shown = modReadings::RtfReader::Read(People()[0].second).Text();
     const auto runs = ExpectedRuns(oak, today, {comprehensiveReading}).front();
     EXPECT_EQ(Utf8(shown), Utf8(PlainBreaks(TextOf(runs)) + u'\n'));
 }

@@ -1,15 +1,16 @@
+#include "tests/support/rtf_reader.h"
 #include "tests/tools/complaint.h"
 #include "tests/tools/expected_report.h"
-#include "tests/tools/rtf_reader.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-using modReadings::Person;
+using namespace modReadings;
 
 namespace {
 
+constexpr Ink magenta{128, 0, 128};
 constexpr std::chrono::year_month_day today = std::chrono::year(2026) / 11 / 16;
 
 const Person anna{"Anna", {}, "Smith", "December", "29", "1985"};
@@ -24,30 +25,13 @@ std::string Rtf(const std::vector<std::u16string> &captions) {
     return run.out;
 }
 
-std::u16string TextOf(const std::vector<ShownCharacter> &shown) {
-    std::u16string text;
-    for (const ShownCharacter &character : shown)
-        text += character.unit;
-    return text;
-}
-
-/// The characters that are no line break, bold ones as they are, others with a mark.
-std::u16string Marked(const Runs &runs) {
-    std::u16string marked;
-    for (const auto &run : runs)
-        for (const char16_t unit : run.text)
-            if (unit != u'\r' && unit != u'\n')
-                marked += run.bold ? std::u16string{u'*', unit} : std::u16string{unit};
-    return marked;
-}
-
-std::u16string Marked(const std::vector<ShownCharacter> &shown) {
-    std::u16string marked;
-    for (const ShownCharacter &character : shown)
-        if (character.unit != u'\n')
-            marked += character.bold ? std::u16string{u'*', character.unit}
-                                     : std::u16string{character.unit};
-    return marked;
+/// The bold characters that are no line break, in their order.
+std::string Emphasis(const std::vector<RtfCharacter> &characters) {
+    std::u16string bold;
+    for (const RtfCharacter &character : characters)
+        if (character.bold && character.unit != u'\n')
+            bold += character.unit;
+    return Utf8(bold);
 }
 
 /// Every topic by itself and the Comprehensive Reading.
@@ -60,21 +44,16 @@ protected:
 
 TEST_P(OneTopicAsRtf, ShowsItsPage) {
     const Runs runs = ExpectedRuns(anna, today, {Caption()}).front();
-    const std::vector<ShownCharacter> shown = ReadRtf(Rtf({Caption()}));
+    const RtfDocument shown = RtfReader::Read(Rtf({Caption()}));
     // The last paragraph has its end mark too.
-    EXPECT_EQ(Utf8(TextOf(shown)), Utf8(PlainBreaks(::TextOf(runs)) + u'\n'));
-    EXPECT_EQ(Utf8(Marked(shown)), Utf8(Marked(runs)));
+    EXPECT_EQ(Utf8(shown.Text()), Utf8(PlainBreaks(TextOf(runs)) + u'\n'));
+    EXPECT_TRUE(shown.characters == ShownCharacters(runs)) << "weight or colour";
 }
 
 TEST_P(OneTopicAsRtf, IsMagentaInPlainAscii) {
     const std::string rtf = Rtf({Caption()});
-    for (const ShownCharacter &character : ReadRtf(rtf)) {
-        if (character.unit == u'\n')
-            continue;
-        ASSERT_EQ(character.red, 128);
-        ASSERT_EQ(character.green, 0);
-        ASSERT_EQ(character.blue, 128);
-    }
+    for (const RtfCharacter &character : RtfReader::Read(rtf).characters)
+        ASSERT_TRUE(character.unit == u'\n' || character.ink == magenta);
     EXPECT_TRUE(std::ranges::all_of(
         rtf, [](char c) { return (c >= 0x20 && c < 0x7F) || c == '\r' || c == '\n'; }));
     for (std::size_t at = rtf.find('\n'); at != std::string::npos; at = rtf.find('\n', at + 1))
@@ -86,15 +65,15 @@ INSTANTIATE_TEST_SUITE_P(AllCaptions, OneTopicAsRtf, testing::Range<std::size_t>
 TEST(RtfReport, IsOneDocumentOfAllTopicsByDefault) {
     const std::string rtf = Rtf({});
     EXPECT_EQ(rtf, Rtf(AllTopics()));
-    const std::vector<ShownCharacter> shown = ReadRtf(rtf);
+    const RtfDocument shown = RtfReader::Read(rtf);
 
     Runs all;
-    const std::u16string text = TextOf(shown);
+    const std::u16string text = shown.Text();
     std::u16string_view rest = text;
     for (const Runs &runs : ExpectedRuns(anna, today, AllTopics())) {
         all.insert(all.end(), runs.begin(), runs.end());
         // One page behind the other with at least one empty line between.
-        const std::u16string page = PlainBreaks(::TextOf(runs));
+        const std::u16string page = PlainBreaks(TextOf(runs));
         ASSERT_TRUE(rest.starts_with(page)) << Utf8(rest.substr(0, 200));
         const std::size_t next = std::min(rest.find_first_not_of(u'\n', page.size()), rest.size());
         const std::size_t end = page.find_last_not_of(u'\n') + 1;
@@ -102,7 +81,7 @@ TEST(RtfReport, IsOneDocumentOfAllTopicsByDefault) {
         rest.remove_prefix(next);
     }
     EXPECT_EQ(Utf8(rest), "");
-    EXPECT_EQ(Utf8(Marked(shown)), Utf8(Marked(all)));
+    EXPECT_EQ(Emphasis(shown.characters), Emphasis(ShownCharacters(all)));
 }
 
 TEST(RtfReport, SaysWhatTheTextSays) {
@@ -110,7 +89,7 @@ TEST(RtfReport, SaysWhatTheTextSays) {
     options.insert(options.end(), {"--today", "2026-11-16"});
     const Finished text = RunProgram(options);
     ExpectGood(text);
-    std::u16string words = TextOf(ReadRtf(Rtf({})));
+    std::u16string words = RtfReader::Read(Rtf({})).Text();
     std::erase(words, u'\n');
     std::string plain = text.out;
     std::erase(plain, '\n');
@@ -119,13 +98,13 @@ TEST(RtfReport, SaysWhatTheTextSays) {
 
 // The reader itself: characters that are escaped, stand-ins, groups.
 TEST(RtfReader, ShowsWhatAWordProcessorShows) {
-    const std::vector<ShownCharacter> shown = ReadRtf(
+    const RtfDocument shown = RtfReader::Read(
         "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Verdana;}}\r\n{\\colortbl ;\\red1\\green2\\blue3;}"
         "\\uc1\\pard a\\b\\cf1  b\\b0{\\b c}\\{\\\\\\u233\\'e9\\u-10179?\\u-8704?\\par\r\n}\r\n");
-    EXPECT_EQ(Utf8(TextOf(shown)), "a bc{\\é😀\n");
-    EXPECT_EQ(Utf8(Marked(shown)), "a* *b*c{\\é😀");
-    EXPECT_EQ(shown[0].red, -1);
-    EXPECT_EQ(shown[2].blue, 3);
+    EXPECT_EQ(Utf8(shown.Text()), "a bc{\\é😀\n");
+    EXPECT_EQ(Emphasis(shown.characters), " bc");
+    EXPECT_EQ(shown.characters[0].ink, Ink{});
+    EXPECT_EQ(shown.characters[2].ink, (Ink{1, 2, 3}));
 }
 
 } // namespace

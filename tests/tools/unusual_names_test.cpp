@@ -1,9 +1,9 @@
 // Names as people and machines give them: other alphabets, signs, and far too many letters.
 
+#include "tests/support/rtf_reader.h"
 #include "tests/tools/batch_lines.h"
 #include "tests/tools/complaint.h"
 #include "tests/tools/expected_report.h"
-#include "tests/tools/rtf_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -158,9 +158,7 @@ TEST_F(LongName, IsReadInEveryFormat) {
     options.insert(options.end(), {"--format", "rtf"});
     const Finished rtf = RunProgram(options);
     ExpectGood(rtf);
-    std::u16string shown;
-    for (const ShownCharacter &character : ReadRtf(rtf.out))
-        shown += character.unit;
+    const std::u16string shown = modReadings::RtfReader::Read(rtf.out).Text();
     EXPECT_EQ(Utf8(shown), Utf8(PlainBreaks(TextOf(runs)) + u'\n'));
 }
 

@@ -1,10 +1,11 @@
 #include "core/months.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/cycle_rows.h"
-#include "tests/numbers/cycles/slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <array>
+#include <cstdlib>
 
 namespace modReadings {
 namespace {
@@ -52,7 +53,7 @@ protected:
     static void ExpectRow(std::size_t position, int value) {
         EXPECT_EQ(store.*challenges[position].label,
                   labels[position][static_cast<std::size_t>(value)]);
-        EXPECT_TRUE(IsReadingOf(store.*challenges[position].text, value, challengeRows));
+        EXPECT_TRUE(IsReadingOf(store.*challenges[position].text, value, "ChallengeText"));
     }
     static void ExpectRows(int first, int second, int third, int fourth) {
         ExpectRow(0, first);
@@ -154,8 +155,7 @@ TEST_F(Challenges, AllDatesOfTheListsAndAll36Lines) {
                     ASSERT_EQ(store.*challenges[position].label,
                               labels[position][static_cast<std::size_t>(value)])
                         << day << '.' << month << '.' << year;
-                    ASSERT_TRUE((store.*challenges[position].text)
-                                    .starts_with(RowOf(value, challengeRows)->opening));
+                    ASSERT_TRUE(Opens(store.*challenges[position].text, "ChallengeText", value));
                     seen[position].insert(value);
                 }
                 ASSERT_EQ(store.ChallengeNumber, std::u16string(number.begin(), number.end()));

@@ -1,8 +1,8 @@
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
-#include "tests/numbers/cycles/cycle_rows.h"
-#include "tests/numbers/cycles/slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <ostream>
 #include <vector>
@@ -164,7 +164,7 @@ TEST_F(Essence, AnnaSmithAt41) {
     Born(u"29", u"December", u"1985");
     CalcEssence();
     EXPECT_EQ(store.EssenceNumber, 4); // 5 and 8
-    EXPECT_TRUE(IsReadingOf(store.EssenceText, 4, essenceRows));
+    EXPECT_TRUE(IsReadingOf(store.EssenceText, 4, "EssenceText"));
 }
 
 TEST_F(Essence, FoxAtAge0) {
@@ -243,7 +243,7 @@ TEST_F(Essence, EveryRowIsReachedBut11And22) {
     EXPECT_EQ(readings::essence[9].number, 11);
     EXPECT_EQ(readings::essence[10].number, 22);
     for (const Reading &reading : readings::essence)
-        EXPECT_TRUE(IsReadingOf(reading.text, reading.number, essenceRows));
+        EXPECT_TRUE(IsReadingOf(reading.text, reading.number, "EssenceText"));
 
     // At age 0 the first letters are in force: all sums from 2 to 27.
     const char16_t *const letters[] = {u"", u"A", u"B", u"C", u"D", u"E", u"O", u"G", u"H", u"I"};
@@ -253,7 +253,7 @@ TEST_F(Essence, EveryRowIsReachedBut11And22) {
             for (int last = 1; last <= 9; ++last) {
                 const int expected = DigitalRoot(first + middle + last);
                 ASSERT_EQ(At(0, letters[first], letters[middle], letters[last]), expected);
-                ASSERT_TRUE(IsReadingOf(store.EssenceText, expected, essenceRows));
+                ASSERT_TRUE(IsReadingOf(store.EssenceText, expected, "EssenceText"));
                 reached.insert(expected);
             }
         }
@@ -263,9 +263,9 @@ TEST_F(Essence, EveryRowIsReachedBut11And22) {
 
 TEST_F(Essence, MasterSumsDoNotSurvive) {
     EXPECT_EQ(At(0, u"I", u"", u"B"), 2); // 11
-    EXPECT_TRUE(IsReadingOf(store.EssenceText, 2, essenceRows));
+    EXPECT_TRUE(IsReadingOf(store.EssenceText, 2, "EssenceText"));
     EXPECT_EQ(At(0, u"I", u"R", u"M"), 4); // 22
-    EXPECT_TRUE(IsReadingOf(store.EssenceText, 4, essenceRows));
+    EXPECT_TRUE(IsReadingOf(store.EssenceText, 4, "EssenceText"));
     EXPECT_EQ(At(0, u"I", u"A", u"R"), 1); // 19, 10
     EXPECT_EQ(At(0, u"I", u"R", u"I"), 9); // 27
 }
@@ -324,12 +324,12 @@ TEST_F(Essence, UnbornPersonSeesTheReadingOfThePersonBefore) {
     Born(u"1", u"May", u"2027");
     CalcEssence();
     EXPECT_EQ(store.EssenceNumber, 0);
-    EXPECT_TRUE(IsReadingOf(store.EssenceText, 4, essenceRows));
+    EXPECT_TRUE(IsReadingOf(store.EssenceText, 4, "EssenceText"));
 
     Born(u"1", u"May", u"2026");
     CalcEssence();
     EXPECT_EQ(store.EssenceNumber, 2); // A and S
-    EXPECT_TRUE(IsReadingOf(store.EssenceText, 2, essenceRows));
+    EXPECT_TRUE(IsReadingOf(store.EssenceText, 2, "EssenceText"));
 }
 
 TEST_F(Essence, ChangesOnTheFirstOfJanuaryWhateverTheBirthday) {

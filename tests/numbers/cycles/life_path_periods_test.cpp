@@ -2,9 +2,9 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
-#include "tests/numbers/cycles/cycle_rows.h"
-#include "tests/numbers/cycles/slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <ostream>
 
@@ -66,7 +66,7 @@ TEST_P(LifePathPeriodsRow, LinesAndReading) {
     EXPECT_EQ(store.PeriodLine1, row.line1);
     EXPECT_EQ(store.PeriodLine2, row.line2);
     EXPECT_EQ(store.PeriodLine3, row.line3);
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, row.root, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, row.root, "LifePathPeriodsText"));
 }
 
 TEST_P(LifePathPeriodsRow, EdgesOfThePeriods) {
@@ -101,7 +101,7 @@ TEST_P(LifePathPeriodsRow, EveryAge) {
             expected = age <= row.firstEnds ? 1 : age <= row.secondEnds ? 2 : 3;
         EXPECT_EQ(store.LifePathPeriodsNumber, expected) << "age " << age;
         EXPECT_EQ(store.PeriodLine1, row.line1) << "age " << age;
-        EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, row.root, lifePathPeriodsRows));
+        EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, row.root, "LifePathPeriodsText"));
     }
 }
 
@@ -128,7 +128,7 @@ TEST_F(LifePathPeriods, BornOn7March1990) {
     EXPECT_EQ(store.PeriodNumber3, 1);
     EXPECT_EQ(store.PeriodRoot, 2);
     EXPECT_EQ(store.LifePathPeriodsNumber, 2); // 36, in 26 to 52; not the period's number 7
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 2, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 2, "LifePathPeriodsText"));
 }
 
 TEST_F(LifePathPeriods, FixedTextsStandWordForWord) {
@@ -180,7 +180,7 @@ TEST_F(LifePathPeriods, SumOf11Gives2AndSumOf22Gives4WhateverTheLifePathSays) {
     EXPECT_EQ(store.LifePathNumber, 11);
     EXPECT_EQ(store.PeriodRoot, 2);
     EXPECT_EQ(store.PeriodLine1, u"Life Path Period 1 from age 0 - 25 is 1");
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 2, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 2, "LifePathPeriodsText"));
 
     Born(u"9", u"September", u"1993"); // 9 + 9 + 4
     CalcLifePath();
@@ -188,13 +188,13 @@ TEST_F(LifePathPeriods, SumOf11Gives2AndSumOf22Gives4WhateverTheLifePathSays) {
     EXPECT_EQ(store.LifePathNumber, 22);
     EXPECT_EQ(store.PeriodRoot, 4);
     EXPECT_EQ(store.PeriodLine2, u"Life Path Period 2 from age 24 - 59 is 9");
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 4, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 4, "LifePathPeriodsText"));
 }
 
 TEST_F(LifePathPeriods, RowsOf11And22HaveReadingsThatNoDateReaches) {
     ASSERT_EQ(readings::lifePathPeriods.size(), 11u);
     for (const Reading &reading : readings::lifePathPeriods)
-        EXPECT_TRUE(IsReadingOf(reading.text, reading.number, lifePathPeriodsRows));
+        EXPECT_TRUE(IsReadingOf(reading.text, reading.number, "LifePathPeriodsText"));
     EXPECT_EQ(readings::lifePathPeriods[9].number, 11);
     EXPECT_EQ(readings::lifePathPeriods[10].number, 22);
 
@@ -252,7 +252,7 @@ TEST_F(LifePathPeriods, BirthYearBeforeAtAndAfterTheCurrentOne) {
     CalcLifePathPeriods();
     EXPECT_EQ(store.LifePathPeriodsNumber, 0); // not born yet
     EXPECT_EQ(store.PeriodLine3, u"Life Path Period 3 from age 58 on is 2");
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 6, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 6, "LifePathPeriodsText"));
 }
 
 TEST_F(LifePathPeriods, UnbornPersonKeepsTheIndexOfThePersonBefore) {
@@ -266,7 +266,7 @@ TEST_F(LifePathPeriods, UnbornPersonKeepsTheIndexOfThePersonBefore) {
     EXPECT_EQ(store.PeriodLine1, u"Life Path Period 1 from age 0 - 28 is 3");
     EXPECT_EQ(store.PeriodLine2, u"Life Path Period 2 from age 29 - 55 is 7");
     EXPECT_EQ(store.PeriodLine3, u"Life Path Period 3 from age 56 on is 7");
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 8, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 8, "LifePathPeriodsText"));
 
     Born(u"1", u"January", u"1900"); // 1 + 1 + 1, root 3, and 126 years old
     CalcLifePathPeriods();
@@ -306,7 +306,7 @@ TEST_F(LifePathPeriods, NameThatEndsInADigitMovesTheRootFromTheNextRunOn) {
     EXPECT_EQ(store.PeriodNumber1, 2);
     EXPECT_EQ(store.PeriodRoot, 1);
     EXPECT_EQ(store.PeriodLine1, u"Life Path Period 1 from age 0 - 26 is 2");
-    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 1, lifePathPeriodsRows));
+    EXPECT_TRUE(IsReadingOf(store.LifePathPeriodsText, 1, "LifePathPeriodsText"));
 }
 
 TEST_F(LifePathPeriods, DateThatCountsNothingHasNoRow) {

@@ -1,8 +1,8 @@
 #include "core/months.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/cycle_rows.h"
-#include "tests/numbers/cycles/slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <vector>
 
@@ -64,9 +64,9 @@ TEST_F(PersonalCycles, BornOn29December1985) {
     EXPECT_EQ(store.PersonalMonthNumber, 8);   // 2 + 3 + 2 + 1
     EXPECT_EQ(store.PersonalDayNumber, 6);     // 2 + 3 + 7 + 2 + 1 = 15
     EXPECT_EQ(store.PersonalYearNumber, u"6"); // 11 folds to 2, and 3; 5 + 1
-    EXPECT_TRUE(IsReadingOf(store.PersonalMonthText, 8, personalMonthRows));
-    EXPECT_TRUE(IsReadingOf(store.PersonalDayText, 6, personalDayRows));
-    EXPECT_TRUE(IsReadingOf(store.PersonalYearText, 6, personalYearRows));
+    EXPECT_TRUE(IsReadingOf(store.PersonalMonthText, 8, "PersonalMonthText"));
+    EXPECT_TRUE(IsReadingOf(store.PersonalDayText, 6, "PersonalDayText"));
+    EXPECT_TRUE(IsReadingOf(store.PersonalYearText, 6, "PersonalYearText"));
 }
 
 TEST_F(PersonalCycles, BornOn7March1990) {
@@ -249,9 +249,9 @@ TEST_F(PersonalCycles, FollowTheClockAcrossNewYearButOnlyWhenRunAgain) {
     EXPECT_EQ(store.PersonalYearNumber, u"7"); // 5 + 2
     EXPECT_EQ(store.CurrentDayText, u"1");
     EXPECT_EQ(store.CurrentYearText, u"2027");
-    EXPECT_TRUE(IsReadingOf(store.PersonalMonthText, 8, personalMonthRows));
-    EXPECT_TRUE(IsReadingOf(store.PersonalDayText, 9, personalDayRows));
-    EXPECT_TRUE(IsReadingOf(store.PersonalYearText, 7, personalYearRows));
+    EXPECT_TRUE(IsReadingOf(store.PersonalMonthText, 8, "PersonalMonthText"));
+    EXPECT_TRUE(IsReadingOf(store.PersonalDayText, 9, "PersonalDayText"));
+    EXPECT_TRUE(IsReadingOf(store.PersonalYearText, 7, "PersonalYearText"));
 }
 
 TEST_F(PersonalCycles, MonthAndYearMayComeFromEitherSideOfMidnight) {
@@ -344,9 +344,10 @@ TEST_F(PersonalCycles, AllBirthdaysGiveOneToNineAndTheReadingOfTheNumber) {
                     << day << '.' << month << " in " << thisYear;
                 ASSERT_EQ(store.PersonalMonthNumber, expectedMonth) << day << '.' << month;
                 ASSERT_EQ(store.PersonalDayNumber, expectedDay) << day << '.' << month;
-                ASSERT_TRUE(IsReadingOf(store.PersonalYearText, expectedYear, personalYearRows));
-                ASSERT_TRUE(IsReadingOf(store.PersonalMonthText, expectedMonth, personalMonthRows));
-                ASSERT_TRUE(IsReadingOf(store.PersonalDayText, expectedDay, personalDayRows));
+                ASSERT_TRUE(IsReadingOf(store.PersonalYearText, expectedYear, "PersonalYearText"));
+                ASSERT_TRUE(
+                    IsReadingOf(store.PersonalMonthText, expectedMonth, "PersonalMonthText"));
+                ASSERT_TRUE(IsReadingOf(store.PersonalDayText, expectedDay, "PersonalDayText"));
                 years.insert(expectedYear);
                 months.insert(expectedMonth);
                 days.insert(expectedDay);

@@ -1,9 +1,9 @@
 #include "core/months.h"
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/cycle_rows.h"
-#include "tests/numbers/cycles/slots.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <array>
 
@@ -100,7 +100,7 @@ protected:
         for (std::size_t position = 0; position < 4; ++position) {
             EXPECT_EQ(store.*pinnacles[position].label, LabelOf(position, numbers[position]));
             EXPECT_TRUE(
-                IsReadingOf(store.*pinnacles[position].text, numbers[position], pinnacleRows));
+                IsReadingOf(store.*pinnacles[position].text, numbers[position], "PinnacleText"));
         }
     }
 };
@@ -188,8 +188,7 @@ TEST_F(Pinnacles, AllDatesOfTheListsAndAll44Lines) {
                 for (std::size_t position = 0; position < 4; ++position) {
                     const int value = expected[position];
                     ASSERT_EQ(store.*pinnacles[position].label, LabelOf(position, value));
-                    ASSERT_TRUE((store.*pinnacles[position].text)
-                                    .starts_with(RowOf(value, pinnacleRows)->opening));
+                    ASSERT_TRUE(Opens(store.*pinnacles[position].text, "PinnacleText", value));
                     seen[position].insert(value);
                 }
             }
@@ -208,19 +207,19 @@ TEST_F(Pinnacles, EachValueHasItsReadingInEachPlace) {
         CalcPinnacles(); // d, d, 2 d and 0
         EXPECT_EQ(store.PinnacleNumber1, row.value);
         EXPECT_EQ(store.PinnacleLabel1, row.labels[0]);
-        EXPECT_TRUE(IsReadingOf(store.PinnacleText1, row.value, pinnacleRows));
+        EXPECT_TRUE(IsReadingOf(store.PinnacleText1, row.value, "PinnacleText"));
         EXPECT_EQ(store.PinnacleNumber2, row.value);
         EXPECT_EQ(store.PinnacleLabel2, row.labels[1]);
-        EXPECT_TRUE(IsReadingOf(store.PinnacleText2, row.value, pinnacleRows));
+        EXPECT_TRUE(IsReadingOf(store.PinnacleText2, row.value, "PinnacleText"));
 
         Born(u"0", u"no month", {day.begin(), day.end()});
         CalcPinnacles(); // 0, y, y and y
         EXPECT_EQ(store.PinnacleNumber3, row.value);
         EXPECT_EQ(store.PinnacleLabel3, row.labels[2]);
-        EXPECT_TRUE(IsReadingOf(store.PinnacleText3, row.value, pinnacleRows));
+        EXPECT_TRUE(IsReadingOf(store.PinnacleText3, row.value, "PinnacleText"));
         EXPECT_EQ(store.PinnacleNumber4, row.value);
         EXPECT_EQ(store.PinnacleLabel4, row.labels[3]);
-        EXPECT_TRUE(IsReadingOf(store.PinnacleText4, row.value, pinnacleRows));
+        EXPECT_TRUE(IsReadingOf(store.PinnacleText4, row.value, "PinnacleText"));
     }
 }
 
@@ -306,7 +305,7 @@ TEST_F(Pinnacles, ValueWithoutARowLeavesOnlyItsOwnLineAndReading) {
     EXPECT_EQ(store.PinnacleLabel2, u"Second Pinnacle from age 36-44 is 1");
     EXPECT_EQ(store.PinnacleLabel3, u"Third Pinnacle from age 45-53 is 1");
     EXPECT_EQ(store.PinnacleLabel4, u"Fourth Pinnacle from age 54 & beyond is 1");
-    EXPECT_TRUE(IsReadingOf(store.PinnacleText4, 1, pinnacleRows));
+    EXPECT_TRUE(IsReadingOf(store.PinnacleText4, 1, "PinnacleText"));
 
     Born(u"29", u"December", u"1985");
     CalcPinnacles();

@@ -1,7 +1,7 @@
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 namespace modReadings {
 namespace {
@@ -20,15 +20,15 @@ protected:
 
 TEST_F(Balance, ThreeInitials) {
     EXPECT_EQ(Of(u"ANNA", u"IDA", u"RIVER"), 1); // 1 + 9 + 9 = 19, 10
-    EXPECT_TRUE(IsReadingOf(store.BalanceText, 1, balanceRows));
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 1, "BalanceText"));
     EXPECT_EQ(Of(u"IDA", u"ROSE", u"IVES"), 9); // 27
     EXPECT_EQ(Of(u"IDA", u"ROSE", u"DUNN"), 4); // 22 does not stay
-    EXPECT_TRUE(IsReadingOf(store.BalanceText, 4, balanceRows));
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 4, "BalanceText"));
 }
 
 TEST_F(Balance, NoMiddleName) {
     EXPECT_EQ(Of(u"CORA", u"", u"HILL"), 2); // 3 + 8 = 11, and never 11
-    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, balanceRows));
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, "BalanceText"));
     EXPECT_EQ(Of(u"ANNA", u"", u"SMITH"), 2); // 1 + 1
 }
 
@@ -49,7 +49,7 @@ TEST_F(Balance, AllInitials) {
                 ASSERT_EQ(Of(name(first), name(middle), name(last)), expected)
                     << first << ' ' << middle << ' ' << last;
                 if (expected != 0) {
-                    ASSERT_TRUE(IsReadingOf(store.BalanceText, expected, balanceRows));
+                    ASSERT_TRUE(IsReadingOf(store.BalanceText, expected, "BalanceText"));
                 }
             }
         }
@@ -70,13 +70,13 @@ TEST_F(Balance, ZeroKeepsTheReadingOfThePersonBefore) {
     EXPECT_EQ(Of(u"CORA", u"", u"HILL"), 2);
 
     EXPECT_EQ(Of(u"\u00C9VA", u"", u"\u00D6MER"), 0);
-    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, balanceRows));
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, "BalanceText"));
 
     EXPECT_EQ(Of(u"", u"", u""), 0);
-    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, balanceRows));
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 2, "BalanceText"));
 
     EXPECT_EQ(Of(u"ANNA", u"IDA", u"RIVER"), 1);
-    EXPECT_TRUE(IsReadingOf(store.BalanceText, 1, balanceRows));
+    EXPECT_TRUE(IsReadingOf(store.BalanceText, 1, "BalanceText"));
 }
 
 TEST_F(Balance, SixHasItsShortSentenceAndTheAboutItsTwoParagraphs) {

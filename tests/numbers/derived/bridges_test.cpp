@@ -1,8 +1,8 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <ostream>
 
@@ -23,7 +23,6 @@ struct Bridge {
     int16 ReadingStore::*other;
     int16 ReadingStore::*number;
     std::u16string ReadingStore::*text;
-    std::span<const ReadingRow> rows;
     SlotNames slots;
     const char *textSlot;
 };
@@ -37,7 +36,6 @@ const Bridge bridges[] = {
      &ReadingStore::InnerDreamsNumber,
      &ReadingStore::HPBridgeNumber,
      &ReadingStore::HPBridgeText,
-     hpBridgeRows,
      {"HPBridgeNumber", "HPBridgeText", "HPBridgeAbout"},
      "HPBridgeText"},
     {"LE",
@@ -46,7 +44,6 @@ const Bridge bridges[] = {
      &ReadingStore::LifePathNumber,
      &ReadingStore::LEBridgeNumber,
      &ReadingStore::LEBridgeText,
-     leBridgeRows,
      {"LEBridgeNumber", "LEBridgeText", "LEBridgeAbout"},
      "LEBridgeText"},
 };
@@ -61,7 +58,7 @@ protected:
         return store.*GetParam().number;
     }
     static ::testing::AssertionResult ShowsReadingOf(int number) {
-        return IsReadingOf(store.*GetParam().text, number, GetParam().rows);
+        return IsReadingOf(store.*GetParam().text, number, GetParam().textSlot);
     }
 };
 
@@ -157,19 +154,19 @@ TEST_F(BridgesInAPass, NineShowsTheReadingOfTheStaleNumbers) {
     ASSERT_EQ(store.SoulUrgeNumber, 11);
     ASSERT_EQ(store.InnerDreamsNumber, 2);
     EXPECT_EQ(store.HPBridgeNumber, 0); // the pass came by before both
-    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 0, hpBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 0, "HPBridgeText"));
     CalcHPBridge();
     EXPECT_EQ(store.HPBridgeNumber, 9);
-    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 0, hpBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 0, "HPBridgeText"));
 
     // ANN LEE: the vowels make 1 + 5 + 5 = 11, the consonants 5 + 5 + 3 = 13 and so 4.
     Named(u"ANN", u"", u"LEE");
     RunAllCalculators();
     EXPECT_EQ(store.HPBridgeNumber, 9); // of BE ORR
-    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 0, hpBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 0, "HPBridgeText"));
     CalcHPBridge();
     EXPECT_EQ(store.HPBridgeNumber, 7);
-    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 7, hpBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 7, "HPBridgeText"));
 
     // BO LEE: the vowels make 6 + 5 + 5 = 16 and so 7, the consonants 2 + 3 = 5.
     Named(u"BO", u"", u"LEE");
@@ -180,7 +177,7 @@ TEST_F(BridgesInAPass, NineShowsTheReadingOfTheStaleNumbers) {
     EXPECT_EQ(store.HPBridgeNumber, 2); // of BO LEE, whose topic was never looked at
     CalcHPBridge();
     EXPECT_EQ(store.HPBridgeNumber, 9);
-    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 2, hpBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.HPBridgeText, 2, "HPBridgeText"));
 }
 
 TEST_F(BridgesInAPass, LifePathAndDestinyAreCurrent) {
@@ -195,12 +192,12 @@ TEST_F(BridgesInAPass, LifePathAndDestinyAreCurrent) {
     Born(u"2", u"January", u"2006"); // 11
     RunAllCalculators();
     EXPECT_EQ(store.LEBridgeNumber, 7);
-    EXPECT_TRUE(IsReadingOf(store.LEBridgeText, 7, leBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.LEBridgeText, 7, "LEBridgeText"));
 
     Born(u"9", u"September", u"1993");
     RunAllCalculators();
     EXPECT_EQ(store.LEBridgeNumber, 9);
-    EXPECT_TRUE(IsReadingOf(store.LEBridgeText, 7, leBridgeRows));
+    EXPECT_TRUE(IsReadingOf(store.LEBridgeText, 7, "LEBridgeText"));
 }
 
 TEST_F(BridgesInAPass, Abouts) {

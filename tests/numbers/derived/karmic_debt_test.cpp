@@ -1,8 +1,8 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 #include <array>
 
@@ -30,7 +30,7 @@ protected:
 
     static void ExpectDebt(int number) {
         EXPECT_EQ(store.KarmicDebtNumber, number);
-        EXPECT_TRUE(IsReadingOf(store.KarmicDebtText, number, karmicDebtRows));
+        EXPECT_TRUE(IsReadingOf(store.KarmicDebtText, number, "KarmicDebtText"));
         if (number == 0) {
             EXPECT_EQ(store.KarmicDebtText, u"Not Applicable");
         }
@@ -75,7 +75,7 @@ TEST_F(KarmicDebt, LastSourceThatHitsWins) {
             expected = day;
         CalcKarmicDebt();
         ASSERT_EQ(store.KarmicDebtNumber, expected) << combination;
-        ASSERT_TRUE(IsReadingOf(store.KarmicDebtText, expected, karmicDebtRows)) << combination;
+        ASSERT_TRUE(IsReadingOf(store.KarmicDebtText, expected, "KarmicDebtText")) << combination;
     }
 }
 

@@ -1,8 +1,9 @@
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -430,14 +431,12 @@ TEST_F(Planes, AboutHasItsPartsInOrder) {
         {u"", true},
         {u"", true},
     };
-    std::u16string_view rest = store.PlanesAbout;
-    EXPECT_EQ(Paragraphs(rest), static_cast<int>(std::size(lines)));
-    for (const Line &line : lines) {
-        const std::size_t end = rest.find(u"\r\n");
-        const std::u16string_view text = rest.substr(0, end);
-        EXPECT_TRUE(line.whole ? text == line.text : text.starts_with(line.text))
-            << ::testing::PrintToString(std::u16string(line.text));
-        rest.remove_prefix(end == std::u16string_view::npos ? rest.size() : end + 2);
+    const std::vector<std::u16string> paragraphs = Paragraphs(store.PlanesAbout);
+    ASSERT_EQ(paragraphs.size(), std::size(lines));
+    for (std::size_t index = 0; index < paragraphs.size(); ++index) {
+        const auto &[text, whole] = lines[index];
+        EXPECT_TRUE(whole ? paragraphs[index] == text : paragraphs[index].starts_with(text))
+            << ::testing::PrintToString(std::u16string(text));
     }
     EXPECT_NEAR(static_cast<double>(store.PlanesAbout.size()), 4651, 93);
 }

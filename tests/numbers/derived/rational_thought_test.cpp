@@ -1,8 +1,8 @@
 #include "core/letters.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 namespace modReadings {
 namespace {
@@ -19,11 +19,11 @@ protected:
 
 TEST_F(RationalThought, DayAndFirstName) {
     EXPECT_EQ(Of(u"29", u"BEN"), 5); // 11, 2; 2 + 5 + 5 = 12; 14
-    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 5, rationalThoughtRows));
+    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 5, "RationalThoughtText"));
     EXPECT_EQ(Of(u"9", u"BOB"), 1); // 9 + 10 = 19, 10
-    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 1, rationalThoughtRows));
+    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 1, "RationalThoughtText"));
     EXPECT_EQ(Of(u"2", u"I"), 11); // 2 + 9
-    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 11, rationalThoughtRows));
+    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 11, "RationalThoughtText"));
 }
 
 TEST_F(RationalThought, DayDoesNotKeepAMasterNumber) {
@@ -34,7 +34,7 @@ TEST_F(RationalThought, DayDoesNotKeepAMasterNumber) {
 
 TEST_F(RationalThought, MasterNumbersStayAsTheTotalAndAsItsDigitSum) {
     EXPECT_EQ(Of(u"4", u"RI"), 22); // 4 + 18
-    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 22, rationalThoughtRows));
+    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 22, "RationalThoughtText"));
     EXPECT_EQ(Of(u"2", u"III"), 11);                   // 29
     EXPECT_EQ(Of(u"2", u"IRIR"), 11);                  // 38
     EXPECT_EQ(Of(u"4", std::u16string(55, u'I')), 22); // 4 + 495 = 499 with digits 22
@@ -51,7 +51,7 @@ TEST_F(RationalThought, EveryTotalUpTo49) {
         EXPECT_EQ(Of(u"0", std::u16string(total, u'A')), expected[total]) << total;
         if (total > 0) {
             EXPECT_TRUE(
-                IsReadingOf(store.RationalThoughtText, expected[total], rationalThoughtRows));
+                IsReadingOf(store.RationalThoughtText, expected[total], "RationalThoughtText"));
         }
         if (total > 9) { // the same total with a day in it
             EXPECT_EQ(Of(u"18", std::u16string(total - 9, u'S')), expected[total]) << total;
@@ -78,7 +78,7 @@ TEST_F(RationalThought, NumberWithoutARowEmptiesTheText) {
     EXPECT_EQ(store.RationalThoughtText, u"");
     EXPECT_FALSE(store.RationalThoughtAbout.empty());
     EXPECT_EQ(Of(u"29", u"BEN"), 5);
-    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 5, rationalThoughtRows));
+    EXPECT_TRUE(IsReadingOf(store.RationalThoughtText, 5, "RationalThoughtText"));
 
     const ReadingStore marked = MarkedStore();
     store = marked;

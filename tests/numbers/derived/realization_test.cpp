@@ -1,8 +1,8 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 namespace modReadings {
 namespace {
@@ -87,7 +87,7 @@ TEST_F(Realization, AllPairsOfCoreNumbers) {
             } else {
                 const int expected = NumberOfSum(lifePath + destiny);
                 EXPECT_EQ(number, expected) << lifePath << " and " << destiny;
-                EXPECT_TRUE(IsReadingOf(store.RealizationText, expected, realizationRows));
+                EXPECT_TRUE(IsReadingOf(store.RealizationText, expected, "RealizationText"));
                 written.insert({"RealizationNumber", "RealizationAbout"});
                 reached.insert(number);
             }
@@ -99,9 +99,9 @@ TEST_F(Realization, AllPairsOfCoreNumbers) {
 
 TEST_F(Realization, StopLooksAtTheDigitSumAndNotAtTheSum) {
     EXPECT_EQ(Of(22, 7), 11); // 29
-    EXPECT_TRUE(IsReadingOf(store.RealizationText, 11, realizationRows));
+    EXPECT_TRUE(IsReadingOf(store.RealizationText, 11, "RealizationText"));
     EXPECT_EQ(Of(11, 11), 4); // 22
-    EXPECT_TRUE(IsReadingOf(store.RealizationText, 4, realizationRows));
+    EXPECT_TRUE(IsReadingOf(store.RealizationText, 4, "RealizationText"));
     EXPECT_EQ(Of(9, 2), 2);  // 11
     EXPECT_EQ(Of(9, 9), 9);  // 18
     EXPECT_EQ(Of(22, 6), 1); // 28, 10
@@ -110,11 +110,11 @@ TEST_F(Realization, StopLooksAtTheDigitSumAndNotAtTheSum) {
 
 TEST_F(Realization, NumbersThatNoPairReaches) {
     EXPECT_EQ(Of(498, 1), 22); // 499 has the digit sum 22
-    EXPECT_TRUE(IsReadingOf(store.RealizationText, 22, realizationRows));
+    EXPECT_TRUE(IsReadingOf(store.RealizationText, 22, "RealizationText"));
 
     // 199 has the digit sum 19 and folds once, to 10, which has no row.
     EXPECT_EQ(Of(198, 1), 10);
-    EXPECT_TRUE(IsReadingOf(store.RealizationText, 22, realizationRows));
+    EXPECT_TRUE(IsReadingOf(store.RealizationText, 22, "RealizationText"));
 }
 
 TEST_F(Realization, NameOfDigitsAsksForTheTwoFigures) {
@@ -146,7 +146,7 @@ TEST_F(Realization, RequestKeepsNumberAndAboutOfThePersonBefore) {
     EXPECT_EQ(store.RealizationText, request);
 
     EXPECT_EQ(Of(9, 9), 9);
-    EXPECT_TRUE(IsReadingOf(store.RealizationText, 9, realizationRows));
+    EXPECT_TRUE(IsReadingOf(store.RealizationText, 9, "RealizationText"));
 }
 
 TEST_F(Realization, IsCurrentWithinThePass) {
@@ -154,7 +154,7 @@ TEST_F(Realization, IsCurrentWithinThePass) {
     Named(u"BE", u"", u"ORR");         // Destiny 31 and so 4
     RunAllCalculators();
     EXPECT_EQ(store.RealizationNumber, 8); // 26
-    EXPECT_TRUE(IsReadingOf(store.RealizationText, 8, realizationRows));
+    EXPECT_TRUE(IsReadingOf(store.RealizationText, 8, "RealizationText"));
     const ReadingStore once = store;
     CalcRealization();
     EXPECT_EQ(ChangedSince(once), SlotNames{});

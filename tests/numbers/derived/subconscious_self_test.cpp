@@ -1,7 +1,7 @@
 #include "numbers/calculators.h"
-#include "tests/numbers/cycles/slots.h"
-#include "tests/numbers/derived/derived_rows.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_facts.h"
+#include "tests/support/store_slots.h"
 
 namespace modReadings {
 namespace {
@@ -23,7 +23,7 @@ TEST_F(SubconsciousSelf, EveryCount) {
     for (std::size_t count = 0; count <= 9; ++count) {
         const int number = static_cast<int>(count);
         EXPECT_EQ(Of(letters.substr(0, count), u"", u""), number);
-        EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, number, subconsciousSelfRows));
+        EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, number, "SubconsciousSelfText"));
         if (count < 3) {
             EXPECT_EQ(store.SubconsciousSelfText, refusal);
         }
@@ -32,7 +32,7 @@ TEST_F(SubconsciousSelf, EveryCount) {
 
 TEST_F(SubconsciousSelf, AnnLee) {
     EXPECT_EQ(Of(u"ANN", u"", u"LEE"), 3); // 1, 5 and 3: N and E share the 5
-    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 3, subconsciousSelfRows));
+    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 3, "SubconsciousSelfText"));
 }
 
 TEST_F(SubconsciousSelf, AnnaShowsItsNumberAboveTheRefusal) {
@@ -42,7 +42,7 @@ TEST_F(SubconsciousSelf, AnnaShowsItsNumberAboveTheRefusal) {
 
 TEST_F(SubconsciousSelf, AllThreeNamesCount) {
     EXPECT_EQ(Of(u"ABC", u"DEF", u"GHI"), 9);
-    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 9, subconsciousSelfRows));
+    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 9, "SubconsciousSelfText"));
     EXPECT_EQ(Of(u"ABC", u"", u"GHI"), 6);
     EXPECT_EQ(Of(u"", u"DEF", u""), 3);
 }
@@ -75,7 +75,7 @@ TEST_F(SubconsciousSelf, RefusalReplacesTheReadingOfThePersonBefore) {
     EXPECT_EQ(Of(u"ANNA", u"", u""), 2);
     EXPECT_EQ(store.SubconsciousSelfText, refusal);
     EXPECT_EQ(Of(u"ANN", u"", u"LEE"), 3);
-    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 3, subconsciousSelfRows));
+    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 3, "SubconsciousSelfText"));
 }
 
 TEST_F(SubconsciousSelf, WritesItsOwnSlotsAndEmptiesItsScratch) {

@@ -5,11 +5,10 @@
 
 #include "core/reading_store.h"
 
-#include <algorithm>
-#include <array>
+#include <iterator>
+#include <set>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace modReadings {
 
@@ -110,43 +109,50 @@ static_assert(!HasMembers(std::make_index_sequence<slotCount + 1>()), "a slot is
 
 } // namespace detail
 
-/// The names of the slots that `choose(before, after)` picks by their two values.
+using SlotNames = std::set<std::string>;
+
+/// The names of the slots that `choose(a, b)` picks by their two values.
 template <typename Choose>
-std::vector<std::string> SlotsWhere(const ReadingStore &a, const ReadingStore &b, Choose choose) {
-    std::vector<std::string> names;
-    for (const auto &slot : numberSlots)
-        if (choose(a.*slot.member, b.*slot.member))
-            names.emplace_back(slot.name);
-    for (const auto &slot : textSlots)
-        if (choose(a.*slot.member, b.*slot.member))
-            names.emplace_back(slot.name);
-    std::ranges::sort(names);
+SlotNames SlotsWhere(const ReadingStore &a, const ReadingStore &b, Choose choose) {
+    SlotNames names;
+    for (const auto &[name, member] : numberSlots)
+        if (choose(a.*member, b.*member))
+            names.insert(name);
+    for (const auto &[name, member] : textSlots)
+        if (choose(a.*member, b.*member))
+            names.insert(name);
     return names;
 }
 
-/// The names, sorted, of the slots in which the two stores differ.
-inline std::vector<std::string> Changed(const ReadingStore &a, const ReadingStore &b) {
+/// The names of the slots in which the two stores differ.
+inline SlotNames Changed(const ReadingStore &a, const ReadingStore &b) {
     return SlotsWhere(a, b, [](const auto &left, const auto &right) { return left != right; });
 }
 
-/// The names, sorted, of the slots that are alike in both stores.
-inline std::vector<std::string> Kept(const ReadingStore &a, const ReadingStore &b) {
+/// The names of the slots that are alike in both stores.
+inline SlotNames Kept(const ReadingStore &a, const ReadingStore &b) {
     return SlotsWhere(a, b, [](const auto &left, const auto &right) { return left == right; });
 }
 
-/// Names as a test lists them, sorted.
-inline std::vector<std::string> Slots(std::vector<std::string> names) {
-    std::ranges::sort(names);
-    return names;
+/// The slots in which the store differs from `before`. ScratchIndex is left out: it is the
+/// index of whatever walk came last and no result.
+inline SlotNames ChangedSince(const ReadingStore &before) {
+    SlotNames changed = Changed(before, store);
+    changed.erase("ScratchIndex");
+    return changed;
 }
 
-/// A store whose every slot holds what no calculator writes.
-inline ReadingStore Marked() {
+/// A store in which every slot holds something of its own that no calculator writes, so
+/// that each write shows. The numbers are positive, for a calculator that reads one of them
+/// has to be able to fold it. ScratchLetter becomes a text that is no month's number.
+inline ReadingStore MarkedStore() {
     ReadingStore marked;
-    for (const auto &slot : numberSlots)
-        marked.*slot.member = 777;
-    for (const auto &slot : textSlots)
-        marked.*slot.member = u"left by an earlier run";
+    int16 mark = 5000;
+    for (const auto &[name, member] : numberSlots)
+        marked.*member = mark++;
+    for (const auto &[name, member] : textSlots)
+        marked.*member =
+            u"old " + std::u16string(name, name + std::char_traits<char>::length(name));
     return marked;
 }
 
