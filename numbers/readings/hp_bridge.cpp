@@ -52,9 +52,9 @@ constexpr Reading rows[] = {
         u"arrive at a birthday with a useful present and leave before the candles. Stay to the "
         u"end of the dull party. Ask about the bad knee, hear the reply, and let the occasion "
         u"pass without setting anybody's affairs right."},
-    {7, u"Spending some time in solitude would be rewarding enough for you. Take two hours of it "
-        u"each week, without a screen or a voice, and announce it, so that nobody feels shut out. "
-        u"At first you are only restless; then your own opinion comes back, and it is often a "
+    {7, u"Spending some time in solitude would be rewarding enough for you. Begin with a single "
+        u"evening, without a screen or a voice, on which you could have gone out and did not. At "
+        u"first you are only restless; then your own opinion comes back, and it is often a "
         u"surprise. You need such hours because you fit so well into every company, lively with "
         u"the lively and grave with the grave, that your own wish gets lost there. You take up "
         u"sailing because your friends sail, and discover out on the water that you are bored. On "

@@ -10,13 +10,13 @@ constexpr Reading rows[] = {
         u"absent from your name, and with it the part that speaks first. You ask three friends "
         u"before you buy a pair of shoes. In a meeting you keep a good idea to yourself until a "
         u"colleague says it two weeks later and is thanked for it. When voices are raised you "
-        u"give ground to be done with the noise, and lie awake composing the reply that you "
-        u"should have made. The lesson comes around in different clothes: a bossy superior, then "
-        u"a partner who decides everything, then a child who has noticed how it is done. There is "
-        u"a good side, for you are free of vanity and can work under anyone. Practice on trifles. "
-        u"Settle something within ten minutes, consult nobody, and stand by it even if it turns "
-        u"out to be the wrong color. Each of these lays down a little firmness, and one day you "
-        u"hear yourself say no to somebody important, in a voice that does not shake."},
+        u"give ground to be done with the noise, and then carry out with a straight face what you "
+        u"know to be a mistake. The lesson comes around in different clothes: a bossy superior, "
+        u"then a friend who borrows and forgets, then a child who has noticed how it is done. "
+        u"There is a good side, for you are free of vanity and can work under anyone. Practice on "
+        u"trifles. Settle something within ten minutes, consult nobody, and stand by it even if "
+        u"it turns out to be the wrong color. Each of these lays down a little firmness, and one "
+        u"day the good idea is out of your mouth two weeks before your colleague can have it."},
     {2, u"You have confidence in yourself and you think that you can face up to any situation "
         u"without taking help from others. So the sofa is dragged down three floors by one "
         u"person, and the wall keeps the scratch. What your name lacks is the 2, the ear for the "
@@ -27,9 +27,9 @@ constexpr Reading rows[] = {
         u"by: the name of the assistant, a reply to a letter. Until this is learned you meet the "
         u"same ending again and again, with business partners, roommates or lovers who drop out "
         u"at about the same point, and you tell each story as their failing. Courage and speed "
-        u"you have in plenty, and neither need be given up. Let the other person finish and then "
-        u"count to five. Once in a while ask for a hand with something that you could manage "
-        u"alone, and accept it when it is done more slowly than you would have done it."},
+        u"you have in plenty, and neither need be given up. Bring the draft, and ask what is "
+        u"missing. Once in a while ask for a hand with something that you could manage alone, and "
+        u"accept it when it is done more slowly than you would have done it."},
     {3, u"There are times when you are not happy with the things going on in your life. Hardly "
         u"anyone hears of it. With no 3 among your letters, the road from what you feel to what "
         u"you say is badly paved, and you are your own strictest critic on the way. A compliment "
@@ -74,10 +74,10 @@ constexpr Reading rows[] = {
         u"things used to be, which the other person cannot give back to you. Caution has made you "
         u"loyal, and you know a few places and people thoroughly, as the restless never do. Keep "
         u"that. But each refusal makes the next novelty look larger, until a different brand of "
-        u"coffee is an event. Do one unfamiliar thing every week that serves no purpose: eat what "
-        u"you cannot pronounce, get off the bus a stop too soon, sit beside the stranger. Say yes "
-        u"while the reasons against it are still putting on their shoes. Changes that you have "
-        u"chosen are the best training for the others."},
+        u"coffee is an event. Do one unfamiliar thing every week that serves no purpose: watch a "
+        u"game whose rules you do not know, answer a notice on a wall, sit beside the stranger. "
+        u"Say yes while the reasons against it are still putting on their shoes. Changes that you "
+        u"have chosen are the best training for the others."},
     {6, u"This is a really hard time on the personal front. Somebody close to you wants more than "
         u"visits, and you have been living with them much as a pleasant guest would: good company "
         u"at dinner, away when the furnace fails. The 6 is missing from the letters of your name, "
@@ -106,10 +106,10 @@ constexpr Reading rows[] = {
         u"you reply to what was said and miss what lay under it, so that what began over a teapot "
         u"comes back next month over the car. Then there is the quiet, which you have kept ahead "
         u"of, and which catches up by way of an empty weekend. Stay in it. Half an hour a day "
-        u"without sound is enough, and whether you spend it in prayer, on a path by the river or "
-        u"over a notebook is your own affair. Choose one subject, too, and follow it down past "
-        u"the point where it stops being fun. Your own judgment is easier to trust once it has "
-        u"been to the bottom of something."},
+        u"without sound is enough, and whether you spend it in prayer, at a window or over a "
+        u"sheet of paper is your own affair. Take up one of the books at page forty, too, and "
+        u"stay with it past the point where it stops being fun. Your own judgment is easier to "
+        u"trust once it has been to the bottom of something."},
     {8, u"This is the time to be careful about handling financial matters. The 8 is lacking in "
         u"your name, and with it the feeling for what things are worth, your own work included. "
         u"Asked for a price, you look at the floor and say a figure that is too low, or make a "

@@ -14,9 +14,9 @@ constexpr Reading rows[] = {
         u"subject for tomorrow; tonight it would sting you both."},
     {3, u"You will get fun from some lively recreational activities on this day. A dance or a "
         u"noisy lunch with people who laugh at the same things does more for you than an early "
-        u"night. Your tongue is quick and the table listens, so watch the anecdote that improves "
-        u"with each telling; somebody present was there when it happened. Look round once for the "
-        u"guest who has not said a word, and ask them something."},
+        u"night. Your tongue is quick and the table listens, so an awkward request, put lightly "
+        u"today, is granted before it has been weighed. Be on your way home before the fun turns "
+        u"into noise, and leave one good story for next time."},
     {4, u"This is the day of maximum hard work to make a success of all your business affairs. "
         u"Take the heaviest job first and shut the door on the rest until it is done. The figures "
         u"repay a second reading. The machine or the clerk will be slow, so bring something to do "

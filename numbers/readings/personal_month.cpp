@@ -6,14 +6,14 @@ namespace {
 constexpr Reading rows[] = {
     {1, u"This is the time when you would like to start new ventures. A phone call in the first "
         u"week is worth more than a plan perfected in the third, when the wish has cooled into "
-        u"talk. You will be short with people who want to discuss it again. Hear them out, since "
-        u"one of them has spotted the gap."},
+        u"talk. Old duties crowd around a new one. Put them together on two evenings, and keep "
+        u"the fresh hours for the start."},
     {2, u"This is the time to maintain friendly and harmonious relationships with others. A cool "
         u"spell between you and a colleague or a cousin can be ended this month by a visit that "
-        u"has no purpose. Two friends who have fallen out each bring you their side of it. Listen "
-        u"to both and carry no messages, or they will make up and be cross with you together. "
-        u"Work that two can share goes better shared. If your name is left off some list, ask "
-        u"before you brood; it was most likely an oversight."},
+        u"has no purpose. Return the borrowed dish with something in it, and remember the "
+        u"birthdays that fall in these weeks; such trifles do more now than a long talk about "
+        u"feelings would. Work that two can share goes better shared. If your name is left off "
+        u"some list, ask before you brood; it was most likely an oversight."},
     {3, u"This is the month to explore your creative side. Four weeks are enough for a short "
         u"thing: a poem for a birthday, a shelf of painted jars, a scene acted with the "
         u"neighbors' children. Show it while it is still a bit rough. Talk comes easily and whole "
@@ -21,7 +21,7 @@ constexpr Reading rows[] = {
         u"in two mornings with the radio on."},
     {4, u"This is a time to plan and organize your work carefully. Count the working days left in "
         u"the month, write the jobs against them, and you will see at once that two have to go. "
-        u"The rest can be done if you begin with the one you like least. Delays come from small "
+        u"The rest can be done if each is given a morning of its own. Delays come from small "
         u"parts that are missing, so look a week ahead. When somebody upsets the list with a good "
         u"reason, give in; that is what the pencil is for."},
     {5, u"This is the time to forget about past mistakes and start afresh. The thing you bungled "
@@ -38,13 +38,13 @@ constexpr Reading rows[] = {
     {7, u"This is a period to explore your inner talents and ideas. Something you can do rather "
         u"well has been left idle because it brings no applause: mending, languages, chess, "
         u"thinking a matter through on paper. Give it a quiet hour most evenings. You judge the "
-        u"first results harshly; show them to one patient friend before you throw them away. "
+        u"first results harshly; put them out of sight until the last week, and look again then. "
         u"Large decisions can wait."},
     {8, u"This is a number when you have to work really hard to make things happen. Nothing runs "
         u"by itself this month, though nearly everything moves when you take hold of it. Chase "
         u"the overdue reply, and ask the person at the top instead of the one at the desk. Settle "
         u"what each helper is to do. Their pace will madden you. Give them a date in place of a "
-        u"lecture, and thank them by name when it is met."},
+        u"lecture, and do not ask after it every morning."},
     {9, u"This is a time to do something for the society. Give it a definite shape: an afternoon "
         u"sorting clothes at the charity shop, or a lift for the neighbor who no longer drives. "
         u"Large feelings about the state of the world come and go, and the afternoon does more, "

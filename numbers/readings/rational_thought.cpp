@@ -42,40 +42,41 @@ constexpr Reading rows[] = {
         u"makes you thorough and also partial: the same argument weighs more coming from a friend "
         u"than from a stranger. Worry likes to pass for thinking with you. Ask what you would "
         u"advise if you knew none of the people, then put the names back in."},
-    {7, u"People of this rational number have an analytical nature. You take a statement apart "
-        u"like a clock: who says so, how they know, what follows if it is false. The one figure "
-        u"in a column that cannot be right leaps to your eye. But you hold back your answer until "
-        u"the last doubt is gone, and by then the others have acted. Give it sooner, with the "
-        u"doubt attached, and finish checking afterward."},
+    {7, u"People of this rational number have an analytical nature. You test a statement as "
+        u"others test ice: who says so, how they know, what follows if it is false. An "
+        u"advertisement is to you a puzzle with one piece held back. But you hold back your "
+        u"answer until the last doubt is gone, and by then the others have acted. Give it sooner, "
+        u"with the doubt attached, and finish checking afterward."},
     {8, u"People of this rational thought number avoid irrelevant details of any matter and come "
         u"to the conclusion soon since they ask at once what a thing is for and what it costs. A "
         u"report of twenty pages you read from the end. You rank the points and strike out most "
-        u"of them, and the question on which the rest hangs is answered before the coffee is "
-        u"cold. Sometimes the detail you strike out is a person's pride, or a small cost that "
-        u"returns every month. Anything that cannot be counted is apt to be counted as nothing. "
-        u"Let the slowest thinker in the room speak before you close the matter."},
+        u"of them, and the question on which the rest hangs is answered while the others are at "
+        u"the preface. Sometimes the detail you strike out is a person's pride, or a small cost "
+        u"that returns every month. Anything that cannot be counted is apt to be counted as "
+        u"nothing. Let the slowest thinker in the room speak before you close the matter."},
     {9, u"People with this rational thought number are more spiritually inclined. You see the "
         u"whole before the parts and judge a decision by whom it leaves worse off, strangers "
         u"included. Reasoning that comes out right on paper and treats somebody shabbily is to "
         u"you a mistake in the sum. In a dispute you can say how it will look in ten years, which "
         u"cools the hotheads. Train times and totals slip from you, however, and your mood puts "
-        u"its color on the evidence: on a gray day everything proves the same sad point. Let each "
-        u"hour of thinking end in some act with a place and a time to it, be it only a call to an "
-        u"old friend."},
+        u"its color on the evidence: on a wet Monday everything proves the same sad point. Let "
+        u"each hour of thinking end in some act with a place and a time to it, be it only a call "
+        u"to an old friend."},
     {11, u"People with this rational thought number are spiritually inclined as well as dynamic in "
          u"nature but they may not be well able to explain how they came by an answer. It reaches "
          u"you whole, in the bath or in the middle of another person's sentence, and you collect "
          u"the reasons afterward. You have been right in this way too often to trust slow methods. "
-         u"On tense days, though, mere nerves speak in the same voice and you obey them with equal "
-         u"certainty; then one doubtful look from a colleague makes you drop the whole idea, good "
-         u"or bad. Keep a list of your flashes with the date, and see later which came true. Then "
-         u"take the next one to a practical friend who is not afraid of dull questions."},
+         u"In a tense week, though, mere nerves speak in the same voice and you obey them with "
+         u"equal certainty, and asked for your grounds you take offense, as though your honesty "
+         u"had been doubted. Keep a list of your flashes with the date, and see later which came "
+         u"true. As for the next one, reason backward from it and find out what else would have to "
+         u"be so."},
     {22, u"People with this rational thought number like to dream about bigger things in life. "
          u"Your thinking starts at the far end: you see the street finished, with its lamps lit, "
-         u"and reckon back to the first load of gravel. Unlike other dreamers you know what gravel "
-         u"costs and who would have to be hired to spread it. Small questions seem beneath the "
-         u"plan, and they lie there until one of them holds up everything. Now and then its size "
-         u"scares you, and you draw another version to put off starting. Cut out a piece that two "
+         u"and reckon back to the first load of gravel. The way back is marked with prices and "
+         u"trades, so that your daydreams stand up well to questions. Small questions seem beneath "
+         u"the plan, and they lie there until one of them holds up everything. On some days the "
+         u"size of it sends you back to your books for one more figure. Cut out a piece that two "
          u"people can finish in a week, and let what goes wrong there correct the drawing."},
 };
 } // namespace
