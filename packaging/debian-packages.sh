@@ -9,7 +9,7 @@ build_packages="
 
 test_packages="
     clang-format clang-tidy libgtest-dev
-    appstream desktop-file-utils dpkg-dev man-db
+    appstream desktop-file-utils dpkg-dev file man-db
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     libreoffice-writer-nogui locales openbox poppler-utils python3 qt6-wayland unrtf
     weston x11-utils xclip xdotool xvfb

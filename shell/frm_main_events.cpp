@@ -182,7 +182,11 @@ void frmMain::BringToFront(QWidget *page) {
     cmdNext->setShortcut(page == Picture2 ? QKeySequence() : alt_P);
     cmdPrint->setShortcut(page == Picture2 ? alt_P : QKeySequence());
 
-    // The focus must not stay behind on a page that nobody sees.
+    // Neither the focus nor the mouse must stay behind on a page that nobody sees. The mouse
+    // could: the page may change by the keyboard while it rests on a button.
+    for (ImageButton *button : findChildren<ImageButton *>())
+        if (!IsReachable(button))
+            button->LetGo();
     if (focusWidget() != nullptr && !IsReachable(focusWidget()))
         TV->setFocus();
 }

@@ -45,6 +45,11 @@ void ImageButton::ReleaseCapture() {
         releaseMouse();
 }
 
+void ImageButton::LetGo() {
+    ReleaseCapture();
+    ShowImage(plain_);
+}
+
 void ImageButton::ShowImage(int position) {
     if (shown_ == position)
         return;
@@ -59,8 +64,7 @@ void ImageButton::mouseMoveEvent(QMouseEvent *event) {
     const bool outside =
         point.x() < 0 || point.x() > width() || point.y() < 0 || point.y() > height();
     if (outside) {
-        ReleaseCapture();
-        ShowImage(plain_);
+        LetGo();
     } else if (!HasCapture()) {
         SetCapture();
         ShowImage(hover_);
@@ -77,10 +81,8 @@ void ImageButton::mouseReleaseEvent(QMouseEvent *event) {
 void ImageButton::leaveEvent(QEvent *event) {
     QAbstractButton::leaveEvent(event);
     // With the mouse captured the moves outside tell more exactly.
-    if (QWidget::mouseGrabber() == this)
-        return;
-    ReleaseCapture();
-    ShowImage(plain_);
+    if (QWidget::mouseGrabber() != this)
+        LetGo();
 }
 
 void ImageButton::hideEvent(QHideEvent *event) {
@@ -89,10 +91,8 @@ void ImageButton::hideEvent(QHideEvent *event) {
 }
 
 bool ImageButton::event(QEvent *event) {
-    if (event->type() == QEvent::WindowDeactivate) { // another window has come up: let go
-        ReleaseCapture();
-        ShowImage(plain_);
-    }
+    if (event->type() == QEvent::WindowDeactivate) // another window has come up
+        LetGo();
     return QAbstractButton::event(event);
 }
 

@@ -16,6 +16,10 @@ public:
     /// The position of the image now shown.
     int ImagePosition() const { return shown_; }
 
+    /// Releases the mouse and turns plain: for what takes the button away from under the
+    /// mouse without a move of it.
+    void LetGo();
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

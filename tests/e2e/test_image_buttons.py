@@ -3,6 +3,7 @@
 import desktop
 from accessible import FILE_LISTS
 from desktop import Desktop, DesktopTest, HELP_PAGE
+from program import TOPIC_INK
 from readings import MARIA
 from waiting import wait_for
 
@@ -129,6 +130,40 @@ class ImageButtons(DesktopTest):
             program.move_to("TV")
             self.await_form(program, "picSave", plain, "plain")
             program.read_topic("Personal Year", MARIA)
+            self.assert_quiet(screen)
+
+    def test_page_change_by_keyboard_frees_the_mouse(self):
+        with Desktop("buttons-keyboard") as screen:
+            program = screen.orravane()
+            program.enter(MARIA)
+            screen.park_mouse()
+            _, proceed_lit = self.forms(program, "picProceed")
+            program.move_to("picProceed")
+            self.await_form(program, "picProceed", proceed_lit, "lit")
+
+            # Proceed and Save stand at the same place of their pages. The mouse rests there
+            # while the page changes, and belongs to the button that is seen.
+            screen.keys("alt+p")
+            program.await_report()
+            plain = program.part("picSave")
+            program.move_to("picSave")
+            wait_for("Save to light up", lambda: self.other(program, "picSave", plain))
+            screen.xdotool("click", 1)
+            screen.await_keyboard(screen.window("Orravane"))
+            screen.keys("Escape")
+            program.await_no_dialog()
+
+            program.move_to("picSave")
+            wait_for("Save to light up", lambda: self.other(program, "picSave", plain))
+            screen.await_keyboard(program.window)
+            screen.keys("Home", "Right", "Down", "Return")  # in the tree, where the focus is
+            wait_for("the input page", lambda: program.part("picSave") != plain and
+                     not program.part("RTB").colours()[TOPIC_INK])
+            program.move_to("picProceed")
+            self.await_form(program, "picProceed", proceed_lit, "lit")
+            screen.xdotool("click", 1)
+            program.await_report()
+            self.assertEqual(screen.windows("Orravane"), [])
             self.assert_quiet(screen)
 
     def test_release_outside_is_no_click(self):

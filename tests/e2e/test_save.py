@@ -117,6 +117,23 @@ class Save(DesktopTest):
             self.assertEqual(screen.opened_pages(), [])
             self.assert_quiet(screen)
 
+    def test_home_without_documents(self):
+        with Desktop("save-no-documents", accessible=True) as screen:
+            (screen.home / "Documents").rmdir()
+            program = screen.orravane()
+            program.proceed(MARIA)
+            program.open_save_dialog()
+            dialog = screen.accessibility.dialog(program.process, "Orravane")
+            self.assertEqual(dialog.find("text", "File name:", skip=FILE_LISTS).text(), "")
+            screen.type("report")
+            screen.keys("Return")
+            program.await_no_dialog()
+            wait_for("the file", (screen.home / "report.txt").exists)
+            self.assert_rtf((screen.home / "report.txt").read_bytes(), MARIA, TOPICS[0], self.day)
+            # The toolkit's own notes of the dialog are taken back.
+            self.assertFalse((screen.home / ".config/QtProject.conf").exists())
+            self.assert_quiet(screen)
+
 
 if __name__ == "__main__":
     desktop.main()

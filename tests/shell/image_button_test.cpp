@@ -220,10 +220,30 @@ private slots:
         program_->Click(program_->form.picHelp);
         QCOMPARE(program_->browser.Taken(),
                  QList<QUrl>{PageOfSite(QStringLiteral("/orravane-help/"))});
+        QCOMPARE(program_->form.picHelp->ImagePosition(), 4); // the click does not reset it
         MoveTo(program_->form.picHelp, {6, 6});
         QCOMPARE(program_->form.picHelp->ImagePosition(), 4);
         MoveTo(program_->form.picHelp, {-6, 6});
         QCOMPARE(program_->form.picHelp->ImagePosition(), 3);
+    }
+
+    void APageThatIsCoveredLetsGoOfTheMouse() {
+        const frmMain &form = program_->form;
+        program_->EnterSomebody();
+        MoveTo(form.Picture1->picProceed, {5, 5});
+        QCOMPARE(form.Picture1->picProceed->ImagePosition(), 8);
+        QTest::keyClick(program_->input.txtLastName, Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(form.FrontPage(), form.Picture2);
+        QCOMPARE(form.Picture1->picProceed->ImagePosition(), 7);
+
+        MoveTo(form.Picture2->picSave, {5, 5});
+        QCOMPARE(form.Picture2->picSave->ImagePosition(), 10);
+        MoveTo(form.picHelp, {5, 5}); // on no page at all
+        program_->TV.setCurrentItem(program_->Node(QStringLiteral("Enter The Information")));
+        QTest::keyClick(&program_->TV, Qt::Key_Return);
+        QCOMPARE(form.FrontPage(), form.Picture1);
+        QCOMPARE(form.Picture2->picSave->ImagePosition(), 9);
+        QCOMPARE(form.picHelp->ImagePosition(), 4);
     }
 
     void AButtonThatIsLeftWithoutAMoveTurnsPlain() {

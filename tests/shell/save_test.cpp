@@ -298,15 +298,84 @@ private slots:
         QCOMPARE(ContentOf(path), QByteArray("an earlier text"));
     }
 
-    void APlaceThatTakesNoFileIsPassedOverInSilence_data() {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("a folder that nobody can write to") << QStringLiteral("/proc/report.rtf");
-        QTest::newRow("a folder that is gone") << QStringLiteral("gone/report.rtf");
+    // The folder where the process stands has folders named as the user names the file.
+    void TheProcessFolderDoesNotTakeTheEndingAway() {
+        QTemporaryDir elsewhere;
+        QVERIFY(QDir(elsewhere.path()).mkdir(QStringLiteral("report")));
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(elsewhere.path()));
+        program_->dialogs.Plan([this](QDialog &dialog) {
+            dynamic_cast<QFileDialog &>(dialog).setDirectory(folder_->path());
+            SaveAs(dialog, QStringLiteral("report"));
+        });
+        PressSave();
+        QCOMPARE(QDir::currentPath(), QDir(elsewhere.path()).canonicalPath());
+        QVERIFY(QDir::setCurrent(before));
+        VERIFY_DIALOGS(program_->dialogs);
+        QCOMPARE(Files(), QStringList{QStringLiteral("report.txt")});
+        QVERIFY(IsTheReport(PathOf(QStringLiteral("report.txt"))));
     }
+
+    void AFolderThatDoesNotExistKeepsTheDialogOpen() {
+        bool wasStillOpen = false;
+        SeenMessage message;
+        program_->dialogs.Plan([&](QDialog &dialog) {
+            program_->dialogs.PlanToPress(QMessageBox::Ok, &message);
+            SaveAs(dialog, PathOf(QStringLiteral("gone/report.rtf")));
+            wasStillOpen = dialog.isVisible();
+            SaveAs(dialog, PathOf(QStringLiteral("report.rtf")));
+        });
+        PressSave();
+        VERIFY_DIALOGS(program_->dialogs);
+        QVERIFY(wasStillOpen);
+        QCOMPARE(
+            message.text,
+            QStringLiteral("The folder %1 does not exist.").arg(PathOf(QStringLiteral("gone"))));
+        QCOMPARE(Files(), QStringList{QStringLiteral("report.rtf")});
+        QVERIFY(IsTheReport(PathOf(QStringLiteral("report.rtf"))));
+    }
+
+    // Not everybody has a folder for documents, and the folder of the last save may be gone.
+    void TheNameIsEmptyWhereTheFolderIsGone() {
+        SaveUnder(PathOf(QStringLiteral("report.rtf")));
+        QVERIFY(folder_->remove());
+        QString name = QStringLiteral("not looked at");
+        QString folder;
+        program_->dialogs.Plan([&](QDialog &dialog) {
+            name = NameBoxOf(dialog)->text();
+            folder = dynamic_cast<QFileDialog &>(dialog).directory().absolutePath();
+            Cancel(dialog);
+        });
+        PressSave();
+        VERIFY_DIALOGS(program_->dialogs);
+        QCOMPARE(name, QString());
+        QCOMPARE(folder, QDir::homePath());
+    }
+
+    void NothingOfTheDialogIsRemembered_data() {
+        QTest::addColumn<QByteArray>("settings");
+        QTest::newRow("no file dialog was ever seen") << QByteArray();
+        QTest::newRow("other programs have shown theirs")
+            << QByteArray("[FileDialog]\nlastVisited=file:///srv\n\n[Other]\nkey=value\n");
+    }
+    void NothingOfTheDialogIsRemembered() {
+        QFETCH(QByteArray, settings);
+        const QString path = home_.PathOf(QStringLiteral("config/QtProject.conf"));
+        QFile::remove(path);
+        if (!settings.isEmpty())
+            Write(path, settings);
+        SaveUnder(PathOf(QStringLiteral("report.rtf")));
+        VERIFY_DIALOGS(program_->dialogs);
+        QVERIFY(IsTheReport(PathOf(QStringLiteral("report.rtf"))));
+        QCOMPARE(QFile::exists(path), !settings.isEmpty());
+        if (!settings.isEmpty())
+            QCOMPARE(ContentOf(path), settings);
+        QFile::remove(path);
+    }
+
     void APlaceThatTakesNoFileIsPassedOverInSilence() {
-        QFETCH(QString, path);
         const std::u16string report = program_->ReportText();
-        SaveUnder(QDir::isAbsolutePath(path) ? path : PathOf(path));
+        SaveUnder(QStringLiteral("/proc/report.rtf")); // nobody can write there
         VERIFY_DIALOGS(program_->dialogs);
         QCOMPARE(Files(), QStringList());
         QCOMPARE(program_->ReportText(), report);
