@@ -1,13 +1,14 @@
 #pragma once
 
-// The mark of the keyboard focus on the controls that the window draws itself.
+// The mark of the keyboard focus on the controls that the window draws itself, in the gold
+// that the style sheet gives to the others.
 
 #include <QPainter>
 
-/// Draws a rounded white frame just inside `place`.
-inline void DrawFocusFrame(QPainter &painter, const QRect &place) {
+/// Draws a rounded gold frame just inside `place`. A radius of half the height makes a pill.
+inline void DrawFocusFrame(QPainter &painter, const QRectF &place, qreal radius) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 1.5));
+    painter.setPen(QPen(QColor(255, 199, 6), 1.2));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(place).adjusted(0.75, 0.75, -0.75, -0.75), 4, 4);
+    painter.drawRoundedRect(place.adjusted(0.6, 0.6, -0.6, -0.6), radius, radius);
 }

@@ -118,6 +118,10 @@ void ImageButton::paintEvent(QPaintEvent *) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture);
-    if (hasFocus())
-        DrawFocusFrame(painter, rect());
+    if (hasFocus()) { // around the pill, or around the circle that stands in the middle
+        QRectF frame = rect();
+        if (frame.width() < 2 * frame.height())
+            frame = QRectF((frame.width() - frame.height()) / 2, 0, frame.height(), frame.height());
+        DrawFocusFrame(painter, frame, frame.height() / 2);
+    }
 }

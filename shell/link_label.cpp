@@ -43,6 +43,7 @@ QAccessibleInterface *MakeAccessible(const QString &, QObject *object) {
 LinkLabel::LinkLabel(const QString &text, QWidget *parent) : QLabel(text, parent) {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover); // painted again as the mouse comes and goes
     [[maybe_unused]] static const bool installed = [] {
         QAccessible::installFactory(MakeAccessible);
         return true;
@@ -64,8 +65,14 @@ void LinkLabel::keyPressEvent(QKeyEvent *event) {
 
 void LinkLabel::paintEvent(QPaintEvent *event) {
     QLabel::paintEvent(event);
-    if (hasFocus()) {
+    if (text().isEmpty()) { // a hot area over a text of the picture below
+        if (hasFocus()) {
+            QPainter painter(this);
+            DrawFocusFrame(painter, rect(), 4);
+        }
+    } else if (hasFocus() || underMouse()) { // no room for a frame around the letters
         QPainter painter(this);
-        DrawFocusFrame(painter, rect());
+        painter.fillRect(QRect(0, height() - 1, sizeHint().width(), 1),
+                         palette().color(foregroundRole()));
     }
 }

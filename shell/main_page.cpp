@@ -22,7 +22,8 @@ void MainPage::paintEvent(QPaintEvent *event) {
         bold.setBold(true);
         painter.setFont(bold);
         painter.setPen(QColor(255, 217, 92));
-        painter.drawText(PlaceOf("lblHyperlink"), Qt::AlignRight | Qt::AlignVCenter, SiteAddress());
+        const QRect place = PlaceOf("lblHyperlink").adjusted(0, 0, -6, 0); // room for its frame
+        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, SiteAddress());
     }
     QPainter painter(this);
     painter.setClipRegion(event->region());

@@ -43,11 +43,12 @@ QString PageStyle() {
         #TV::branch:has-children:closed { image: url(:/artwork/branch-closed.svg); }
         #TV::branch:has-children:open { image: url(:/artwork/branch-open.svg); }
 
-        #picMain #RTB { font-size: 12px; color: rgb(42, 28, 62); background-color: rgb(253, 251, 255); border: 1px solid rgb(58, 43, 78);
+        #picMain #RTB { font-size: 12px; color: rgb(42, 28, 62); background-color: rgb(253, 251, 255); background-clip: padding; border: 1px solid rgb(58, 43, 78);
                padding: 4px; selection-background-color: rgb(255, 199, 6); selection-color: rgb(42, 28, 62); }
-        #RTB:focus { border: 1px solid rgb(255, 199, 6); }
+        #picMain #RTB:focus { border: 2px solid rgb(255, 199, 6); padding: 3px; }
 
         #picMain QScrollBar:vertical { background: rgb(72, 57, 92); width: 12px; margin: 0; border: none; }
+        #picMain #RTB QScrollBar:vertical { background: transparent; }
         #picMain QScrollBar::handle:vertical { background: rgb(176, 163, 193); min-height: 28px; border-radius: 4px;
                                                margin: 2px; }
         #picMain QScrollBar::handle:vertical:hover { background: rgb(255, 199, 6); }

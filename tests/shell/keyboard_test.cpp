@@ -81,6 +81,42 @@ private slots:
         QCOMPARE(Round(Qt::ShiftModifier), Reversed(expected));
     }
 
+    void EveryStopShowsThatItHasTheFocus_data() {
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("input page") << QStringLiteral("User Information");
+        QTest::newRow("report page") << QStringLiteral("Personal Month");
+        QTest::newRow("help page") << QStringLiteral("Help");
+    }
+    void EveryStopShowsThatItHasTheFocus() {
+        QFETCH(QString, caption);
+        program_->ProceedWithSomebody();
+        program_->ClickNode(caption);
+        const auto look = [this](const QWidget *stop) {
+            QApplication::processEvents();
+            const QRect place(stop->mapTo(&program_->form, QPoint()), stop->size());
+            return program_->form.grab(place).toImage();
+        };
+        int stops = 0;
+        const QWidget *start = program_->Focus();
+        do {
+            const QWidget *stop = program_->Focus();
+            const QImage with = look(stop);
+            QTest::keyClick(program_->Focus(), Qt::Key_Tab);
+            const QImage without = look(stop);
+            int changed = 0;
+            for (int y = 0; y < with.height(); ++y)
+                for (int x = 0; x < with.width(); ++x)
+                    changed += with.pixel(x, y) != without.pixel(x, y);
+            // More than a caret, which may blink or stand out of sight.
+            QVERIFY2(
+                changed >= 60,
+                qPrintable(
+                    QStringLiteral("%1 changes %2 pixels").arg(stop->objectName()).arg(changed)));
+            ++stops;
+        } while (program_->Focus() != start);
+        QVERIFY(stops > 5);
+    }
+
     void TheFocusDoesNotStayOnAPageThatIsCovered() {
         program_->EnterSomebody();
         program_->input.picProceed->setFocus();

@@ -11,6 +11,32 @@
 
 // The report pane: how a report stands in it, that it wipes the clipboard, and printing.
 
+namespace {
+
+/// What the pane held, and where it stood, each time that it was painted.
+class PaintWitness : public QObject {
+public:
+    explicit PaintWitness(RichTextBox &pane) : pane_(pane) {
+        pane.viewport()->installEventFilter(this);
+    }
+
+    QStringList texts;
+    QList<int> scrolled;
+
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Paint) {
+            texts << pane_.toPlainText();
+            scrolled << pane_.verticalScrollBar()->value();
+        }
+        return false;
+    }
+
+private:
+    RichTextBox &pane_;
+};
+
+} // namespace
+
 class ReportPaneTest : public QObject {
     Q_OBJECT
 
@@ -122,6 +148,26 @@ private slots:
         bar->setValue(bar->maximum());
         program_->ClickNode(QStringLiteral("Pinnacle Phases"));
         QCOMPARE(bar->value(), 0);
+    }
+
+    void AReportIsPaintedOnceAndWhole_data() {
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("a topic") << QStringLiteral("Essence");
+        QTest::newRow("all of them") << QStringLiteral("Comprehensive Reading");
+    }
+    void AReportIsPaintedOnceAndWhole() {
+        QFETCH(QString, caption);
+        program_->ClickNode(QStringLiteral("Pinnacle Phases"));
+        program_->RTB.verticalScrollBar()->setValue(100);
+        program_->Node(caption)->treeWidget()->scrollToItem(program_->Node(caption));
+        QApplication::processEvents();
+
+        const PaintWitness witness(program_->RTB);
+        program_->ClickNode(caption);
+        QApplication::processEvents();
+        QCOMPARE(witness.texts, QStringList{program_->RTB.toPlainText()});
+        QCOMPARE(witness.scrolled, QList<int>{0});
+        QVERIFY(!program_->RTB.toPlainText().startsWith(QStringLiteral("Pinnacle Phases")));
     }
 
     void ASelectionDoesNotStandInTheWayOfTheNextReport() {
