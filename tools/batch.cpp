@@ -1,6 +1,7 @@
 #include "tools/batch.h"
 
 #include "core/clock.h"
+#include "tools/excerpt.h"
 #include "tools/one_line.h"
 #include "tools/output.h"
 #include "tools/people_lines.h"
@@ -76,7 +77,7 @@ private:
     void MakeFolder(QString &complaint) const {
         if (!options_.outputDir.isEmpty() && !QDir().mkpath(options_.outputDir))
             complaint = QStringLiteral("--output-dir: the folder \"%1\" cannot be made")
-                            .arg(options_.outputDir);
+                            .arg(Excerpt(options_.outputDir));
     }
 
     void ReadLine() {
@@ -110,7 +111,7 @@ private:
             QStringLiteral("person-%1.%2")
                 .arg(number_, 6, 10, QLatin1Char('0'))
                 .arg(QLatin1StringView(options_.format == Format::Rtf ? "rtf" : "txt"));
-        Output file(QDir(options_.outputDir).filePath(name));
+        Output file(QDir(options_.outputDir).filePath(name), QStringLiteral("--output-dir"));
         WriteTo(file, reading);
         file.Finish();
         error_ = file.Error();
@@ -144,7 +145,7 @@ BatchResult RunBatch(const Options &options, QString &complaint) {
     std::ifstream file(options.batchFile.toStdString());
     if (!file || QFileInfo(options.batchFile).isDir()) {
         complaint = QStringLiteral("--batch: the file \"%1\" cannot be read (%2)")
-                        .arg(options.batchFile,
+                        .arg(Excerpt(options.batchFile),
                              QString::fromLocal8Bit(std::strerror(file ? EISDIR : errno)));
         return BatchResult::Unusable;
     }
