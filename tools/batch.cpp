@@ -37,6 +37,8 @@ public:
                 const bool header = lines_.Begin(line_, complaint);
                 if (complaint.isEmpty())
                     MakeFolder(complaint); // not before it is known that there is something to read
+                else
+                    complaint = QStringLiteral("--batch: line %1: %2").arg(number_).arg(complaint);
                 if (!complaint.isEmpty())
                     return BatchResult::Unusable;
                 if (header)
