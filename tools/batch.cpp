@@ -1,6 +1,7 @@
 #include "tools/batch.h"
 
 #include "core/clock.h"
+#include "tools/excerpt.h"
 #include "tools/one_line.h"
 #include "tools/output.h"
 #include "tools/people_lines.h"
@@ -36,6 +37,8 @@ public:
                 const bool header = lines_.Begin(line_, complaint);
                 if (complaint.isEmpty())
                     MakeFolder(complaint); // not before it is known that there is something to read
+                else
+                    complaint = QStringLiteral("--batch: line %1: %2").arg(number_).arg(complaint);
                 if (!complaint.isEmpty())
                     return BatchResult::Unusable;
                 if (header)
@@ -76,7 +79,7 @@ private:
     void MakeFolder(QString &complaint) const {
         if (!options_.outputDir.isEmpty() && !QDir().mkpath(options_.outputDir))
             complaint = QStringLiteral("--output-dir: the folder \"%1\" cannot be made")
-                            .arg(options_.outputDir);
+                            .arg(Excerpt(options_.outputDir));
     }
 
     void ReadLine() {
@@ -110,7 +113,7 @@ private:
             QStringLiteral("person-%1.%2")
                 .arg(number_, 6, 10, QLatin1Char('0'))
                 .arg(QLatin1StringView(options_.format == Format::Rtf ? "rtf" : "txt"));
-        Output file(QDir(options_.outputDir).filePath(name));
+        Output file(QDir(options_.outputDir).filePath(name), QStringLiteral("--output-dir"));
         WriteTo(file, reading);
         file.Finish();
         error_ = file.Error();
@@ -144,7 +147,7 @@ BatchResult RunBatch(const Options &options, QString &complaint) {
     std::ifstream file(options.batchFile.toStdString());
     if (!file || QFileInfo(options.batchFile).isDir()) {
         complaint = QStringLiteral("--batch: the file \"%1\" cannot be read (%2)")
-                        .arg(options.batchFile,
+                        .arg(Excerpt(options.batchFile),
                              QString::fromLocal8Bit(std::strerror(file ? EISDIR : errno)));
         return BatchResult::Unusable;
     }

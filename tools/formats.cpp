@@ -5,6 +5,7 @@
 #include "core/user_profile.h"
 #include "report/rtf.h"
 
+#include <QStringDecoder>
 #include <QStringEncoder>
 
 #define RAPIDJSON_SSE2
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 using modReadings::BookEntry;
@@ -71,6 +73,12 @@ void AppendPlain(std::string &out, std::u16string_view text) {
 } // namespace
 
 std::string ToUtf8(std::u16string_view text) { return std::string(Utf8(text)); }
+
+std::optional<QString> FromUtf8(std::string_view bytes) {
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    return decode.hasError() ? std::nullopt : std::optional(std::move(text));
+}
 
 std::string ReadingsAsText(std::span<const TopicReading> readings) {
     std::string text;

@@ -6,13 +6,20 @@
 #include "report/person.h"
 #include "tools/reading.h"
 
+#include <QString>
+
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 enum class Format { Text, Json, Rtf };
 
 /// `text` in UTF-8; a surrogate without its partner becomes U+FFFD.
 std::string ToUtf8(std::u16string_view text);
+
+/// `bytes` as text, or nothing when they are not UTF-8.
+std::optional<QString> FromUtf8(std::string_view bytes);
 
 /// Blocks as in the pane with plain line breaks, an empty line between topics.
 std::string ReadingsAsText(std::span<const TopicReading> readings);

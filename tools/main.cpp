@@ -7,8 +7,12 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <cstdio>
 #include <optional>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -51,14 +55,26 @@ int PrintBatch(const Options &options) {
     return result == BatchResult::AllRead ? ok : failed;
 }
 
+/// A file that is opened later must not get the place of a stream that came closed, or it
+/// would be read or written in its stead. What stands there now is open the wrong way round,
+/// so that the stream fails as a closed one does.
+void KeepClosedStreamsClosed() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) < 0 && errno == EBADF)
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
 } // namespace
 
 int main(int argc, char *argv[]) {
+    KeepClosedStreamsClosed();
     qputenv("LC_ALL", "C.UTF-8"); // the tool speaks English and UTF-8 wherever it runs
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orravane-report"));
 
     QString complaint;
+    if (!AreUtf8(argc, argv, complaint))
+        return Complain(complaint, wrongInput);
     const auto options = ParseOptions(QCoreApplication::arguments(), complaint);
     if (!options)
         return Complain(complaint, wrongInput);

@@ -1,10 +1,19 @@
 #include "tools/options.h"
 
+#include "tools/excerpt.h"
+
 #include <QCommandLineParser>
 #include <QDate>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <array>
+
 namespace {
+
+QString Dashed(const QCommandLineOption &option) {
+    return QStringLiteral("--") + option.names().constFirst();
+}
 
 struct CommandLine {
     QCommandLineParser parser;
@@ -66,6 +75,29 @@ struct CommandLine {
     }
 
     bool Given(const QCommandLineOption &option) const { return parser.isSet(option); }
+
+    /// The option that takes the word behind `argument` as its value, or nullptr.
+    const QCommandLineOption *OptionBefore(const QString &argument) const {
+        const std::array valued{&first, &middle, &last,   &month,  &day,   &year,
+                                &today, &topic,  &format, &output, &batch, &outputDir};
+        const auto option = std::ranges::find(
+            valued, argument, [](const QCommandLineOption *each) { return Dashed(*each); });
+        return option == valued.end() ? nullptr : *option;
+    }
+
+    /// Why the parser does not take `arguments`, the last of which is `end`.
+    QString WhyNotParsed(const QString &end) const {
+        // The parser's text names the option that lacks its value, or one that has a value
+        // and takes none.
+        const QCommandLineOption *open = OptionBefore(end);
+        if (open != nullptr && parser.errorText().contains(end))
+            return QStringLiteral("%1: the value is missing; give %2. %3")
+                .arg(end, open->valueName(), open->description());
+        if (!parser.unknownOptionNames().isEmpty())
+            return QStringLiteral("Unknown option \"%1\"; see --help for the options.")
+                .arg(Excerpt(parser.unknownOptionNames().constFirst()));
+        return parser.errorText() + QStringLiteral(" See --help for the options.");
+    }
 };
 
 class Complaint {
@@ -102,17 +134,33 @@ std::optional<Format> FormatFrom(const QString &text) {
     return std::nullopt;
 }
 
-QString Dashed(const QCommandLineOption &option) {
-    return QStringLiteral("--") + option.names().constFirst();
-}
-
 } // namespace
+
+bool AreUtf8(int argc, const char *const *argv, QString &complaint) {
+    const CommandLine line;
+    const QCommandLineOption *option = nullptr; // that takes the argument as its value
+    for (int index = 1; index < argc; ++index) {
+        const std::string_view bytes = argv[index];
+        const auto argument = FromUtf8(bytes);
+        if (!argument) {
+            if (option == nullptr)
+                option = line.OptionBefore(QString::fromUtf8(bytes.substr(0, bytes.find('='))));
+            const QString name =
+                option == nullptr ? QString() : Dashed(*option) + QStringLiteral(": ");
+            complaint = QStringLiteral("%1\"%2\" is not UTF-8; give a text in UTF-8.")
+                            .arg(name, Excerpt(QString::fromUtf8(bytes)));
+            return false;
+        }
+        option = option == nullptr ? line.OptionBefore(*argument) : nullptr;
+    }
+    return true;
+}
 
 std::optional<Options> ParseOptions(const QStringList &arguments, QString &complaint) {
     CommandLine line;
     const Complaint complain(complaint);
     if (!line.parser.parse(arguments))
-        return complain(line.parser.errorText() + QStringLiteral(" See --help for the options."));
+        return complain(line.WhyNotParsed(arguments.constLast()));
 
     Options options;
     if (line.Given(line.help)) {
@@ -126,7 +174,7 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
     }
     if (!line.parser.positionalArguments().isEmpty())
         return complain(QStringLiteral("\"%1\" is not an option; see --help for what is allowed.")
-                            .arg(line.parser.positionalArguments().constFirst()));
+                            .arg(Excerpt(line.parser.positionalArguments().constFirst())));
     for (const QCommandLineOption *once :
          {&line.first, &line.middle, &line.last, &line.month, &line.day, &line.year, &line.today,
           &line.format, &line.output, &line.batch, &line.outputDir})
@@ -159,7 +207,7 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
         if (!format)
             return complain(
                 QStringLiteral("--format: \"%1\" is not allowed; give text, json or rtf.")
-                    .arg(line.parser.value(line.format)));
+                    .arg(Excerpt(line.parser.value(line.format))));
         options.format = *format;
     } else if (options.task == Options::Task::Batch && !line.Given(line.outputDir)) {
         options.format = Format::Json;
@@ -192,7 +240,7 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
         if (!options.today)
             return complain(
                 QStringLiteral("--today: \"%1\" is not allowed; give a date as YYYY-MM-DD.")
-                    .arg(line.parser.value(line.today)));
+                    .arg(Excerpt(line.parser.value(line.today))));
     }
     for (const QString &caption : line.parser.values(line.topic)) {
         const std::u16string_view known = KnownCaption(caption.toStdU16String());
@@ -201,7 +249,7 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
                 QStringLiteral(
                     "--topic: \"%1\" is not a topic; give a caption of the tree, such as "
                     "\"Life Path Number\" or \"Comprehensive Reading\".")
-                    .arg(caption));
+                    .arg(Excerpt(caption)));
         options.topics.push_back(known);
     }
     if (options.topics.empty())

@@ -1,12 +1,16 @@
 #include "tools/output.h"
 
+#include "tools/excerpt.h"
+
 #include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 
-Output::Output(const QString &fileName) : fileName_(fileName) {
+Output::Output(const QString &fileName, const QString &option)
+    : name_(fileName.isEmpty() ? QStringLiteral("standard output")
+                               : option + QStringLiteral(": ") + Excerpt(fileName)) {
     if (fileName.isEmpty())
         return;
     const QFileInfo present(fileName);
@@ -20,8 +24,7 @@ Output::Output(const QString &fileName) : fileName_(fileName) {
 
 void Output::Fail(const QString &reason) {
     if (error_.isEmpty())
-        error_ = (fileName_.isEmpty() ? QStringLiteral("standard output") : fileName_) +
-                 QStringLiteral(": ") + reason;
+        error_ = name_ + QStringLiteral(": ") + reason;
 }
 
 void Output::Write(std::string_view bytes) {

@@ -10,9 +10,9 @@
 
 class Output {
 public:
-    /// To the file of this name, or to standard output for an empty one. A device or a pipe
-    /// is written as it is, since it cannot be replaced.
-    explicit Output(const QString &fileName);
+    /// To the file of this name, which came with `option`, or to standard output for an
+    /// empty one. A device or a pipe is written as it is, since it cannot be replaced.
+    explicit Output(const QString &fileName, const QString &option = QStringLiteral("--output"));
 
     /// Why the output cannot be written, or empty while all is well.
     QString Error() const { return error_; }
@@ -26,7 +26,7 @@ public:
 private:
     void Fail(const QString &reason);
 
-    QString fileName_;
+    QString name_;                      ///< in complaints
     std::unique_ptr<QFileDevice> file_; ///< none for standard output
     QString error_;
 };

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "core/user_profile.h"
 #include "numbers/essence.h"
+#include "tools/excerpt.h"
 
 #include <algorithm>
 
@@ -64,10 +65,10 @@ std::optional<Person> CheckPerson(const PersonInput &input, const InputNames &na
                                   QString &complaint) {
     const auto reject = [&](const char *name, const QString &value,
                             const QString &allowed) -> std::optional<Person> {
-        complaint =
-            value.isEmpty()
-                ? QStringLiteral("%1 is missing or empty; %2").arg(names(name), allowed)
-                : QStringLiteral("%1: \"%2\" is not allowed; %3").arg(names(name), value, allowed);
+        complaint = value.isEmpty()
+                        ? QStringLiteral("%1 is missing or empty; %2").arg(names(name), allowed)
+                        : QStringLiteral("%1: \"%2\" is not allowed; %3")
+                              .arg(names(name), Excerpt(value), allowed);
         return std::nullopt;
     };
 

@@ -1,6 +1,7 @@
 #include "tools/people_lines.h"
 
-#include <QStringDecoder>
+#include "tools/excerpt.h"
+#include "tools/formats.h"
 
 #include <csv.h>
 #include <rapidjson/document.h>
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace {
 
@@ -30,13 +30,6 @@ const QString allowedMembers =
 QString PersonInput::*InputNamed(std::string_view name) {
     const auto found = std::ranges::find(members, name, &Member::name);
     return found == members.end() ? nullptr : found->input;
-}
-
-/// `bytes` as text, or nothing when they are not UTF-8.
-std::optional<QString> FromUtf8(std::string_view bytes) {
-    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    return decode.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
 /// The fields of one CSV line. Blanks in a field are part of it.
@@ -71,18 +64,32 @@ std::optional<QString> Value(const rapidjson::Value &value) {
     return std::nullopt;
 }
 
+/// Whether `line` is an object if it is JSON at all.
+bool BeginsObject(const std::string &line) {
+    const std::size_t begin = line.find_first_not_of(" \t\r");
+    return begin != std::string::npos && line[begin] == '{';
+}
+
+/// Whether a first line with these fields can be meant as a header.
+bool NamesAColumn(const CsvLine &line) {
+    return std::ranges::any_of(
+        line.fields, [](const std::string &field) { return InputNamed(field) != nullptr; });
+}
+
 } // namespace
 
 bool PeopleLines::Begin(const std::string &line, QString &complaint) {
-    if (line[line.find_first_not_of(" \t")] == '{')
+    if (BeginsObject(line))
+        return false;
+    const CsvLine header(line);
+    if (!NamesAColumn(header))
         return false;
 
-    const CsvLine header(line);
     for (const std::string &name : header.fields) {
         QString PersonInput::*input = InputNamed(name);
         if (input == nullptr || std::ranges::find(columns_, input) != columns_.end()) {
             complaint = QStringLiteral("the header has the column \"%1\" %2; %3")
-                            .arg(QString::fromUtf8(name),
+                            .arg(Excerpt(QString::fromUtf8(name)),
                                  input == nullptr ? QStringLiteral("that is not allowed")
                                                   : QStringLiteral("twice"),
                                  allowedMembers);
@@ -115,6 +122,9 @@ std::optional<PersonInput> PeopleLines::ParseJson(const std::string &line,
         complaint = what;
         return std::nullopt;
     };
+    if (!BeginsObject(line))
+        return complain(QStringLiteral("not a JSON object, and the first line is no CSV header; ") +
+                        allowedMembers);
     rapidjson::Document document;
     // Iteratively: a line nested without measure must not exhaust the stack.
     document.Parse<rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag>(
@@ -124,13 +134,11 @@ std::optional<PersonInput> PeopleLines::ParseJson(const std::string &line,
             QStringLiteral("not JSON: %1 (at character %2)")
                 .arg(QLatin1StringView(rapidjson::GetParseError_En(document.GetParseError())))
                 .arg(document.GetErrorOffset() + 1));
-    if (!document.IsObject())
-        return complain(QStringLiteral("not a JSON object; ") + allowedMembers);
 
     PersonInput person;
     for (const auto &member : document.GetObject()) {
-        const QString name = QString::fromUtf8(
-            member.name.GetString(), static_cast<qsizetype>(member.name.GetStringLength()));
+        const QString name = Excerpt(QString::fromUtf8(
+            member.name.GetString(), static_cast<qsizetype>(member.name.GetStringLength())));
         QString PersonInput::*input =
             InputNamed({member.name.GetString(), member.name.GetStringLength()});
         if (input == nullptr)

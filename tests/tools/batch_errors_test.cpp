@@ -148,6 +148,48 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongLine{"ZeroInAnUnknownMember", Lee(R"("fir\u0000st":"A")"), {"first"}}),
     NameOf);
 
+/// A first line that is neither an object nor a header costs the one person it might have
+/// held.
+class WrongFirstLine : public FolderTest, public testing::WithParamInterface<WrongLine> {
+protected:
+    std::string Input() const { return "\n" + GetParam().line + '\n' + jsonBefore + jsonBehind; }
+};
+
+TEST_P(WrongFirstLine, HasAnErrorInItsPlace) {
+    const Finished run = RunProgram(BatchOptions({"--topic", "Personal Day"}), Input());
+    EXPECT_EQ(run.exitCode, 1) << "signal " << run.signal;
+    EXPECT_EQ(NamesIn(run.out), (Names{"!", "ANN LEE", "BOB RAY"}));
+    ExpectOneLine(run.err, {"line 2:"});
+    ExpectOneLine(run.err, GetParam().parts);
+}
+
+TEST_P(WrongFirstLine, HasNoFileInTheFolder) {
+    const Finished run = RunProgram(BatchOptions({"--output-dir", Path("people")}), Input());
+    EXPECT_EQ(run.exitCode, 1) << "signal " << run.signal;
+    EXPECT_EQ(run.out, "");
+    ExpectOneLine(run.err, {"line 2:"});
+    const auto files = Files(Path("people"));
+    EXPECT_EQ(files.size(), 2U);
+    EXPECT_TRUE(files.contains("person-000003.txt")); // behind Ann's is an empty line
+    EXPECT_TRUE(files.contains("person-000005.txt"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, WrongFirstLine,
+    testing::Values(
+        WrongLine{"Garbage", "garbage", {"JSON object", "CSV header"}},
+        WrongLine{"ARow", "Ann,,Lee,3,7,1990", {"JSON object", "CSV header", "first, middle"}},
+        WrongLine{"ColumnsBetweenSemicolons", "first;middle;last;month;day;year", {"CSV header"}},
+        WrongLine{"ColumnsInUpperCase", "FIRST,LAST,MONTH,DAY,YEAR", {"CSV header"}},
+        WrongLine{"ColumnsInAQuoteThatIsNotClosed", "\"first,last,month,day,year", {"CSV header"}},
+        WrongLine{"AnArray", R"(["Ann","Lee",3,7,1990])", {"object"}},
+        WrongLine{"AString", "\"Ann\"", {"object"}}, WrongLine{"ANumber", "7", {"object"}},
+        WrongLine{"AnObjectCutShort", R"({"first":"Ann")", {"not JSON"}},
+        WrongLine{"AnEmptyObject", "{}", {"first"}}, WrongLine{"AnEscape", "\x1B[31m", {}},
+        WrongLine{"InvalidUtf8", "\xFF", {}},
+        WrongLine{"ManyCharacters", Repeated("abc", 30'000), {}}),
+    NameOf);
+
 class WrongCsvLine : public testing::TestWithParam<WrongLine> {};
 
 TEST_P(WrongCsvLine, HasAnErrorInItsPlace) {
@@ -219,6 +261,30 @@ TEST(BatchErrors, DoNotEndTheRunHoweverMany) {
     EXPECT_EQ(Lines(run.err).size(), 1000U);
 }
 
+// However much a line holds, what is said of it is short.
+TEST(BatchErrors, QuoteNoMoreThanAnExcerpt) {
+    const std::string much = Repeated("0123456789", 10'000);
+    const std::string shown = "\"0123456789012345678901234567890123456...01234567890123456789\"";
+    const std::string row = "Ann,,Lee," + much + ",7,1990\n";
+    for (const std::string &input :
+         {Ann("month", '"' + much + '"') + '\n', Ann("day", '"' + much + '"') + '\n',
+          Ann("year", '"' + much + '"') + '\n', Lee("\"" + much + R"(":"A")") + '\n'}) {
+        const Finished run = RunProgram(BatchOptions({"--topic", "Personal Day"}), input);
+        EXPECT_EQ(run.exitCode, 1);
+        ExpectOneLine(run.err, {shown});
+        EXPECT_LT(run.err.size(), 250U);
+        EXPECT_EQ(NamesIn(run.out), Names{"!"});
+        EXPECT_LT(run.out.size(), 250U);
+    }
+    const Finished rows = RunProgram(BatchOptions(), "first,middle,last,month,day,year\n" + row);
+    EXPECT_EQ(rows.exitCode, 1);
+    ExpectOneLine(rows.err, {shown});
+    EXPECT_LT(rows.err.size(), 250U);
+    const Finished header = RunProgram(BatchOptions(), "first," + much + '\n');
+    ExpectRefused(header, {shown});
+    EXPECT_LT(header.err.size(), 250U);
+}
+
 TEST(BatchErrors, OfTheLastLineAreReported) {
     const Finished run = RunProgram(BatchOptions({"--topic", "Personal Day"}),
                                     std::string(jsonBefore) + "{\"first\":\"Bob\"");
@@ -245,6 +311,9 @@ class WrongHeader : public FolderTest, public testing::WithParamInterface<WrongL
 
 TEST_P(WrongHeader, IsRefused) {
     const std::string rows = "\nAnn,,Lee,3,7,1990\nBob,,Ray,4,8,1991\n";
+    ExpectRefused(RunProgram(BatchOptions(), GetParam().line + rows), {"--batch: line 1:"});
+    ExpectRefused(RunProgram(BatchOptions(), "\n\n" + GetParam().line + rows),
+                  {"--batch: line 3:"});
     ExpectRefused(RunProgram(BatchOptions(), GetParam().line + rows), GetParam().parts);
     const std::string file = Make("people", "before");
     ExpectRefused(RunProgram(BatchOptions({"--output", file}), GetParam().line + rows),
@@ -265,8 +334,8 @@ INSTANTIATE_TEST_SUITE_P(
         WrongLine{"ColumnWithABlank", "first, middle,last,month,day,year", {"\" middle\""}},
         WrongLine{"ColumnTwice", "first,middle,last,month,day,year,day", {"\"day\"", "twice"}},
         WrongLine{"EmptyColumn", "first,,last,month,day,year", {"\"\""}},
-        WrongLine{"ARowInItsPlace", "Ann,,Lee,3,7,1990", {"\"Ann\""}},
-        WrongLine{"Semicolons", "first;middle;last;month;day;year", {"first"}},
+        WrongLine{"OneColumnOfAll", "year", {"\"first\""}},
+        WrongLine{"OneColumnAmongOthers", "name,year", {"\"name\""}},
         WrongLine{"AQuoteThatIsNotClosed", "first,middle,last,month,day,\"year", {}},
         WrongLine{"AnEscapeInAColumn", "first,\x1B[31m,last,month,day,year", {}}),
     NameOf);
@@ -275,19 +344,19 @@ class UnreadableBatch : public FolderTest {};
 
 TEST_F(UnreadableBatch, MayBeMissing) {
     const std::string file = Path("missing");
-    ExpectRefused(RunProgram({"--batch", file}), {"--batch", file});
+    ExpectRefused(RunProgram({"--batch", file}), {"--batch", Shown(file)});
     const std::string output = Make("people", "before");
-    ExpectRefused(RunProgram({"--batch", file, "--output", output}), {"--batch", file});
+    ExpectRefused(RunProgram({"--batch", file, "--output", output}), {"--batch", Shown(file)});
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"people", "before"}}));
 }
 
 TEST_F(UnreadableBatch, MayBeAFolder) {
-    ExpectRefused(RunProgram({"--batch", Path("")}), {"--batch", Path("")});
+    ExpectRefused(RunProgram({"--batch", Path("")}), {"--batch", Shown(Path(""))});
 }
 
 TEST_F(UnreadableBatch, MayStandBelowAFile) {
     const std::string file = Make("file", "");
-    ExpectRefused(RunProgram({"--batch", file + "/people"}), {"--batch", file});
+    ExpectRefused(RunProgram({"--batch", file + "/people"}), {"--batch", Shown(file + "/people")});
 }
 
 // An input that breaks off is not the same as one that ends: a script must not take the

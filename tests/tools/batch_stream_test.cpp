@@ -58,6 +58,17 @@ TEST(BatchStream, AnswersAWrongLineBeforeTheNextIsWritten) {
     EXPECT_EQ(program.Finish().exitCode, 1);
 }
 
+TEST(BatchStream, AnswersAFirstLineThatIsNothing) {
+    Program program(conversation);
+    program.Write("garbage\n");
+    ASSERT_EQ(NameIn(program.ReadLine()), "!");
+    EXPECT_NE(program.ReadErrorLine().find("line 1:"), std::string::npos);
+    program.Write(R"({"first":"Ann","last":"Lee","month":3,"day":7,"year":1990})"
+                  "\n");
+    ASSERT_EQ(NameIn(program.ReadLine()), "ANN LEE");
+    EXPECT_EQ(program.Finish().exitCode, 1);
+}
+
 TEST(BatchStream, AnswersTheLongReportOfEveryTopicToo) {
     Program program(BatchOptions());
     for (int round = 0; round < 3; ++round) {

@@ -375,7 +375,7 @@ TEST_F(OutputFolder, IsMadeWithTheFoldersAboveIt) {
 TEST_F(OutputFolder, CannotBeAFile) {
     const std::string file = Make("people", "before");
     const Finished run = Write(AsJson(anna), "text");
-    ExpectRefused(run, {"--output-dir", file});
+    ExpectRefused(run, {"--output-dir", Shown(file)});
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"people", "before"}}));
 }
 
@@ -384,19 +384,19 @@ TEST_F(OutputFolder, HoldsNoHalfFileWhenTheDiskRunsFull) {
     surroundings.mostBytes = 1000;
     const Finished run = RunProgram(BatchOptions({"--output-dir", Path("people")}),
                                     AsJson(anna) + AsJson(oak), surroundings);
-    ExpectFailed(run, {Path("people")});
+    ExpectFailed(run, {"--output-dir: ", "person-000001.txt: "});
     EXPECT_TRUE(People().empty());
 }
 
 TEST_F(OutputFolder, IsNotMadeWhenTheBatchCannotBeRead) {
     const Finished run = RunProgram({"--batch", Path("missing"), "--output-dir", Path("people")});
-    ExpectRefused(run, {"--batch", Path("missing")});
+    ExpectRefused(run, {"--batch", Shown(Path("missing"))});
     EXPECT_TRUE(Files().empty());
 }
 
 TEST_F(OutputFolder, IsNotMadeForAHeaderThatCannotBeUsed) {
     const Finished run = Write("first,last,month,day,born\n", "text");
-    ExpectRefused(run, {"\"born\""});
+    ExpectRefused(run, {"--batch: line 1:", "\"born\""});
     EXPECT_TRUE(Files().empty());
 }
 

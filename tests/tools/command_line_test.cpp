@@ -66,24 +66,25 @@ TEST_P(WrongCommandLine, IsRefusedInOneLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Missing, WrongCommandLine,
-    testing::Values(Wrong{"Everything", {}, {"--first"}},
-                    Wrong{"First", Without("--first"), {"--first", "first name"}},
-                    Wrong{"Last", Without("--last"), {"--last", "last name"}},
-                    Wrong{"Month", Without("--month"), {"--month", "1 to 12"}},
-                    Wrong{"Day", Without("--day"), {"--day", "1 to 31"}},
-                    Wrong{"Year", Without("--year"), {"--year", "1900 to 2050"}},
-                    Wrong{"ValueOfFirst", {"--first"}, {"--first"}},
-                    Wrong{"ValueOfMiddle", ann + Arguments{"--middle"}, {"--middle"}},
-                    Wrong{"ValueOfLast", {"--last"}, {"--last"}},
-                    Wrong{"ValueOfMonth", {"--month"}, {"--month"}},
-                    Wrong{"ValueOfDay", {"--day"}, {"--day"}},
-                    Wrong{"ValueOfYear", {"--year"}, {"--year"}},
-                    Wrong{"ValueOfToday", {"--today"}, {"--today"}},
-                    Wrong{"ValueOfTopic", ann + Arguments{"--topic"}, {"--topic"}},
-                    Wrong{"ValueOfFormat", ann + Arguments{"--format"}, {"--format"}},
-                    Wrong{"ValueOfOutput", ann + Arguments{"--output"}, {"--output"}},
-                    Wrong{"ValueOfBatch", {"--batch"}, {"--batch"}},
-                    Wrong{"ValueOfOutputDir", {"--batch", "-", "--output-dir"}, {"--output-dir"}}),
+    testing::Values(
+        Wrong{"Everything", {}, {"--first"}},
+        Wrong{"First", Without("--first"), {"--first", "first name"}},
+        Wrong{"Last", Without("--last"), {"--last", "last name"}},
+        Wrong{"Month", Without("--month"), {"--month", "1 to 12"}},
+        Wrong{"Day", Without("--day"), {"--day", "1 to 31"}},
+        Wrong{"Year", Without("--year"), {"--year", "1900 to 2050"}},
+        Wrong{"ValueOfFirst", {"--first"}, {"--first", "NAME"}},
+        Wrong{"ValueOfMiddle", ann + Arguments{"--middle"}, {"--middle", "NAME"}},
+        Wrong{"ValueOfLast", {"--last"}, {"--last", "NAME"}},
+        Wrong{"ValueOfMonth", {"--month"}, {"--month", "1 to 12"}},
+        Wrong{"ValueOfDay", {"--day"}, {"--day", "1 to 31"}},
+        Wrong{"ValueOfYear", {"--year"}, {"--year", "1900 to 2050"}},
+        Wrong{"ValueOfToday", {"--today"}, {"--today", "YYYY-MM-DD"}},
+        Wrong{"ValueOfTopic", ann + Arguments{"--topic"}, {"--topic", "CAPTION"}},
+        Wrong{"ValueOfFormat", ann + Arguments{"--format"}, {"--format", "text", "json", "rtf"}},
+        Wrong{"ValueOfOutput", ann + Arguments{"--output"}, {"--output", "FILE"}},
+        Wrong{"ValueOfBatch", {"--batch"}, {"--batch", "FILE"}},
+        Wrong{"ValueOfOutputDir", {"--batch", "-", "--output-dir"}, {"--output-dir", "DIR"}}),
     NameOf);
 
 INSTANTIATE_TEST_SUITE_P(
@@ -274,6 +275,40 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"Argument", ann + Arguments{"A\nnn"}, {"nn"}},
         Wrong{"Batch", {"--batch", "no\nsuch file"}, {"--batch"}}),
     NameOf);
+
+INSTANTIATE_TEST_SUITE_P(
+    NotUtf8, WrongCommandLine,
+    testing::Values(
+        Wrong{"First", With("--first", "A\xFF"), {"--first", "UTF-8"}},
+        Wrong{"Middle", ann + Arguments{"--middle=\xC3"}, {"--middle", "UTF-8"}},
+        Wrong{"LastInLatin1", With("--last", "Wei\xDF"), {"--last", "UTF-8"}},
+        Wrong{"Month", With("--month", "M\xE4rz"), {"--month", "UTF-8"}},
+        Wrong{"Topic", ann + Arguments{"--topic", "\xFF"}, {"--topic", "UTF-8"}},
+        Wrong{"Batch", {"--batch", "people\xFF"}, {"--batch", "UTF-8"}},
+        Wrong{"OutputDir", {"--batch", "-", "--output-dir", "\xFF"}, {"--output-dir", "UTF-8"}},
+        Wrong{"Output", ann + Arguments{"--output", "report\xFF"}, {"--output", "UTF-8"}},
+        Wrong{"Argument", ann + Arguments{"\xFF"}, {"UTF-8"}},
+        Wrong{"UnknownOption", ann + Arguments{"--\xFF"}, {"UTF-8"}}),
+    NameOf);
+
+// However long the text, the line about it is short.
+TEST(CommandLine, IsQuotedNoLongerThanAnExcerpt) {
+    const std::string much(100'000, 'x');
+    const std::string shown = std::string(37, 'x') + "..." + std::string(20, 'x');
+    for (const Arguments &line :
+         {With("--month", much), With("--day", much), With("--year", much), With("--today", much),
+          ann + Arguments{"--topic", much}, ann + Arguments{"--format", much},
+          ann + Arguments{"--" + much}, ann + Arguments{"--" + much + "=1"}, ann + Arguments{much},
+          Arguments{"--batch", much}}) {
+        const Finished run = RunProgram(line);
+        ExpectRefused(run, {shown});
+        EXPECT_LT(run.err.size(), 250U);
+    }
+    ExpectFailed(RunProgram(ann + Arguments{"--output", much}), {"--output: " + shown + ": "});
+    ExpectRefused(RunProgram({"--batch", "-", "--output-dir", much},
+                             R"({"first":"Ann","last":"Lee","month":3,"day":7,"year":1990})"),
+                  {"--output-dir", shown});
+}
 
 TEST(CommandLine, TakesValuesBehindAnEqualsSign) {
     const Finished apart = RunProgram(ann + Arguments{"--topic", "Essence"});

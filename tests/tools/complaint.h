@@ -4,12 +4,18 @@
 // program's name.
 
 #include "tests/tools/program.h"
+#include "tools/excerpt.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
+
+/// The name of a file as a complaint shows it, wherever the test's folder stands.
+inline std::string Shown(const std::string &path) {
+    return Excerpt(QString::fromStdString(path)).toStdString();
+}
 
 /// Expects exactly one line, without control characters, that holds all of `parts`.
 inline void ExpectOneLine(const std::string &err, const std::vector<std::string> &parts) {

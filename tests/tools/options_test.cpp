@@ -92,11 +92,62 @@ TEST(ParseOptions, NamesTheOptionAndWhatIsAllowed) {
               std::string::npos);
     EXPECT_NE(ComplaintAbout(ann + QStringList{"--today", "1.1.2026"}).find("YYYY-MM-DD"),
               std::string::npos);
+    EXPECT_NE(ComplaintAbout({"orravane-report", "--month"}).find("1 to 12"), std::string::npos);
     const std::string twice = ComplaintAbout(ann + QStringList{"--day", "8"});
     EXPECT_NE(twice.find("--day"), std::string::npos);
     const std::string both = ComplaintAbout({"orravane-report", "--book", "--batch", "-"});
     EXPECT_NE(both.find("--book"), std::string::npos);
     EXPECT_NE(both.find("--batch"), std::string::npos);
+}
+
+// Only the option that is really without one, not its name as the value of another.
+TEST(ParseOptions, TellsWhichValueIsMissing) {
+    EXPECT_TRUE(ComplaintAbout(ann + QStringList{"--topic"}).starts_with("--topic: the value"));
+    EXPECT_TRUE(ComplaintAbout({"orravane-report", "--bogus", "--first", "--last"})
+                    .starts_with("Unknown option \"bogus\""));
+    EXPECT_NE(ComplaintAbout({"orravane-report", "--book=x", "--first", "--last"}).find("'--book'"),
+              std::string::npos);
+    EXPECT_EQ(Parsed({"orravane-report", "--first", "--last"})->person.first, "--last");
+}
+
+/// The complaint about arguments that are not all UTF-8; empty when they are.
+std::string NotUtf8(std::vector<const char *> arguments) {
+    arguments.insert(arguments.begin(), "orravane-report");
+    QString complaint;
+    const bool all = AreUtf8(static_cast<int>(arguments.size()), arguments.data(), complaint);
+    EXPECT_EQ(all, complaint.isEmpty());
+    return complaint.toStdString();
+}
+
+TEST(AreUtf8, TakesEveryCharacter) {
+    EXPECT_EQ(NotUtf8({}), "");
+    // The replacement character is one like others.
+    EXPECT_EQ(NotUtf8({"--first", "Zoë 😀", "--last=Ōe", "", "\xEF\xBF\xBD", "-"}), "");
+}
+
+TEST(AreUtf8, NamesTheOptionOfTheValueThatIsNot) {
+    // Latin 1, a stray byte, a sequence cut short, an overlong one and a surrogate.
+    for (const char *value : {"Zo\xEB", "A\xFF", "A\xC3", "A\xC0\xAF", "A\xED\xA0\xBD"})
+        EXPECT_TRUE(NotUtf8({"--book", "--first", value}).starts_with("--first: \""));
+    EXPECT_TRUE(NotUtf8({"--first", "A", "--last=\xFF"}).starts_with("--last: \""));
+    EXPECT_TRUE(NotUtf8({"--first", "--last", "--month", "\xFF"}).starts_with("--month: \""));
+    EXPECT_TRUE(NotUtf8({"--first", "--last=\xFF"}).starts_with("--first: \""));
+}
+
+TEST(AreUtf8, NamesNoOptionWhereNoneTakesTheArgument) {
+    for (const std::vector<const char *> &arguments : {std::vector{"\xFF"},
+                                                       {"--first", "A", "\xFF"},
+                                                       {"--first", "--last", "\xFF"},
+                                                       {"--book", "\xFF"},
+                                                       {"--\xFF=1"},
+                                                       {"--bogus=\xFF"}})
+        EXPECT_TRUE(NotUtf8(arguments).starts_with("\"")) << NotUtf8(arguments);
+}
+
+TEST(AreUtf8, DoesNotMindTheNameOfTheProgram) {
+    const char *const name = "/home/zo\xEB/orravane-report";
+    QString complaint;
+    EXPECT_TRUE(AreUtf8(1, &name, complaint));
 }
 
 } // namespace

@@ -70,7 +70,7 @@ TEST_F(OutputFile, CannotBeAFolder) {
     std::filesystem::create_directory(Path("folder"));
     for (const Arguments &line : {ann, Arguments{"--book"}}) {
         const Finished run = RunProgram(line + Arguments{"--output", Path("folder")});
-        ExpectFailed(run, {Path("folder")});
+        ExpectFailed(run, {"--output: " + Shown(Path("folder"))});
         EXPECT_EQ(run.out, "");
     }
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"folder/", ""}}));
@@ -80,7 +80,7 @@ TEST_F(OutputFile, CannotStandInAFolderThatIsNotThere) {
     const std::string file = Path("no/such/folder/report.txt");
     for (const Arguments &line : {ann, Arguments{"--book"}}) {
         const Finished run = RunProgram(line + Arguments{"--output", file});
-        ExpectFailed(run, {file});
+        ExpectFailed(run, {"--output: " + Shown(file) + ": No such file or directory"});
         EXPECT_EQ(run.out, "");
     }
     EXPECT_TRUE(Files().empty());
@@ -89,7 +89,7 @@ TEST_F(OutputFile, CannotStandInAFolderThatIsNotThere) {
 TEST_F(OutputFile, CannotStandBelowAFile) {
     const std::string file = Make("file", "before");
     const Finished run = RunProgram(ann + Arguments{"--output", file + "/report.txt"});
-    ExpectFailed(run, {file});
+    ExpectFailed(run, {"--output: " + Shown(file + "/report.txt")});
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"file", "before"}}));
 }
@@ -97,7 +97,7 @@ TEST_F(OutputFile, CannotStandBelowAFile) {
 TEST_F(OutputFile, CannotBeOpenedByABatchEither) {
     std::filesystem::create_directory(Path("folder"));
     const Finished run = RunProgram(batch + Arguments{"--output", Path("folder")}, twoPeople);
-    ExpectFailed(run, {Path("folder")});
+    ExpectFailed(run, {"--output: " + Shown(Path("folder"))});
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"folder/", ""}}));
 }
@@ -110,7 +110,7 @@ TEST_F(OutputFile, StandsAsItWasWhenTheDiskRunsFull) {
     surroundings.mostBytes = 1000;
     for (const Arguments &line : {ann, ann + Arguments{"--format", "rtf"}, Arguments{"--book"}}) {
         const Finished run = RunProgram(line + Arguments{"--output", file}, {}, surroundings);
-        ExpectFailed(run, {file});
+        ExpectFailed(run, {"--output: " + Shown(file)});
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(Files(),
                   (std::map<std::string, std::string>{{"report.txt", "what stood here before"}}));
@@ -122,7 +122,7 @@ TEST_F(OutputFile, StandsAsItWasWhenTheDiskRunsFullInABatch) {
     Surroundings surroundings;
     surroundings.mostBytes = 1000;
     const Finished run = RunProgram(batch + Arguments{"--output", file}, twoPeople, surroundings);
-    ExpectFailed(run, {file});
+    ExpectFailed(run, {"--output: " + Shown(file)});
     EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"people", "what stood here before"}}));
 }
 
@@ -130,7 +130,7 @@ TEST_F(OutputFile, IsNotBegunWhenTheDiskRunsFull) {
     Surroundings surroundings;
     surroundings.mostBytes = 1000;
     ExpectFailed(RunProgram(ann + Arguments{"--output", Path("report.txt")}, {}, surroundings),
-                 {Path("report.txt")});
+                 {"--output: " + Shown(Path("report.txt"))});
     EXPECT_TRUE(Files().empty());
 }
 
@@ -180,8 +180,32 @@ TEST(StandardOutput, ThatIsClosedIsReported) {
     Surroundings closed;
     closed.noOutput = true;
     for (const Arguments &line : {ann, Arguments{"--book"}, Arguments{"--version"}})
-        ExpectFailed(RunProgram(line, {}, closed), {"standard output"});
-    ExpectFailed(RunProgram(batch, twoPeople, closed), {"standard output"});
+        ExpectFailed(RunProgram(line, {}, closed), {"standard output: Bad file descriptor"});
+    ExpectFailed(RunProgram(batch, twoPeople, closed), {"standard output: Bad file descriptor"});
+}
+
+TEST(StandardInput, ThatIsClosedIsReported) {
+    Surroundings closed;
+    closed.noInput = true;
+    ExpectRefused(RunProgram(batch, {}, closed), {"--batch", "Bad file descriptor"});
+    ExpectGood(RunProgram(ann, {}, closed));
+}
+
+class ClosedStreams : public FolderTest {};
+
+// No file that is opened takes their place, in which it would get what is meant for them.
+TEST_F(ClosedStreams, LeaveNothingInAFile) {
+    Surroundings closed;
+    closed.noInput = true;
+    closed.noOutput = true;
+    closed.noError = true;
+    EXPECT_EQ(RunProgram(ann + Arguments{"--output", Path("report")}, {}, closed).exitCode, 0);
+    EXPECT_EQ(Read(Path("report")), RunProgram(ann).out);
+
+    Make("people", twoPeople + std::string("{}\n"));
+    const Arguments line{"--batch", Path("people"), "--today", "2026-11-16"};
+    EXPECT_EQ(RunProgram(line + Arguments{"--output", Path("answers")}, {}, closed).exitCode, 1);
+    EXPECT_EQ(Read(Path("answers")), RunProgram(line).out);
 }
 
 } // namespace

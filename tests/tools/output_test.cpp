@@ -1,6 +1,7 @@
 #include "tools/output.h"
 
 #include "tests/tools/folder_test.h"
+#include "tools/excerpt.h"
 
 #include <gtest/gtest.h>
 
@@ -53,11 +54,17 @@ TEST_F(OutputTest, MayBeEmpty) {
 
 TEST_F(OutputTest, TellsWhichFileCannotBeWritten) {
     Output output(File("no/report"));
-    EXPECT_TRUE(output.Error().contains(File("no/report"))) << output.Error().toStdString();
+    EXPECT_EQ(output.Error(),
+              "--output: " + Excerpt(File("no/report")) + ": No such file or directory");
     output.Write("text"); // goes nowhere, and harms nothing
     output.Finish();
-    EXPECT_TRUE(output.Error().contains(File("no/report")));
+    EXPECT_TRUE(output.Error().contains(Excerpt(File("no/report"))));
     EXPECT_TRUE(Files().empty());
+}
+
+TEST_F(OutputTest, TellsTheOptionThatNamedTheFile) {
+    const Output output(File("no/report"), "--output-dir");
+    EXPECT_TRUE(output.Error().startsWith("--output-dir: ")) << output.Error().toStdString();
 }
 
 TEST_F(OutputTest, ToStandardOutputIsOnItsWayAtOnce) {

@@ -42,6 +42,25 @@ TEST(PeopleLines, TellsJsonFromCsvByTheFirstLine) {
     EXPECT_TRUE(Reader("first,last,month,day,year").TookAHeader());
 }
 
+// One of the columns is enough to show what was meant; without any a line is a wrong one
+// like those to follow.
+TEST(PeopleLines, TakesALineWithAColumnForAHeader) {
+    for (const char *header :
+         {"first", "name,\"year\"", "day,day", "a,b,,middle", "first,\"last"}) {
+        EXPECT_TRUE(Reader(header).TookAHeader()) << header;
+        EXPECT_NE(Reader(header).Complaint(), "") << header;
+    }
+    for (const char *line :
+         {"Ann,,Lee,3,7,1990", "First,Last", " first, last", "first;last;month;day;year",
+          "\"first,last,month,day,year", "garbage", "[]", "\"Ann\"", "7", "\xFF", ",", "\r"}) {
+        Reader reader(line);
+        EXPECT_FALSE(reader.TookAHeader()) << line;
+        EXPECT_EQ(reader.Complaint(), "") << line;
+        EXPECT_TRUE(reader.Parse(line).starts_with("!not a JSON object")) << line;
+        EXPECT_EQ(reader.Parse(object), "Ann|M|Lee|March|7|1990");
+    }
+}
+
 TEST(PeopleLines, TakesBlanksInFrontOfAnObjectForPartOfIt) {
     Reader reader(std::string(" \t ") + object);
     EXPECT_FALSE(reader.TookAHeader());
@@ -83,7 +102,7 @@ TEST(PeopleLines, ComplainsOfLinesThatAreNoObject) {
 TEST(PeopleLines, ComplainsOfAHeaderThatCannotBeUsed) {
     EXPECT_EQ(Reader("first,middle,last,month,day,year").Complaint(), "");
     for (const char *header : {"first,last,month,day", "first,last,month,day,year,sex",
-                               "first,first,last,month,day,year", "\"first,last,month,day,year"})
+                               "first,first,last,month,day,year", "first,last,month,day,\"year"})
         EXPECT_NE(Reader(header).Complaint(), "") << header;
 }
 

@@ -88,6 +88,15 @@ TEST_F(CheckPersonTest, NamesTheInputAndWhatIsAllowed) {
         ExpectComplaint(with(&PersonInput::year, year), "--year", "1900 to 2050");
 }
 
+TEST_F(CheckPersonTest, QuotesNoMoreThanAnExcerpt) {
+    PersonInput input = ann_;
+    input.month = QString(1'000'000, 'x');
+    EXPECT_EQ(Complaint(input), "--month: \"" + std::string(37, 'x') + "..." +
+                                    std::string(20, 'x') +
+                                    "\" is not allowed; give an English month name or a number "
+                                    "from 1 to 12");
+}
+
 TEST_F(CheckPersonTest, ComplainsInTheOrderOfTheWindow) {
     ExpectComplaint({}, "--first", "");
     ExpectComplaint({"Ann", "", "", "", "", ""}, "--last", "");

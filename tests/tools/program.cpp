@@ -137,8 +137,12 @@ Program::Program(const Arguments &arguments, const Surroundings &surroundings)
         dup2(in.reads, STDIN_FILENO);
         dup2(out.writes, STDOUT_FILENO);
         dup2(err.writes, STDERR_FILENO);
+        if (surroundings.noInput)
+            close(STDIN_FILENO);
         if (surroundings.noOutput)
             close(STDOUT_FILENO);
+        if (surroundings.noError)
+            close(STDERR_FILENO);
         if (!surroundings.folder.empty() && chdir(surroundings.folder.c_str()) != 0)
             _exit(126);
         execve(argv.front(), argv.data(), envp.data());

@@ -29,7 +29,9 @@ struct Surroundings {
     std::string outputFile;        ///< opened as standard output, not captured
     std::string folder;            ///< the working folder; empty for that of the test
     bool errorTerminal = false;    ///< standard error is a terminal
+    bool noInput = false;          ///< standard input is closed
     bool noOutput = false;         ///< standard output is closed
+    bool noError = false;          ///< standard error is closed
     std::optional<long> mostBytes; ///< limit on the size of files, met by an error
     std::string program;           ///< empty for orravane-report
 };
