@@ -21,8 +21,9 @@ def _output(*command):
 
 
 def words(text):
-    """Text as words, for a format that breaks lines as it likes and joins letters."""
-    return unicodedata.normalize("NFKC", text).split()
+    """Text as words, for a format that breaks lines as it likes, also behind a hyphen, and joins
+    letters."""
+    return re.sub(r"-(?=\w)", "- ", unicodedata.normalize("NFKC", text)).split()
 
 
 def bold_words(runs):

@@ -30,6 +30,7 @@ PLACES = {
     "cboDate": _on(_birth, 1440, 720, 855, 315),
     "cboYear": _on(_birth, 1440, 1200, 975, 315),
     "RTB": _on(_page, 120, 120, 4215, 4455),
+    "RTB text": _on(_page, 180, 180, 4095, 4335),  # within the frame that shows the focus
     "picPrint": _on(_page, 1800, 4680, 1260, 390),
     "picSave": _on(_page, 3075, 4680, 1260, 390),
     "lblHelp0": _on(_page, 240, 120, 1110, 195),

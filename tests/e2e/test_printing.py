@@ -63,19 +63,19 @@ class Printing(DesktopTest):
 
             # Marked text: the marks are dropped and all is printed.
             marked = program.read_topic("Soul Urge / Heart's Desire Number", MARIA)
-            self.assertGreater(program.part("RTB").colours()[GOLD], 1000)
+            self.assertGreater(program.part("RTB text").colours()[GOLD], 1000)
             document = self.print_by_mouse(program, queue)
             self.assert_document(document, marked)
             program.move_to("TV")
             wait_for("the marks to go",
-                     lambda: program.part("RTB").colours()[GOLD] < 1000)
+                     lambda: program.part("RTB text").colours()[GOLD] < 1000)
 
             # Some words only, marked by mouse.
             left, top, width, height = program.box("RTB")
             screen.xdotool("mousemove", left + 20, top + 50, "mousedown", 1,
                            "mousemove", left + 120, top + 60,
                            "mousemove", left + 150, top + 65, "mouseup", 1)
-            wait_for("marked words", lambda: program.part("RTB").colours()[GOLD] > 200)
+            wait_for("marked words", lambda: program.part("RTB text").colours()[GOLD] > 200)
             document = self.print_by_mouse(program, queue)
             self.assert_document(document, marked)
 
