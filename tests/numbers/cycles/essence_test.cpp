@@ -1,6 +1,8 @@
 #include "numbers/calculators.h"
+#include "numbers/essence.h"
 #include "numbers/readings.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
 #include "tests/support/store_slots.h"
 
@@ -10,17 +12,11 @@
 namespace modReadings {
 namespace {
 
+using longhand::DigitalRoot;
+using longhand::ValueOf;
 using namespace std::chrono_literals;
 using std::chrono::December;
 using std::chrono::January;
-
-// Values of A to Z.
-constexpr std::string_view valuesOfAlphabet = "12345678912345678912345678";
-
-int ValueOf(char16_t letter) { return valuesOfAlphabet[letter - u'A'] - '0'; }
-
-/// A sum of three letters, 27 at most, as the number.
-int DigitalRoot(int sum) { return sum == 0 ? 0 : 1 + (sum - 1) % 9; }
 
 class Essence : public FreshStore {
 protected:
@@ -275,6 +271,28 @@ TEST_F(Essence, MiddleNameOfBlanksIsNone) {
     EXPECT_EQ(At(41, u"ANNA", u"   ", u"SMITH"), 4);
     EXPECT_EQ(At(41, u"ANNA", u"", u"SMITH"), 4);
     EXPECT_EQ(At(41, u"ANNA", u" B ", u"SMITH"), 6); // 5 + 2 + 8 = 15
+}
+
+TEST(EssenceChart, EveryCapitalLastsAndInALastNameEveryOneButF) {
+    for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
+        EXPECT_TRUE(LastsInFirstName(letter)) << static_cast<char>(letter);
+        EXPECT_EQ(LastsInLastName(letter), letter != u'F') << static_cast<char>(letter);
+    }
+}
+
+TEST(EssenceChart, OfTheSmallLettersTheLAloneLastsAndInALastNameOnly) {
+    for (char16_t letter = u'a'; letter <= u'z'; ++letter) {
+        EXPECT_FALSE(LastsInFirstName(letter)) << static_cast<char>(letter);
+        EXPECT_EQ(LastsInLastName(letter), letter == u'l') << static_cast<char>(letter);
+    }
+}
+
+TEST(EssenceChart, NothingElseLasts) {
+    for (const char16_t character :
+         {u'0', u'1', u'6', u'9', u' ', u'-', u'\'', u'@', u'[', u'\u00C9', u'\uFF21', u'\0'}) {
+        EXPECT_FALSE(LastsInFirstName(character)) << unsigned{character};
+        EXPECT_FALSE(LastsInLastName(character)) << unsigned{character};
+    }
 }
 
 TEST_F(Essence, AtAge0TheFirstLetterWithAValueIsInForce) {
