@@ -293,9 +293,11 @@ TEST_F(Pinnacles, ValueWithoutARowLeavesOnlyItsOwnLineAndReading) {
     const std::u16string label = store.PinnacleLabel1;
     const std::u16string text = store.PinnacleText1;
 
+    store.PinnacleAbout.clear();
     Born(u"0", u"mars", u"1990");
     CalcPinnacles();
     EXPECT_EQ(Numbers(), (Four{0, 1, 1, 1}));
+    EXPECT_TRUE(IsTextOf(store.PinnacleAbout, "PinnacleAbout"));
     EXPECT_EQ(store.PinnacleLabel1, label);
     EXPECT_EQ(store.PinnacleText1, text);
     EXPECT_EQ(store.PinnacleLabel2, u"Second Pinnacle from age 36-44 is 1");
