@@ -45,6 +45,11 @@ struct Walk {
 
 void PrintTo(const Walk &walk, std::ostream *out) { *out << walk.title; }
 
+// SMITH, which has no F and so walks alike as first and as last name: 1, 4, 9, 2, 8 make 24
+// years a pass.
+const std::vector<Span> smith{{0, 0, 1},   {1, 4, 4},   {5, 13, 9},  {14, 15, 2}, {16, 24, 8},
+                              {25, 28, 4}, {29, 37, 9}, {38, 39, 2}, {40, 48, 8}, {49, 52, 4}};
+
 // Worked out by hand: a letter is in force from the age at which its years begin, the
 // letter behind it takes over at the very age at which they end, but the first letter
 // of the name only the year after the last letter ended. So in a later pass a first letter
@@ -65,19 +70,7 @@ const Walk firstNameWalks[] = {
     {"ANNA",
      u"ANNA",
      {{0, 0, 1}, {1, 10, 5}, {11, 12, 1}, {13, 22, 5}, {23, 24, 1}, {37, 46, 5}, {47, 48, 1}}},
-    // 1, 4, 9, 2, 8: 24 years a pass.
-    {"SMITH",
-     u"SMITH",
-     {{0, 0, 1},
-      {1, 4, 4},
-      {5, 13, 9},
-      {14, 15, 2},
-      {16, 24, 8},
-      {25, 28, 4},
-      {29, 37, 9},
-      {38, 39, 2},
-      {40, 48, 8},
-      {49, 52, 4}}},
+    {"SMITH", u"SMITH", smith},
     // 2, 6: 8 years a pass. B ends at 2 and gives way there; O ends at 8 and stays for it.
     {"BO", u"BO", {{0, 1, 2}, {2, 8, 6}, {9, 9, 2}, {10, 16, 6}, {17, 17, 2}, {18, 24, 6}}},
     // 6, 1, 7: 14 years a pass. F counts in a first name.
@@ -99,18 +92,7 @@ const Walk firstNameWalks[] = {
 };
 
 const Walk lastNameWalks[] = {
-    {"SMITH",
-     u"SMITH",
-     {{0, 0, 1},
-      {1, 4, 4},
-      {5, 13, 9},
-      {14, 15, 2},
-      {16, 24, 8},
-      {25, 28, 4},
-      {29, 37, 9},
-      {38, 39, 2},
-      {40, 48, 8},
-      {49, 52, 4}}},
+    {"SMITH", u"SMITH", smith},
     {"ANA", u"ANA", {{0, 0, 1}, {1, 5, 5}, {6, 7, 1}, {8, 12, 5}}},
     // F is passed over: O has 6 and X has 6.
     {"FOX", u"FOX", {{0, 30, 6}}},
