@@ -52,7 +52,8 @@ constexpr int16 Fold(int16 value) {
 /// 2, one of 22 gives 4. The empty text gives 0. Throws as DigitSum does.
 constexpr int16 ReduceDigitString(std::u16string_view text) { return Fold(Fold(DigitSum(text))); }
 
-/// ReduceDigitString of the decimal text of `value`.
+/// ReduceDigitString of the decimal text of `value`. Throws RuntimeFailure for a negative
+/// value, whose text begins with a minus sign.
 constexpr int16 ReduceNumber(int16 value) { return Fold(Fold(DigitSum(value))); }
 
 /// Reduces `number` in place and returns its new value: 0 to 9, 11 or 22.

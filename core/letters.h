@@ -7,6 +7,7 @@
 #include "core/int16.h"
 
 #include <array>
+#include <bitset>
 #include <string_view>
 
 namespace modReadings {
@@ -37,6 +38,15 @@ constexpr int16 ChartValue(char16_t character) {
 /// for more than one character and for any character without a value. Never fails.
 constexpr int16 LetterValue(std::u16string_view letter) {
     return letter.size() == 1 ? ChartValue(letter.front()) : int16{0};
+}
+
+/// Which of the values 1 to 9 the characters of `name` stand for, however often. Bit 0
+/// tells of characters without a value. Never fails.
+inline std::bitset<10> PresentValues(std::u16string_view name) {
+    std::bitset<10> present;
+    for (const char16_t character : name)
+        present.set(static_cast<std::size_t>(ChartValue(character)));
+    return present;
 }
 
 /// The sum of the chart values of all characters of `name`. Throws RuntimeFailure when

@@ -5,14 +5,14 @@
 
 namespace modReadings {
 
-constinit const std::array<Calculator, 22> passOrder{
+constinit const std::array<Calculator, calculatorCount> passOrder = std::to_array<Calculator>({
     CalcPersonalMonth, CalcBirthday,      CalcHiddenPassion,    CalcLifePathPeriods,
     CalcPersonalYear,  CalcPinnacles,     CalcSubconsciousSelf, CalcLifePath,
     CalcDestiny,       CalcKarmicLessons, CalcChallenges,       CalcKarmicDebt,
     CalcBalance,       CalcPersonalDay,   CalcRationalThought,  CalcHPBridge,
     CalcLEBridge,      CalcEssence,       CalcRealization,      CalcInnerDreams,
     CalcPlanes,        CalcSoulUrge,
-};
+});
 
 void RunAllCalculators() {
     for (const Calculator calculate : passOrder)

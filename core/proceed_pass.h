@@ -5,10 +5,15 @@
 //
 // The order is not sorted by what reads what. CalcKarmicDebt and CalcHPBridge run before
 // CalcInnerDreams and CalcSoulUrge, whose results they read, and so work on the values of
-// the pass before. No user sees that: every display of a topic runs its calculator again
-// on the filled store. Neither the order nor the second run may be optimised away.
+// the pass before. A click on a topic and the Comprehensive Reading put that right: they
+// run the calculator again on the filled store. Two traces of the pass remain in sight.
+// Proceed writes the Personal Month page without such a run, as it came out before the
+// names were walked; and an H/P gap of 9, which has no reading, shows the one that the
+// pass chose by the values before. Neither the order nor the second run may be optimised
+// away.
 
 #include <array>
+#include <cstddef>
 
 namespace modReadings {
 
@@ -16,8 +21,11 @@ namespace modReadings {
 /// and may throw RuntimeFailure, having written some of them.
 using Calculator = void (*)();
 
-/// All 22 calculators in the order of the pass.
-extern const std::array<Calculator, 22> passOrder;
+/// How many calculators there are, and so how many topics.
+inline constexpr std::size_t calculatorCount = 22;
+
+/// All calculators in the order of the pass.
+extern const std::array<Calculator, calculatorCount> passOrder;
 
 /// Runs every calculator once, in order. One that fails is abandoned by itself; the
 /// others run all the same. Throws nothing.

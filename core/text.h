@@ -18,6 +18,11 @@ constexpr std::u16string_view TrimBlanks(std::u16string_view text) {
     return text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
+/// The number of characters of `text`. Throws RuntimeFailure beyond int16.
+constexpr int16 Length(std::u16string_view text) {
+    return ToInt16(static_cast<std::int64_t>(text.size()));
+}
+
 /// The number that one decimal digit stands for, 0 to 9. Throws RuntimeFailure for
 /// every other character, a blank among them.
 constexpr int16 DigitValue(char16_t character) {

@@ -6,7 +6,7 @@
 namespace modReadings {
 
 int16 WalkDigits(std::u16string_view text) {
-    const int16 length = ToInt16(static_cast<std::int64_t>(text.size()));
+    const int16 length = Length(text);
     int16 sum = 0;
     store.ScratchIndex = 0;
     while (store.ScratchIndex < length) {

@@ -9,9 +9,9 @@
 
 namespace modReadings {
 
-/// The sum of the digits of `text`. Writes ScratchIndex, the position last looked at
-/// (0 for the empty text). Throws RuntimeFailure at a character that is no digit, on a
-/// text longer than int16 can count, or when the sum overflows.
+/// The sum of the digits of `text`. Leaves ScratchIndex on the position last looked
+/// at, counted from 1, or on 0 for the empty text. Throws RuntimeFailure at a character that is no
+/// digit, on a text longer than int16 can count, or when the sum overflows.
 int16 WalkDigits(std::u16string_view text);
 
 } // namespace modReadings

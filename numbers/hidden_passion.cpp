@@ -1,5 +1,6 @@
 #include "core/letters.h"
 #include "core/reading_store.h"
+#include "core/text.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -12,7 +13,7 @@ namespace modReadings {
 // a hyphen or a digit competes like any letter.
 void CalcHiddenPassion() {
     const std::u16string name = WholeName();
-    ToInt16(static_cast<std::int64_t>(name.size()));
+    Length(name); // fails on a name too long to count, before anything is written
 
     char16_t best = 0;
     std::ptrdiff_t bestCount = 0;

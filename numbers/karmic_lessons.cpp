@@ -14,13 +14,9 @@ void CalcKarmicLessons() {
     store.KarmicLessonsText.clear();
 
     const std::u16string name = WholeName();
-    ToInt16(static_cast<std::int64_t>(
-        name.size())); // a name too long to count fails here, with both slots empty
+    Length(name); // fails on a name too long to count, with both slots empty
 
-    std::bitset<10> present;
-    for (const char16_t character : name)
-        present.set(static_cast<std::size_t>(ChartValue(character)));
-
+    const std::bitset<10> present = PresentValues(name);
     for (int16 value = 1; value <= 9; ++value) {
         if (present.test(static_cast<std::size_t>(value)))
             continue;

@@ -75,6 +75,15 @@ constexpr PeriodAges ageTable[] = {
     {22, 26, 53, {}},
 };
 
+// No run reaches these two rows, and so none can tell whether they still stand.
+constexpr bool HasAgesWithoutLines(int16 root) {
+    const auto row = std::ranges::find(ageTable, root, &PeriodAges::root);
+    return row != std::end(ageTable) && row->firstEnds == 26 && row->secondEnds == 53 &&
+           std::ranges::all_of(row->lines, &std::u16string_view::empty);
+}
+static_assert(HasAgesWithoutLines(11));
+static_assert(HasAgesWithoutLines(22));
+
 void AssignLine(std::u16string &slot, std::u16string_view line, int16 number) {
     if (!line.empty())
         slot = std::u16string(line) + DecimalText(number);

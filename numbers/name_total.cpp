@@ -3,14 +3,16 @@
 #include "core/digits.h"
 #include "core/letters.h"
 #include "core/reading_store.h"
+#include "core/text.h"
 
 namespace modReadings {
 
 void WalkLetters(std::u16string_view text, LetterFilter admits) {
-    const int16 length = ToInt16(static_cast<std::int64_t>(text.size()));
-    for (int16 index = 0; index < length; ++index) {
-        const char16_t character = text[static_cast<std::size_t>(index)];
-        store.ScratchIndex = static_cast<int16>(index + 1);
+    const int16 length = Length(text);
+    store.ScratchIndex = 0;
+    while (store.ScratchIndex < length) {
+        const char16_t character = text[static_cast<std::size_t>(store.ScratchIndex)];
+        ++store.ScratchIndex;
         store.ScratchLetter.assign(1, character);
         if (admits(character))
             store.ScratchSum = Add(store.ScratchSum, ChartValue(character));

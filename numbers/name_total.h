@@ -12,6 +12,7 @@
 
 namespace modReadings {
 
+/// Whether a letter counts; no more than that, a filter writes nothing.
 using LetterFilter = bool (*)(char16_t);
 
 /// A, E, I, O or U. Y is none here.
@@ -20,9 +21,9 @@ constexpr bool IsVowel(char16_t letter) {
 }
 
 /// Walks `text` and adds the value of each letter that `admits` to ScratchSum. Leaves
-/// ScratchLetter on the last character and ScratchIndex on its position; an empty text
-/// leaves ScratchLetter as it was. Throws RuntimeFailure on a total or a length beyond
-/// int16, in the latter case before the first character.
+/// ScratchLetter on the last character and ScratchIndex on its position, counted from 1;
+/// an empty text leaves ScratchLetter as it was and ScratchIndex on 0. Throws RuntimeFailure on a
+/// total or a length beyond int16, in the latter case before the first character.
 void WalkLetters(std::u16string_view text, LetterFilter admits);
 
 /// The slots of one of the three topics, and its texts.

@@ -74,7 +74,7 @@ void CalcPlanes() {
     store.IntuitiveLabel = u"Intuitive Ability ";
 
     const std::u16string name = WholeName();
-    const int16 length = ToInt16(static_cast<std::int64_t>(name.size()));
+    const int16 length = Length(name);
     store.MentalPercent = Share(name, mentalLetters, length);
     store.PhysicalPercent = Share(name, physicalLetters, length);
     store.EmotionalPercent = Share(name, emotionalLetters, length);

@@ -13,12 +13,9 @@ void CalcSoulUrge() {
     // One vowel anywhere in the whole name shuts Y out everywhere: the test is on the
     // total, not on syllables or single names. CalcInnerDreams counts the same Y again.
     if (store.ScratchSum == 0) {
-        WalkLetters(name, [](char16_t letter) {
-            if (letter != u'Y')
-                return false;
-            store.YUsedAsVowel = -1; // raised, never cleared, read nowhere
-            return true;
-        });
+        if (name.find(u'Y') != std::u16string::npos)
+            store.YUsedAsVowel = -1; // never cleared, read nowhere
+        WalkLetters(name, [](char16_t letter) { return letter == u'Y'; });
     }
     StoreNameTotal({store.SoulUrgeNumber, store.SoulUrgeRaw, store.SoulUrgeText,
                     store.SoulUrgeAbout, readings::soulUrge, readings::soulUrgeAbout});

@@ -10,9 +10,7 @@
 namespace modReadings {
 
 void CalcSubconsciousSelf() {
-    std::bitset<10> present;
-    for (const char16_t character : WholeName())
-        present.set(static_cast<std::size_t>(ChartValue(character)));
+    const std::bitset<10> present = PresentValues(WholeName());
 
     // The list is built and thrown away; only the count matters.
     int16 count = 0;

@@ -3,6 +3,7 @@
 // The table of contents of the window: its nodes, and what a click on one does. The
 // caption is the only key of the dispatch; node keys serve to hang children on parents.
 
+#include "core/proceed_pass.h"
 #include "report/rich_text.h"
 
 #include <array>
@@ -28,8 +29,9 @@ struct TreeNode {
     bool bold = false;
 };
 
-/// Number of nodes of the tree.
-inline constexpr std::size_t treeNodeCount = 28;
+/// Number of nodes of the tree: a leaf for each topic, one for the Comprehensive Reading,
+/// the three roots and the two leaves of "User Information".
+inline constexpr std::size_t treeNodeCount = calculatorCount + 6;
 
 /// Positions that code addresses, counted from 1 in the order of creation.
 enum class NodePosition : std::size_t { UserInfo = 1, U1 = 2, U2 = 3, Numerology = 4, N1 = 5 };

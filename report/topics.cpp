@@ -19,7 +19,7 @@ constexpr Topic Standard(std::u16string_view caption, std::u16string_view headin
     return {caption, heading, number, calculate, {{{about, 2, {}}, {text, 0, {}}}}};
 }
 
-constexpr std::array<Topic, 22> topics{
+constexpr std::array topics{
     Standard(u"Personal Month", u"Your Personal Month is: ", &S::PersonalMonthNumber,
              CalcPersonalMonth, &S::PersonalMonthAbout, &S::PersonalMonthText),
     Standard(u"Hidden Passion Number", u"Your Hidden Passion Number is: ", &S::HiddenPassionNumber,
@@ -103,6 +103,7 @@ constexpr std::array<Topic, 22> topics{
     Standard(u"Soul Urge / Heart's Desire Number", u"Your Soul Urge Or Heart's Desire Number is: ",
              &S::SoulUrgeNumber, CalcSoulUrge, &S::SoulUrgeAbout, &S::SoulUrgeText),
 };
+static_assert(topics.size() == calculatorCount);
 
 struct NumberText {
     std::u16string operator()(NoNumber) const { return {}; }

@@ -64,8 +64,8 @@ TEST(FixedClock, ShowsEveryDayOfALeapYear) {
 /// Shows the next day at every look.
 class HastyClock final : public Clock {
 public:
-    explicit HastyClock(year_month_day first) : next_(first) { Install(this); }
-    ~HastyClock() override { Install(nullptr); }
+    explicit HastyClock(year_month_day first) : next_(first), before_(Install(this)) {}
+    ~HastyClock() override { Install(before_); }
     HastyClock(const HastyClock &) = delete;
     HastyClock &operator=(const HastyClock &) = delete;
 
@@ -77,6 +77,7 @@ private:
     }
 
     mutable sys_days next_;
+    const Clock *const before_;
 };
 
 TEST(Clock, ReadsYearMonthAndDayByCallsOfTheirOwn) {
@@ -85,6 +86,15 @@ TEST(Clock, ReadsYearMonthAndDayByCallsOfTheirOwn) {
     EXPECT_EQ(Clock::Month(), 1);   // already past midnight
     EXPECT_EQ(Clock::Year(), 2027); // and another day on
     EXPECT_EQ(Clock::Date(), year(2027) / 1 / 3);
+}
+
+TEST(FixedClock, GivesWayToTheClockBeforeIt) {
+    const FixedClock outer(year(1900) / 1 / 1);
+    {
+        const FixedClock inner(year(2026) / 11 / 16);
+        EXPECT_EQ(Clock::Year(), 2026);
+    }
+    EXPECT_EQ(Clock::Date(), year(1900) / 1 / 1);
 }
 
 year_month_day LocalDate() {

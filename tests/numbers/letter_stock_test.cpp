@@ -2,6 +2,8 @@
 
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
+#include "tests/support/reading_facts.h"
 #include "tests/support/reading_rows.h"
 #include "tests/support/store_slots.h"
 
@@ -13,54 +15,8 @@
 namespace modReadings {
 namespace {
 
+using longhand::ValueOf;
 using ::testing::PrintToString;
-
-constexpr Opening lessonOpenings[] = {
-    {1, u"There would be times in your life when you will be facing difficulties from all "
-        u"directions."},
-    {2, u"You have confidence in yourself and you think that you can face up to any situation "
-        u"without taking help from others."},
-    {3, u"There are times when you are not happy with the things going on in your life."},
-    {4, u"This is the time when you face the consequences for the things that you have neglected, "
-        u"since you have been"},
-    {5, u"You will be more adventurous and open to the changes that life has to offer you."},
-    {6, u"This is a really hard time on the personal front."},
-    {7, u"In this period you give importance to the spiritual side of yourself."},
-    {8, u"This is the time to be careful about handling financial matters."},
-    {9, u"This is a period when you might have to face various trials and tribulations in your "
-        u"personal life."},
-};
-
-constexpr Opening passionOpenings[] = {
-    {1, u"People of this number are very creative and artistic."},
-    {2, u"You are a selfless individual."},
-    {3, u"You have good verbal and written communication skills and thus express your creative "
-        u"skills in an effective way."},
-    {4, u"You are a practical and realistic person."},
-    {5, u"You are unconventional and would like to do things in new and different ways."},
-    {6, u"You like to be with your near and dear ones and would do anything for them."},
-    {7, u"You are a very curious person."},
-    {8, u"People of this number are born leaders."},
-    {9, u"You are born with the inborn trait of serving mankind."},
-};
-
-constexpr std::u16string_view lessonsAboutOpening =
-    u"This number helps you to identify your weaknesses so that you realize them, and know how to "
-    u"work on them.";
-constexpr std::u16string_view passionAbout =
-    u"All of us are born with some talents. This number tells you about your hidden talents and "
-    u"strengths. This number also reveals your personality. We also get an idea about how to use "
-    u"and direct our positive strengths in the right way so that we reap the maximum benefits out "
-    u"of it. It is like a guide to your life.";
-
-/// The values of A to Z, in the order of the alphabet.
-constexpr std::u16string_view alphabetValues = u"12345678912345678912345678";
-
-int16 ValueOf(char16_t character) {
-    if (character < u'A' || character > u'Z')
-        return 0;
-    return static_cast<int16>(alphabetValues[static_cast<std::size_t>(character - u'A')] - u'0');
-}
 
 class KarmicLessons : public FreshStore {
 protected:
@@ -82,7 +38,7 @@ protected:
         }
         EXPECT_EQ(store.KarmicLessonsNumber, list);
         EXPECT_EQ(store.KarmicLessonsText, text);
-        EXPECT_TRUE(store.KarmicLessonsAbout.starts_with(lessonsAboutOpening));
+        EXPECT_TRUE(IsTextOf(store.KarmicLessonsAbout, "KarmicLessonsAbout"));
     }
 };
 
@@ -98,9 +54,8 @@ TEST_F(KarmicLessons, OfOakRiverAre378) {
 }
 
 TEST_F(KarmicLessons, OpenEachInTheirOwnWords) {
-    for (const Opening &opening : lessonOpenings)
-        EXPECT_TRUE(Row(readings::karmicLessons, opening.number).starts_with(opening.words))
-            << opening.number;
+    for (int16 value = 1; value <= 9; ++value)
+        EXPECT_TRUE(IsReadingOf(Row(readings::karmicLessons, value), value, "KarmicLessonsText"));
     EXPECT_EQ(readings::karmicLessons.size(), 9u);
 }
 
@@ -108,7 +63,7 @@ TEST_F(KarmicLessons, AreNoneForANameWithAllNineValues) {
     Of(u"ABCDEFGHI", u"", u"");
     EXPECT_EQ(store.KarmicLessonsNumber, u"");
     EXPECT_EQ(store.KarmicLessonsText, u"");
-    EXPECT_TRUE(store.KarmicLessonsAbout.starts_with(lessonsAboutOpening));
+    EXPECT_TRUE(IsTextOf(store.KarmicLessonsAbout, "KarmicLessonsAbout"));
 }
 
 TEST_F(KarmicLessons, AreAllNineForANameWithoutALetter) {
@@ -240,12 +195,11 @@ TEST_F(HiddenPassion, OfASingleLetterIsItsValue) {
 }
 
 TEST_F(HiddenPassion, SelectsTheReadingOfItsNumber) {
-    for (const Opening &opening : passionOpenings) {
-        ASSERT_EQ(Of(std::u16string(1, static_cast<char16_t>(u'A' + opening.number - 1)), u"", u""),
-                  opening.number);
-        EXPECT_TRUE(store.HiddenPassionText.starts_with(opening.words)) << opening.number;
-        EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, opening.number));
-        EXPECT_EQ(store.HiddenPassionAbout, passionAbout);
+    for (int16 value = 1; value <= 9; ++value) {
+        ASSERT_EQ(Of(std::u16string(1, static_cast<char16_t>(u'A' + value - 1)), u"", u""), value);
+        EXPECT_TRUE(IsReadingOf(store.HiddenPassionText, value, "HiddenPassionText"));
+        EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, value));
+        EXPECT_TRUE(IsTextOf(store.HiddenPassionAbout, "HiddenPassionAbout"));
     }
     EXPECT_EQ(readings::hiddenPassion.size(), 9u);
 }
@@ -263,7 +217,8 @@ TEST_F(HiddenPassion, StaysEmptyInAFreshStoreWhenNoLetterWins) {
         store = {};
         EXPECT_EQ(Of(name[0], u"", name[1]), 0) << PrintToString(name[0]);
         EXPECT_EQ(store.HiddenPassionText, u"") << PrintToString(name[0]);
-        EXPECT_EQ(store.HiddenPassionAbout, passionAbout) << PrintToString(name[0]);
+        EXPECT_TRUE(IsTextOf(store.HiddenPassionAbout, "HiddenPassionAbout"))
+            << PrintToString(name[0]);
     }
 }
 
@@ -280,7 +235,7 @@ TEST_F(HiddenPassion, OfThreePeopleKeepsANumberThatNoLetterReplaces) {
     store.HiddenPassionAbout.clear();
     EXPECT_EQ(Of(u"A B C", u"", u"D"), 9);
     EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, 9)); // selected again
-    EXPECT_EQ(store.HiddenPassionAbout, passionAbout);
+    EXPECT_TRUE(IsTextOf(store.HiddenPassionAbout, "HiddenPassionAbout"));
 
     store.HiddenPassionText = u"something else";
     EXPECT_EQ(Of(u"", u"", u""), 9);

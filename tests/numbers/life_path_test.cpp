@@ -1,6 +1,8 @@
 #include "core/digits.h"
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
+#include "tests/support/reading_facts.h"
 #include "tests/support/reading_rows.h"
 #include "tests/support/store_slots.h"
 
@@ -13,35 +15,12 @@
 namespace modReadings {
 namespace {
 
+using longhand::Decimal;
 using ::testing::PrintToString;
-
-constexpr Opening lifePathOpenings[] = {
-    {1, u"People of this number are born with leadership qualities."},
-    {2, u"People with life path number 2 are spiritually inclined."},
-    {3, u"People with life path number 3 love the association of others."},
-    {4, u"People with life path number 4 have the natural ability to plan and organize work."},
-    {5, u"People of Life Path number 5 have a progressive and modern viewpoint."},
-    {6, u"Life path number 6 generally means that you are a family person."},
-    {7, u"People with Life Path number 7 are keen observers and are good in investigations and "
-        u"analysis."},
-    {8, u"People with Life Path number 8 are good leaders, organizers and governors."},
-    {9, u"People with Life Path number 9 are compassionate and are humanitarian at heart."},
-    {11, u"People with life path number 11 are spiritually aware."},
-    {22, u"It is the most powerful life path number."},
-};
-
-constexpr std::u16string_view aboutOpening =
-    u"This number is one of the most important numbers that gives an overall idea about the life "
-    u"of a person.";
 
 constexpr std::array<std::u16string_view, 12> monthNames{
     u"January", u"February", u"March",     u"April",   u"May",      u"June",
     u"July",    u"August",   u"September", u"October", u"November", u"December"};
-
-std::u16string Decimal(int value) {
-    const std::string text = std::to_string(value);
-    return {text.begin(), text.end()};
-}
 
 class LifePath : public FreshStore {
 protected:
@@ -183,23 +162,24 @@ TEST_F(LifePath, TakesAnEmptyTextAsNothing) {
 TEST_F(LifePath, OfNothingIs0WithoutAReading) {
     EXPECT_EQ(Of(u"", u"", u""), (Result{0, 0}));
     EXPECT_EQ(store.LifePathText, u"");
-    EXPECT_TRUE(store.LifePathAbout.starts_with(aboutOpening));
+    EXPECT_TRUE(IsTextOf(store.LifePathAbout, "LifePathAbout"));
 }
 
 TEST_F(LifePath, SelectsTheReadingOfItsNumber) {
-    for (const Opening &opening : lifePathOpenings) {
+    constexpr int16 numbers[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 22};
+    for (const int16 number : numbers) {
         // A year of 1 and no month leave the day to make the number, up to 18 + 1.
-        std::u16string day = Decimal(opening.number - 1), month = u"", year = u"1";
-        if (opening.number == 11)
+        std::u16string day = Decimal(number - 1), month = u"", year = u"1";
+        if (number == 11)
             day = u"19", month = u"September"; // 1 + 9 + 1
-        if (opening.number == 22)
+        if (number == 22)
             day = u"9", month = u"September", year = u"4";
-        ASSERT_EQ(NumberOf(day, month, year), opening.number);
-        EXPECT_TRUE(store.LifePathText.starts_with(opening.words)) << opening.number;
-        EXPECT_EQ(store.LifePathText, Row(readings::lifePath, opening.number));
-        EXPECT_TRUE(store.LifePathAbout.starts_with(aboutOpening));
+        ASSERT_EQ(NumberOf(day, month, year), number);
+        EXPECT_TRUE(IsReadingOf(store.LifePathText, number, "LifePathText"));
+        EXPECT_EQ(store.LifePathText, Row(readings::lifePath, number));
+        EXPECT_TRUE(IsTextOf(store.LifePathAbout, "LifePathAbout"));
     }
-    EXPECT_EQ(readings::lifePath.size(), std::size(lifePathOpenings));
+    EXPECT_EQ(readings::lifePath.size(), std::size(numbers));
 }
 
 TEST_F(LifePath, WritesItsFourSlotsAndNoOther) {
@@ -260,7 +240,7 @@ TEST_F(LifePath, OfThreePeopleKeepsTheTextUnderA0) {
     store.LifePathAbout.clear();
     EXPECT_EQ(Of(u"", u"", u""), (Result{0, 0}));
     EXPECT_EQ(store.LifePathText, Row(readings::lifePath, 5)); // the first person's
-    EXPECT_TRUE(store.LifePathAbout.starts_with(aboutOpening));
+    EXPECT_TRUE(IsTextOf(store.LifePathAbout, "LifePathAbout"));
 
     EXPECT_EQ(Of(u"9", u"September", u"1993"), (Result{22, 9}));
     EXPECT_EQ(store.LifePathText, Row(readings::lifePath, 22));

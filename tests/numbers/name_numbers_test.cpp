@@ -4,12 +4,12 @@
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
 #include "tests/support/longhand.h"
+#include "tests/support/reading_facts.h"
 #include "tests/support/reading_rows.h"
 #include "tests/support/store_slots.h"
 
 #include <algorithm>
 #include <random>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,68 +17,8 @@
 namespace modReadings {
 namespace {
 
+using longhand::ValueOf;
 using ::testing::PrintToString;
-
-constexpr Opening destinyOpenings[] = {
-    {1, u"People with number one as their destiny number are independent thinkers and have the "
-        u"capability of doing things on their own."},
-    {2, u"You show unusual maturity in dealing with difficult and complicated situations."},
-    {3, u"People of this number are creative and artistically inclined."},
-    {4, u"People with number 4 as their destiny number, like to work in an orderly and methodical "
-        u"fashion."},
-    {5, u"You make important persons in society since you possess multiple talents."},
-    {6, u"Your main interest lies in your family and family oriented matters."},
-    {7, u"A person with destiny number 7 is introspective, a deep thinker and seeks isolation."},
-    {8, u"People with destiny number 8 should aim towards attaining financial, material and social "
-        u"success in their lifetime."},
-    {9, u"People with destiny number 9 will reap benefits from humanitarian activities."},
-    {11, u"Number 11 is the first of the master numbers."},
-    {22, u"You are born master builders."},
-};
-
-constexpr Opening soulUrgeOpenings[] = {
-    {1,
-     u"People with Soul Urge number 1 are satisfied when they succeed in any type of competition."},
-    {2, u"People with Soul Urge number 2 want to be loved and cared for."},
-    {3, u"People with Soul Urge number 3 are contended when they are engaged in creative matters."},
-    {4, u"People with Soul Urge number always like to have financial security."},
-    {5, u"People with Soul Urge number 5 are fiercely independent."},
-    {6, u"People with a Soul Urge number 6 want to be appreciated always."},
-    {7, u"People with this Soul Urge number get satisfaction from gaining spiritual knowledge "
-        u"about the world around them."},
-    {8, u"People with destiny number 8 tend to get satisfaction from financial and material "
-        u"achievements."},
-    {9, u"People with Soul Urge number 9 get satisfaction by helping others in their problems."},
-    {11, u"Master number 11 has resemblance with number 2."},
-    {22,
-     u"With a master number 22 Soul Urge, there is an ever-lasting peaceful life ahead of you."},
-};
-
-constexpr Opening innerDreamsOpenings[] = {
-    {1, u"People of this number are always brimming with ideas."},
-    {2, u"You are peace loving and want to maintain a friendly and congenial relationship with "
-        u"everyone."},
-    {3, u"People of this number are more artistically inclined."},
-    {4, u"People of this number have tremendous grit and courage."},
-    {5, u"People of this personality number are carefree by nature."},
-    {6, u"People of this personality number always crave for the love and affection of others."},
-    {7, u"People of this personality number cherish being in isolation."},
-    {8, u"People who belong to this personality number have a strong and dynamic personality."},
-    {9, u"People of this number are humanitarians at heart and are very sensitive to other "
-        u"people's needs and desires."},
-    {11, u"You are very considerate and down to earth."},
-    {22, u"You have an inner craving to do something in a grand scale, which would make you well "
-         u"known all over the world."},
-};
-
-/// The values of A to Z, in the order of the alphabet.
-constexpr std::u16string_view alphabetValues = u"12345678912345678912345678";
-
-int ValueOf(char16_t character) {
-    if (character < u'A' || character > u'Z')
-        return 0;
-    return alphabetValues[static_cast<std::size_t>(character - u'A')] - u'0';
-}
 
 bool Vowel(char16_t character) {
     return character == u'A' || character == u'E' || character == u'I' || character == u'O' ||
@@ -312,25 +252,20 @@ struct Topic {
     std::u16string ReadingStore::*text;
     std::u16string ReadingStore::*about;
     const ReadingTable *table;
-    std::span<const Opening> openings;
-    std::u16string_view aboutOpening;
+    const char *textSlot, *aboutSlot;
     char16_t nine, one; ///< letters of these values that the topic counts
 };
 
 const Topic topics[] = {
     {"Destiny", CalcDestiny, &ReadingStore::DestinyNumber, &ReadingStore::DestinyRaw,
-     &ReadingStore::DestinyText, &ReadingStore::DestinyAbout, &readings::destiny, destinyOpenings,
-     u"A destiny number is the number one gets by adding all the letters of a person's name.", u'R',
-     u'A'},
+     &ReadingStore::DestinyText, &ReadingStore::DestinyAbout, &readings::destiny, "DestinyText",
+     "DestinyAbout", u'R', u'A'},
     {"SoulUrge", CalcSoulUrge, &ReadingStore::SoulUrgeNumber, &ReadingStore::SoulUrgeRaw,
-     &ReadingStore::SoulUrgeText, &ReadingStore::SoulUrgeAbout, &readings::soulUrge,
-     soulUrgeOpenings,
-     u"The Soul's Urge or the heart's desire number has an important influence on our lives.", u'I',
-     u'A'},
+     &ReadingStore::SoulUrgeText, &ReadingStore::SoulUrgeAbout, &readings::soulUrge, "SoulUrgeText",
+     "SoulUrgeAbout", u'I', u'A'},
     {"InnerDreams", CalcInnerDreams, &ReadingStore::InnerDreamsNumber,
      &ReadingStore::InnerDreamsRaw, &ReadingStore::InnerDreamsText, &ReadingStore::InnerDreamsAbout,
-     &readings::innerDreams, innerDreamsOpenings,
-     u"This number is indicative of the various aspects and sides of our personality.", u'R', u'J'},
+     &readings::innerDreams, "InnerDreamsText", "InnerDreamsAbout", u'R', u'J'},
 };
 
 void PrintTo(const Topic &topic, std::ostream *out) { *out << topic.word; }
@@ -408,15 +343,16 @@ TEST_P(NameTotal, AgreesWithPaper) {
 }
 
 TEST_P(NameTotal, SelectsTheReadingOfItsNumber) {
-    for (const Opening &opening : topic.openings) {
+    constexpr int16 numbers[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 22};
+    for (const int16 number : numbers) {
         store = {};
-        Calculate(u"", u"", NameOf(opening.number));
-        ASSERT_EQ(Number(), opening.number);
-        EXPECT_TRUE(Text().starts_with(opening.words)) << opening.number;
-        EXPECT_EQ(Text(), Row(*topic.table, opening.number));
-        EXPECT_TRUE(About().starts_with(topic.aboutOpening));
+        Calculate(u"", u"", NameOf(number));
+        ASSERT_EQ(Number(), number);
+        EXPECT_TRUE(IsReadingOf(Text(), number, topic.textSlot));
+        EXPECT_EQ(Text(), Row(*topic.table, number));
+        EXPECT_TRUE(IsTextOf(About(), topic.aboutSlot));
     }
-    EXPECT_EQ(topic.table->size(), topic.openings.size());
+    EXPECT_EQ(topic.table->size(), std::size(numbers));
 }
 
 TEST_P(NameTotal, OfThreePeopleKeepsTheTextUnderA0) {
@@ -428,7 +364,7 @@ TEST_P(NameTotal, OfThreePeopleKeepsTheTextUnderA0) {
     EXPECT_EQ(Raw(), 0);
     EXPECT_EQ(Number(), 0);
     EXPECT_EQ(Text(), Row(*topic.table, 7)); // the first person's
-    EXPECT_TRUE(About().starts_with(topic.aboutOpening));
+    EXPECT_TRUE(IsTextOf(About(), topic.aboutSlot));
 
     Calculate(NameOf(22), u"", u"");
     EXPECT_EQ(Number(), 22);

@@ -4,6 +4,7 @@
 #include "tests/report/expected_report.h"
 #include "tests/report/report_text.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/reading_rows.h"
 
 namespace modReadings {
 namespace {
@@ -22,13 +23,6 @@ std::vector<std::u16string> BoldLines(const ReportRuns &runs) {
         if (run.bold)
             lines.push_back(run.text);
     return lines;
-}
-
-/// The row of a table of readings.
-std::u16string ReadingOf(int16 number, ReadingTable table) {
-    std::u16string text = u"no such row";
-    SelectReading(text, number, table);
-    return text;
 }
 
 /// OAK RIVER, born on 29 December 1985, read on 16 November 2026.
@@ -159,17 +153,16 @@ TEST_F(ComprehensiveReadingBeforeAnyPass, IsTheReportOfAnEmptyProfile) {
     const std::u16string lessons = [] {
         std::u16string text;
         for (int16 value = 1; value <= 9; ++value)
-            text +=
-                u"\r\n" + DecimalText(value) + u"\r\n" + ReadingOf(value, readings::karmicLessons);
+            text += u"\r\n" + DecimalText(value) + u"\r\n" + Row(readings::karmicLessons, value);
         return text;
     }();
-    const auto noChallenge = ReadingOf(0, readings::challenge);
+    const auto noChallenge = Row(readings::challenge, 0);
     const auto about = [](std::u16string_view text) { return std::u16string(text) + u"\r\n\r\n"; };
 
     std::u16string expected = u"Orravane Comprehensive Reading\r\n\r\n";
     expected += u"Your Personal Month is: 3\r\n\r\n" + about(readings::personalMonthAbout) +
-                ReadingOf(3, readings::personalMonth) + u"\r\n\r\n"; // 0 + 0 + 2 + 1
-    expected += u"\r\n\r\n\r\n\r\n";                                 // Birthday
+                Row(readings::personalMonth, 3) + u"\r\n\r\n"; // 0 + 0 + 2 + 1
+    expected += u"\r\n\r\n\r\n\r\n";                           // Birthday
     expected += u"Your Hidden Passion Number is: 0\r\n\r\n" + about(readings::hiddenPassionAbout) +
                 u"\r\n\r\n";
     // The stages of life are set before the birth year fails; About, text and lines are not.
@@ -177,7 +170,7 @@ TEST_F(ComprehensiveReadingBeforeAnyPass, IsTheReportOfAnEmptyProfile) {
     expected += u"\r\n" + about(readings::periodStage1) + u"\r\n" + about(readings::periodStage2) +
                 u"\r\n" + about(readings::periodStage3);
     expected += u"Your Personal Year Number is: 1\r\n\r\n" + about(readings::personalYearAbout) +
-                ReadingOf(1, readings::personalYear) + u"\r\n\r\n"; // 0 + 0 + 1
+                Row(readings::personalYear, 1) + u"\r\n\r\n"; // 0 + 0 + 1
     expected += u"Pinnacle Phases\r\n\r\n\r\n\r\n"
                 u"\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
     expected += u"Your Subconscious Self Number is: 0\r\n\r\n" +
@@ -197,13 +190,13 @@ TEST_F(ComprehensiveReadingBeforeAnyPass, IsTheReportOfAnEmptyProfile) {
     expected += u"Your Karmic Debt Number is: 0\r\n\r\n\r\n\r\n\r\n\r\n";
     expected += u"Your Balance Number is: 0\r\n\r\n" + about(readings::balanceAbout) + u"\r\n\r\n";
     expected += u"Your Personal Day is: 1\r\n\r\n" + about(readings::personalDayAbout) +
-                ReadingOf(1, readings::personalDay) + u"\r\n\r\n"; // 0 + 0 + 7 + 2 + 1 = 10
+                Row(readings::personalDay, 1) + u"\r\n\r\n"; // 0 + 0 + 7 + 2 + 1 = 10
     expected += u"Your Rational Thought Number is: 0\r\n\r\n" +
                 about(readings::rationalThoughtAbout) + u"\r\n\r\n";
     expected += u"Your HP Bridge Number is: 0\r\n\r\n" + about(readings::hpBridgeAbout) +
-                ReadingOf(0, readings::hpBridge) + u"\r\n\r\n";
+                Row(readings::hpBridge, 0) + u"\r\n\r\n";
     expected += u"Your LE Bridge Number is: 0\r\n\r\n" + about(readings::leBridgeAbout) +
-                ReadingOf(0, readings::leBridge) + u"\r\n\r\n";
+                Row(readings::leBridge, 0) + u"\r\n\r\n";
     expected += u"Your Essence Number is: 0\r\n\r\n\r\n\r\n\r\n\r\n";
     expected += u"Your Realization Or Maturity Number is: 0\r\n\r\n\r\n\r\n"
                 u"Your Maturity Number is dependent on your LifePath Number and Destiny Number. "

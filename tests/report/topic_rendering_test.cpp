@@ -295,6 +295,23 @@ TEST_F(TopicRendering, RunningFirstRewritesTheSlots) {
     EXPECT_EQ(store.HiddenPassionText, u"Text Hidden Passion"); // nothing else ran
 }
 
+TEST_F(FreshStore, PlanesThatTieLeaveTheirHeadingAtTheBlankOfTheLiteral) {
+    Named(u"A", u"", u"E"); // half of the name mental, half physical
+    RunList pane;
+    RunAndRenderTopic(pane, *FindTopic(u"Planes Of Expression / Personal Aspects"));
+    const ReportRuns runs = pane.Runs();
+    ASSERT_EQ(runs.size(), 3U);
+    EXPECT_EQ(runs[0],
+              (ReportRun{u"Your Planes of Expression is towards \r\n\r\n", true, magenta}));
+    // 50 is strong for both; 0 is weak.
+    EXPECT_EQ(runs[1], (ReportRun{u"Your Personal Aspects: Mental Ability 50 - Strong \r\n"
+                                  u"Physical Ability 50 - Strong \r\n"
+                                  u"Emotional Ability 0 - Weak \r\n"
+                                  u"Intuitive Ability 0 - Weak\r\n\r\n",
+                                  false, magenta}));
+    EXPECT_EQ(runs[2], (ReportRun{store.PlanesAbout, false, magenta}));
+}
+
 TEST_F(TopicRendering, ACalculatorThatGivesUpIsWrittenFromTheSlotsAsTheyStand) {
     profile.BirthYear = u"19x5"; // the first thing that Essence looks at
     RunList pane;

@@ -330,6 +330,8 @@ private slots:
         QCOMPARE(store.SoulUrgeText, text);
         QCOMPARE(program_->TV.selectedItems(),
                  QList<QTreeWidgetItem *>{program_->Node(QStringLiteral("Personal Month"))});
+        QVERIFY(program_->Node(QStringLiteral("Numerology"))->isExpanded());
+        QVERIFY(!program_->Node(QStringLiteral("User Information"))->isExpanded());
         QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
     }
 

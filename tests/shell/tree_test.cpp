@@ -127,6 +127,21 @@ private slots:
         QCOMPARE(program_->ReportText(), shown);
     }
 
+    void ProceedWritesThePersonalMonthThatThePassWorkedOut() {
+        // The pass comes to the Personal Month first and to the names behind it.
+        program_->Enter(QStringLiteral("OAK"), {}, QStringLiteral("RIVER5"),
+                        QStringLiteral("December"), QStringLiteral("29"), QStringLiteral("1985"));
+        program_->Proceed();
+        VERIFY_DIALOGS(program_->dialogs);
+        // Day 29 gives 2, December 3, November 2, 2026 1.
+        QVERIFY(program_->ReportText().starts_with(u"Your Personal Month is: 8\r\n\r\n"));
+        QCOMPARE(store.PersonalMonthNumber, std::int16_t{8});
+
+        Click("Personal Month");
+        // Now a 5 is left of the name, and December counts 5: 2 + 5 + 2 + 1 = 10.
+        QVERIFY(program_->ReportText().starts_with(u"Your Personal Month is: 1\r\n\r\n"));
+    }
+
     // --- Clicks
 
     void AClickOnATopicShowsIt_data() { AddTopics(); }

@@ -1,11 +1,26 @@
 #pragma once
 
-// The reductions once more, worked on decimal texts as one would on paper, for tests
-// that hold the program's arithmetic against them.
+// The arithmetic once more, as one would do it on paper, for tests that hold the program's
+// own against it.
 
 #include <string>
+#include <string_view>
 
 namespace longhand {
+
+/// A number in decimal.
+inline std::u16string Decimal(int value) {
+    const std::string digits = std::to_string(value);
+    return {digits.begin(), digits.end()};
+}
+
+/// The value of a letter, 0 for any other character.
+constexpr int ValueOf(char16_t character) {
+    constexpr std::string_view valuesOfAlphabet = "12345678912345678912345678"; // A to Z
+    if (character < u'A' || character > u'Z')
+        return 0;
+    return valuesOfAlphabet[static_cast<std::size_t>(character - u'A')] - '0';
+}
 
 inline int DigitSum(int value) {
     int sum = 0;
@@ -25,5 +40,8 @@ inline int KeepMaster(int value) {
     const int sum = DigitSum(value);
     return sum == 11 || sum == 22 ? sum : Fold(Fold(sum));
 }
+
+/// What a number comes down to when its digits are added until one is left.
+constexpr int DigitalRoot(int value) { return value == 0 ? 0 : 1 + (value - 1) % 9; }
 
 } // namespace longhand

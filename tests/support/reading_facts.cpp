@@ -68,6 +68,31 @@ std::vector<std::basic_string<Unit>> Split(std::basic_string_view<Unit> text) {
     }
 }
 
+/// Whether `text` begins with these words, which are plain ASCII.
+bool BeginsWith(std::u16string_view text, std::string_view words) {
+    return std::ranges::mismatch(words, text).in1 == words.end();
+}
+
+/// Whether `text` is the one that the facts tell of.
+::testing::AssertionResult Fits(std::u16string_view text, const Fact &fact) {
+    const auto no = [&] {
+        return ::testing::AssertionFailure()
+               << ::testing::PrintToString(std::u16string(text.substr(0, 60))) << " with "
+               << text.size() << " characters is not the text in " << fact.slot;
+    };
+    if (!BeginsWith(text, fact.opening) || !Near(text.size(), fact.characters, 2))
+        return no();
+    if (fact.full && (!BeginsWith(text, *fact.full) || text.size() != fact.full->size()))
+        return no();
+    const std::vector<std::u16string> paragraphs = Paragraphs(text);
+    if (paragraphs.size() != fact.paragraphs)
+        return no();
+    for (std::size_t index = 0; index < fact.openings.size(); ++index)
+        if (!BeginsWith(paragraphs.at(index), fact.openings[index]))
+            return no();
+    return ::testing::AssertionSuccess();
+}
+
 } // namespace
 
 const std::vector<Fact> &Facts() {
@@ -87,16 +112,15 @@ const std::vector<Fact> &Facts() {
     return facts;
 }
 
-const Fact *FactOf(std::string_view slot, int number) {
-    static const auto byNumber = [] {
-        std::map<std::pair<std::string_view, int>, const Fact *> all;
+const Fact *FactOf(std::string_view slot, std::optional<int> number) {
+    static const auto bySlot = [] {
+        std::map<std::pair<std::string_view, std::optional<int>>, const Fact *> all;
         for (const Fact &fact : Facts())
-            if (fact.number)
-                all.emplace(std::pair{std::string_view(fact.slot), *fact.number}, &fact);
+            all.emplace(std::pair{std::string_view(fact.slot), fact.number}, &fact);
         return all;
     }();
-    const auto found = byNumber.find({slot, number});
-    return found != byNumber.end() ? found->second : nullptr;
+    const auto found = bySlot.find({slot, number});
+    return found != bySlot.end() ? found->second : nullptr;
 }
 
 bool Near(std::size_t length, std::size_t settled, std::size_t percent) {
@@ -107,9 +131,9 @@ bool Near(std::size_t length, std::size_t settled, std::size_t percent) {
 std::vector<std::string> Paragraphs(std::string_view text) { return Split(text); }
 std::vector<std::u16string> Paragraphs(std::u16string_view text) { return Split(text); }
 
-bool Opens(std::u16string_view text, std::string_view slot, int number) {
+bool Opens(std::u16string_view text, std::string_view slot, std::optional<int> number) {
     const Fact *fact = FactOf(slot, number);
-    return fact != nullptr && std::ranges::mismatch(fact->opening, text).in1 == fact->opening.end();
+    return fact != nullptr && BeginsWith(text, fact->opening);
 }
 
 ::testing::AssertionResult IsReadingOf(std::u16string_view text, int number,
@@ -117,29 +141,14 @@ bool Opens(std::u16string_view text, std::string_view slot, int number) {
     const Fact *fact = FactOf(slot, number);
     if (fact == nullptr)
         return ::testing::AssertionFailure() << slot << " has no reading of " << number;
-    if (!Opens(text, slot, number))
-        return ::testing::AssertionFailure()
-               << "not the reading of " << number << " in " << slot << ": "
-               << ::testing::PrintToString(std::u16string(text.substr(0, 60)));
-    if (const auto paragraphs = Paragraphs(text).size(); paragraphs != fact->paragraphs)
-        return ::testing::AssertionFailure()
-               << "the reading of " << number << " has " << paragraphs << " paragraphs";
-    if (!Near(text.size(), fact->characters, 2))
-        return ::testing::AssertionFailure()
-               << "the reading of " << number << " has " << text.size() << " characters";
-    return ::testing::AssertionSuccess();
+    return Fits(text, *fact) << " of " << number;
 }
 
-::testing::AssertionResult ParagraphsBegin(std::u16string_view text,
-                                           std::initializer_list<std::u16string_view> openings) {
-    const std::vector<std::u16string> paragraphs = Paragraphs(text);
-    if (paragraphs.size() != openings.size())
-        return ::testing::AssertionFailure() << paragraphs.size() << " paragraphs";
-    for (std::size_t index = 0; index < paragraphs.size(); ++index)
-        if (!paragraphs[index].starts_with(openings.begin()[index]))
-            return ::testing::AssertionFailure()
-                   << "paragraph " << index + 1 << " begins otherwise";
-    return ::testing::AssertionSuccess();
+::testing::AssertionResult IsTextOf(std::u16string_view text, std::string_view slot) {
+    const Fact *fact = FactOf(slot);
+    if (fact == nullptr)
+        return ::testing::AssertionFailure() << "no text stands alone in " << slot;
+    return Fits(text, *fact);
 }
 
 } // namespace modReadings

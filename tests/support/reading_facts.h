@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,8 +29,9 @@ struct Fact {
 /// the table cannot be read.
 const std::vector<Fact> &Facts();
 
-/// The facts of the reading of `number` in `slot`; null where there is no such reading.
-const Fact *FactOf(std::string_view slot, int number);
+/// The facts of the reading of `number` in `slot`, or of the text that stands there alone;
+/// null where there is no such text.
+const Fact *FactOf(std::string_view slot, std::optional<int> number = {});
 
 /// Whether a length is within so many percent of the settled one; six characters are
 /// always granted.
@@ -41,14 +41,15 @@ bool Near(std::size_t length, std::size_t settled, std::size_t percent);
 std::vector<std::string> Paragraphs(std::string_view text);
 std::vector<std::u16string> Paragraphs(std::u16string_view text);
 
-/// Whether `text` begins as the reading of `number` in `slot` does.
-bool Opens(std::u16string_view text, std::string_view slot, int number);
+/// Whether `text` begins as the reading of `number` in `slot` does, or as the text that
+/// stands there alone.
+bool Opens(std::u16string_view text, std::string_view slot, std::optional<int> number = {});
 
 /// Whether `text` is the reading of `number` in `slot`, whole and nothing else.
 ::testing::AssertionResult IsReadingOf(std::u16string_view text, int number, std::string_view slot);
 
-/// Whether the paragraphs of `text` begin with `openings`, one each.
-::testing::AssertionResult ParagraphsBegin(std::u16string_view text,
-                                           std::initializer_list<std::u16string_view> openings);
+/// Whether `text` is the one that stands alone in `slot`, such as an About, whole and
+/// nothing else.
+::testing::AssertionResult IsTextOf(std::u16string_view text, std::string_view slot);
 
 } // namespace modReadings

@@ -1,6 +1,7 @@
 #include "core/months.h"
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
 #include "tests/support/store_slots.h"
 
@@ -10,6 +11,7 @@
 namespace modReadings {
 namespace {
 
+using longhand::Decimal;
 using namespace std::chrono_literals;
 
 // Position, then value.
@@ -121,28 +123,20 @@ TEST_F(Challenges, SixHasItsStrayBlank) {
 TEST_F(Challenges, AboutHasItsThreeParagraphs) {
     Born(u"7", u"March", u"1990");
     CalcChallenges();
-    EXPECT_TRUE(ParagraphsBegin(
-        store.ChallengeAbout,
-        {u"Life is not a bed of roses.",
-         u"There are generally three challenges included in your life path.",
-         u"The first sub challenge indicates problems in the first part of your life, and the "
-         u"second sub challenge indicates problems during the second half of the life."}));
-    EXPECT_NEAR(static_cast<double>(store.ChallengeAbout.size()), 752, 15);
+    EXPECT_TRUE(IsTextOf(store.ChallengeAbout, "ChallengeAbout"));
 }
 
 TEST_F(Challenges, AllDatesOfTheListsAndAll36Lines) {
     std::array<std::set<int>, 4> seen;
     for (int year = 1900; year <= 2050; ++year) {
-        const std::string yearText = std::to_string(year);
         const int y = 1 + (year - 1) % 9;
         for (int month = 1; month <= 12; ++month) {
             const int m = 1 + (month - 1) % 9;
             for (int day = 1; day <= 31; ++day) {
-                const std::string dayText = std::to_string(day);
                 const int d = 1 + (day - 1) % 9;
-                Born({dayText.begin(), dayText.end()},
+                Born(Decimal(day),
                      std::u16string(englishMonths[static_cast<std::size_t>(month - 1)]),
-                     {yearText.begin(), yearText.end()});
+                     Decimal(year));
                 CalcChallenges();
                 const int first = std::abs(m - d);
                 const int second = std::abs(y - d);
@@ -169,23 +163,20 @@ TEST_F(Challenges, AllDatesOfTheListsAndAll36Lines) {
 
 TEST_F(Challenges, EachValueHasItsReadingInEachPlace) {
     for (int value = 0; value <= 8; ++value) {
-        const auto text = [](int number) {
-            const std::string digits = std::to_string(number);
-            return std::u16string(digits.begin(), digits.end());
-        };
         // Day 0 and year 0 make first and fourth the month; second stays 0 and third the first.
         Born(u"0",
              value == 0 ? u"no month"
                         : std::u16string(englishMonths[static_cast<std::size_t>(value - 1)]),
              u"0");
         CalcChallenges();
-        EXPECT_EQ(store.ChallengeNumber, text(value) + u" 0 " + text(value) + u" " + text(value));
+        EXPECT_EQ(store.ChallengeNumber,
+                  Decimal(value) + u" 0 " + Decimal(value) + u" " + Decimal(value));
         ExpectRows(value, 0, value, value);
 
-        Born(u"0", u"no month", text(value));
+        Born(u"0", u"no month", Decimal(value));
         CalcChallenges();
         EXPECT_EQ(store.ChallengeNumber,
-                  u"0 " + text(value) + u" " + text(value) + u" " + text(value));
+                  u"0 " + Decimal(value) + u" " + Decimal(value) + u" " + Decimal(value));
         ExpectRows(0, value, value, value);
     }
 }

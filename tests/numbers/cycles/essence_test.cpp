@@ -1,6 +1,8 @@
 #include "numbers/calculators.h"
+#include "numbers/essence.h"
 #include "numbers/readings.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
 #include "tests/support/store_slots.h"
 
@@ -10,17 +12,11 @@
 namespace modReadings {
 namespace {
 
+using longhand::DigitalRoot;
+using longhand::ValueOf;
 using namespace std::chrono_literals;
 using std::chrono::December;
 using std::chrono::January;
-
-// Values of A to Z.
-constexpr std::string_view valuesOfAlphabet = "12345678912345678912345678";
-
-int ValueOf(char16_t letter) { return valuesOfAlphabet[letter - u'A'] - '0'; }
-
-/// A sum of three letters, 27 at most, as the number.
-int DigitalRoot(int sum) { return sum == 0 ? 0 : 1 + (sum - 1) % 9; }
 
 class Essence : public FreshStore {
 protected:
@@ -49,6 +45,11 @@ struct Walk {
 
 void PrintTo(const Walk &walk, std::ostream *out) { *out << walk.title; }
 
+// SMITH, which has no F and so walks alike as first and as last name: 1, 4, 9, 2, 8 make 24
+// years a pass.
+const std::vector<Span> smith{{0, 0, 1},   {1, 4, 4},   {5, 13, 9},  {14, 15, 2}, {16, 24, 8},
+                              {25, 28, 4}, {29, 37, 9}, {38, 39, 2}, {40, 48, 8}, {49, 52, 4}};
+
 // Worked out by hand: a letter is in force from the age at which its years begin, the
 // letter behind it takes over at the very age at which they end, but the first letter
 // of the name only the year after the last letter ended. So in a later pass a first letter
@@ -69,19 +70,7 @@ const Walk firstNameWalks[] = {
     {"ANNA",
      u"ANNA",
      {{0, 0, 1}, {1, 10, 5}, {11, 12, 1}, {13, 22, 5}, {23, 24, 1}, {37, 46, 5}, {47, 48, 1}}},
-    // 1, 4, 9, 2, 8: 24 years a pass.
-    {"SMITH",
-     u"SMITH",
-     {{0, 0, 1},
-      {1, 4, 4},
-      {5, 13, 9},
-      {14, 15, 2},
-      {16, 24, 8},
-      {25, 28, 4},
-      {29, 37, 9},
-      {38, 39, 2},
-      {40, 48, 8},
-      {49, 52, 4}}},
+    {"SMITH", u"SMITH", smith},
     // 2, 6: 8 years a pass. B ends at 2 and gives way there; O ends at 8 and stays for it.
     {"BO", u"BO", {{0, 1, 2}, {2, 8, 6}, {9, 9, 2}, {10, 16, 6}, {17, 17, 2}, {18, 24, 6}}},
     // 6, 1, 7: 14 years a pass. F counts in a first name.
@@ -103,18 +92,7 @@ const Walk firstNameWalks[] = {
 };
 
 const Walk lastNameWalks[] = {
-    {"SMITH",
-     u"SMITH",
-     {{0, 0, 1},
-      {1, 4, 4},
-      {5, 13, 9},
-      {14, 15, 2},
-      {16, 24, 8},
-      {25, 28, 4},
-      {29, 37, 9},
-      {38, 39, 2},
-      {40, 48, 8},
-      {49, 52, 4}}},
+    {"SMITH", u"SMITH", smith},
     {"ANA", u"ANA", {{0, 0, 1}, {1, 5, 5}, {6, 7, 1}, {8, 12, 5}}},
     // F is passed over: O has 6 and X has 6.
     {"FOX", u"FOX", {{0, 30, 6}}},
@@ -275,6 +253,28 @@ TEST_F(Essence, MiddleNameOfBlanksIsNone) {
     EXPECT_EQ(At(41, u"ANNA", u"   ", u"SMITH"), 4);
     EXPECT_EQ(At(41, u"ANNA", u"", u"SMITH"), 4);
     EXPECT_EQ(At(41, u"ANNA", u" B ", u"SMITH"), 6); // 5 + 2 + 8 = 15
+}
+
+TEST(EssenceChart, EveryCapitalLastsAndInALastNameEveryOneButF) {
+    for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
+        EXPECT_TRUE(LastsInFirstName(letter)) << static_cast<char>(letter);
+        EXPECT_EQ(LastsInLastName(letter), letter != u'F') << static_cast<char>(letter);
+    }
+}
+
+TEST(EssenceChart, OfTheSmallLettersTheLAloneLastsAndInALastNameOnly) {
+    for (char16_t letter = u'a'; letter <= u'z'; ++letter) {
+        EXPECT_FALSE(LastsInFirstName(letter)) << static_cast<char>(letter);
+        EXPECT_EQ(LastsInLastName(letter), letter == u'l') << static_cast<char>(letter);
+    }
+}
+
+TEST(EssenceChart, NothingElseLasts) {
+    for (const char16_t character :
+         {u'0', u'1', u'6', u'9', u' ', u'-', u'\'', u'@', u'[', u'\u00C9', u'\uFF21', u'\0'}) {
+        EXPECT_FALSE(LastsInFirstName(character)) << unsigned{character};
+        EXPECT_FALSE(LastsInLastName(character)) << unsigned{character};
+    }
 }
 
 TEST_F(Essence, AtAge0TheFirstLetterWithAValueIsInForce) {

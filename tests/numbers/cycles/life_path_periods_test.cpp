@@ -3,6 +3,7 @@
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
 #include "tests/support/store_slots.h"
 
@@ -11,6 +12,7 @@
 namespace modReadings {
 namespace {
 
+using longhand::Decimal;
 using namespace std::chrono_literals;
 using std::chrono::December;
 
@@ -201,12 +203,10 @@ TEST_F(LifePathPeriods, RowsOf11And22HaveReadingsThatNoDateReaches) {
     std::set<int> roots;
     for (int year = 1900; year <= 2050; ++year) {
         for (int day = 1; day <= 31; ++day) {
-            const std::string dayText = std::to_string(day);
-            const std::string yearText = std::to_string(year);
             for (int month = 1; month <= 12; ++month) {
-                Born({dayText.begin(), dayText.end()},
+                Born(Decimal(day),
                      std::u16string(englishMonths[static_cast<std::size_t>(month - 1)]),
-                     {yearText.begin(), yearText.end()});
+                     Decimal(year));
                 CalcLifePathPeriods();
                 // Two digits at most on the way, so digits may be added in any order.
                 const int root = 1 + (day + month + year - 1) % 9;

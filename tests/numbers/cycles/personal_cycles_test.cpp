@@ -1,6 +1,7 @@
 #include "core/months.h"
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
 #include "tests/support/store_slots.h"
 
@@ -9,22 +10,22 @@
 namespace modReadings {
 namespace {
 
+using longhand::Decimal;
+using longhand::DigitalRoot;
 using namespace std::chrono_literals;
 using std::chrono::December;
 using std::chrono::January;
 using std::chrono::year_month_day;
 
-/// What any number comes down to when its digits are added until one is left. All values
-/// of these topics have two digits at most on their way, where a fold is a digit sum.
-int DigitalRoot(int value) { return 1 + (value - 1) % 9; }
+// All values of these topics have two digits at most on their way, where a fold is a digit
+// sum and the digital root is the number.
 
 /// A clock that shows another date at each look and stays on the last.
 class SteppingClock final : public Clock {
 public:
-    explicit SteppingClock(std::vector<year_month_day> dates) : dates_(std::move(dates)) {
-        Install(this);
-    }
-    ~SteppingClock() override { Install(nullptr); }
+    explicit SteppingClock(std::vector<year_month_day> dates)
+        : dates_(std::move(dates)), before_(Install(this)) {}
+    ~SteppingClock() override { Install(before_); }
     SteppingClock(const SteppingClock &) = delete;
     SteppingClock &operator=(const SteppingClock &) = delete;
 
@@ -38,6 +39,7 @@ private:
 
     std::vector<year_month_day> dates_;
     mutable std::size_t next_ = 0;
+    const Clock *const before_;
 };
 
 class PersonalCycles : public FreshStore {
@@ -325,8 +327,7 @@ TEST_F(PersonalCycles, AllBirthdaysGiveOneToNineAndTheReadingOfTheNumber) {
             const std::u16string name =
                 month == 0 ? u"Nivose"
                            : std::u16string(englishMonths[static_cast<std::size_t>(month - 1)]);
-            const std::string dayText = std::to_string(day);
-            Born({dayText.begin(), dayText.end()}, name, u"1985");
+            Born(Decimal(day), name, u"1985");
             for (const year_month_day today :
                  {2026y / January / 1, 2026y / December / 31, 1999y / std::chrono::August / 29,
                   2000y / std::chrono::February / 29, 2050y / std::chrono::October / 10}) {

@@ -2,6 +2,7 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
+#include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
 #include "tests/support/store_slots.h"
 
@@ -10,6 +11,7 @@
 namespace modReadings {
 namespace {
 
+using longhand::Decimal;
 using namespace std::chrono_literals;
 
 /// The four labels of a value, from the first pinnacle to the fourth.
@@ -171,14 +173,12 @@ TEST_F(Pinnacles, MasterNumbersStayAsASumAndAsADigitSum) {
 TEST_F(Pinnacles, AllDatesOfTheListsAndAll44Lines) {
     std::array<std::set<int>, 4> seen;
     for (int year = 1900; year <= 2050; ++year) {
-        const std::string yearText = std::to_string(year);
         for (int month = 1; month <= 12; ++month) {
             const int monthValue = month <= 9 ? month : month - 9;
             for (int day = 1; day <= 31; ++day) {
-                const std::string dayText = std::to_string(day);
-                Born({dayText.begin(), dayText.end()},
+                Born(Decimal(day),
                      std::u16string(englishMonths[static_cast<std::size_t>(month - 1)]),
-                     {yearText.begin(), yearText.end()});
+                     Decimal(year));
                 CalcPinnacles();
                 const int first = Reduced(monthValue + day);
                 const int second = Reduced(day + year);
@@ -202,8 +202,8 @@ TEST_F(Pinnacles, AllDatesOfTheListsAndAll44Lines) {
 TEST_F(Pinnacles, EachValueHasItsReadingInEachPlace) {
     for (const LabelRow &row : labelRows) {
         // Without a month the first pinnacle is the day alone and the fourth the year.
-        const std::string day = std::to_string(row.value);
-        Born({day.begin(), day.end()}, u"no month", u"0");
+        const std::u16string day = Decimal(row.value);
+        Born(day, u"no month", u"0");
         CalcPinnacles(); // d, d, 2 d and 0
         EXPECT_EQ(store.PinnacleNumber1, row.value);
         EXPECT_EQ(store.PinnacleLabel1, row.labels[0]);
@@ -212,7 +212,7 @@ TEST_F(Pinnacles, EachValueHasItsReadingInEachPlace) {
         EXPECT_EQ(store.PinnacleLabel2, row.labels[1]);
         EXPECT_TRUE(IsReadingOf(store.PinnacleText2, row.value, "PinnacleText"));
 
-        Born(u"0", u"no month", {day.begin(), day.end()});
+        Born(u"0", u"no month", day);
         CalcPinnacles(); // 0, y, y and y
         EXPECT_EQ(store.PinnacleNumber3, row.value);
         EXPECT_EQ(store.PinnacleLabel3, row.labels[2]);
@@ -226,11 +226,7 @@ TEST_F(Pinnacles, EachValueHasItsReadingInEachPlace) {
 TEST_F(Pinnacles, AboutHasItsTwoParagraphs) {
     Born(u"7", u"March", u"1990");
     CalcPinnacles();
-    EXPECT_TRUE(ParagraphsBegin(
-        store.PinnacleAbout,
-        {u"You should aim for different goals to be fulfilled at different periods in your life.",
-         u"Our life is divided into 4 long-term periods and cycles."}));
-    EXPECT_NEAR(static_cast<double>(store.PinnacleAbout.size()), 715, 15);
+    EXPECT_TRUE(IsTextOf(store.PinnacleAbout, "PinnacleAbout"));
 }
 
 TEST_F(Pinnacles, WritesItsOwnSlotsAndNoOthers) {
@@ -297,9 +293,11 @@ TEST_F(Pinnacles, ValueWithoutARowLeavesOnlyItsOwnLineAndReading) {
     const std::u16string label = store.PinnacleLabel1;
     const std::u16string text = store.PinnacleText1;
 
+    store.PinnacleAbout.clear();
     Born(u"0", u"mars", u"1990");
     CalcPinnacles();
     EXPECT_EQ(Numbers(), (Four{0, 1, 1, 1}));
+    EXPECT_TRUE(IsTextOf(store.PinnacleAbout, "PinnacleAbout"));
     EXPECT_EQ(store.PinnacleLabel1, label);
     EXPECT_EQ(store.PinnacleText1, text);
     EXPECT_EQ(store.PinnacleLabel2, u"Second Pinnacle from age 36-44 is 1");

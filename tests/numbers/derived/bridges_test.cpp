@@ -209,9 +209,7 @@ TEST_F(BridgesInAPass, Abouts) {
               u"our relationships. This number thus is like a bridge between how you think you are "
               u"projecting yourself and the way people see you. This will help improve your "
               u"relationships and let others see the real you.");
-    EXPECT_TRUE(ParagraphsBegin(store.LEBridgeAbout,
-                                {u"This number gives you an idea about who you really are."}));
-    EXPECT_NEAR(static_cast<double>(store.LEBridgeAbout.size()), 512, 10);
+    EXPECT_TRUE(IsTextOf(store.LEBridgeAbout, "LEBridgeAbout"));
 }
 
 } // namespace
