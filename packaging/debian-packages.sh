@@ -1,5 +1,5 @@
-# The Debian 12 packages that the two commands need, and their installation.
-# Sourced by ./run and ./test.
+# The Debian 12 packages that building, testing and packaging need, and their installation.
+# Sourced by ./run, ./test and packaging/make-package.sh.
 
 build_packages="
     ca-certificates cmake g++ ninja-build
@@ -7,9 +7,12 @@ build_packages="
     fonts-dejavu-core gzip librsvg2-bin xdg-utils
 "
 
+# dpkg-dev and file find out what the program's package depends on.
+package_packages="dpkg-dev file"
+
 test_packages="
-    clang-format clang-tidy libgtest-dev
-    appstream desktop-file-utils dpkg-dev file man-db
+    $package_packages clang-format clang-tidy libgtest-dev
+    appstream desktop-file-utils man-db
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     libreoffice-writer-nogui locales openbox poppler-utils python3 qt6-wayland unrtf
     weston x11-utils xclip xdotool xvfb

@@ -1,11 +1,15 @@
 #!/bin/sh
 # make-package.sh [BUILD]
-# Builds the Debian package with Debian's own compiler flags and says where it lies.
+# Installs what is missing, builds the Debian package with Debian's own compiler flags and
+# says where it lies.
 # BUILD is the build folder, build/package by default; there the same sources make the same
 # bytes, wherever the checkout lies.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/package}
+
+. packaging/debian-packages.sh
+install_missing $build_packages $package_packages
 
 export DEB_BUILD_MAINT_OPTIONS=hardening=+all
 CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)"
