@@ -68,7 +68,8 @@ void KeepClosedStreamsClosed() {
 
 int main(int argc, char *argv[]) {
     KeepClosedStreamsClosed();
-    qputenv("LC_ALL", "C.UTF-8"); // the tool speaks English and UTF-8 wherever it runs
+    std::setvbuf(stdout, nullptr, _IONBF, 0); // a report leaves in one write, whole and at once
+    qputenv("LC_ALL", "C.UTF-8");             // the tool speaks English and UTF-8 wherever it runs
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orravane-report"));
 
