@@ -3,6 +3,8 @@
 #include "version.h"
 
 #include <QApplication>
+#include "shell/image_list.h"
+
 #include <QIcon>
 
 /// A static library's resources have to be asked for. Must stand outside any namespace.
@@ -14,5 +16,8 @@ void App::Identify() {
     QApplication::setOrganizationName(QStringLiteral("orravane"));
     QApplication::setApplicationVersion(QLatin1StringView(orravaneVersion));
     QApplication::setDesktopFileName(QStringLiteral("orravane"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/artwork/orravane.svg")));
+    QIcon icon; // drawn here: the toolkit would load a plugin for it and draw more sizes
+    for (const int size : {16, 32, 64})
+        icon.addPixmap(RenderArtwork(QStringLiteral("orravane"), {size, size}, 1));
+    QApplication::setWindowIcon(icon);
 }
