@@ -8,12 +8,12 @@
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
 #   ROOT     the folder of the bare system; by default a temporary one, which is removed at
 #            the end. A folder that is given has to be missing or empty, and it stays.
-#   PICTURES where the pictures of the window go, the current folder by default
+#   PICTURES where the pictures of the window go, the folder of the package by default
 set -euo pipefail
 
 package=$(realpath "${1:?which package?}")
 mirror=${2:-${MIRROR:-http://deb.debian.org/debian}}
-pictures=$(realpath "${PICTURES:-.}")
+pictures=$(realpath "${PICTURES:-$(dirname "$package")}")
 kept=${ROOT:-}
 root=$(realpath -m "${ROOT:-$(mktemp -d)}")
 
