@@ -2,8 +2,8 @@
 
 #include "version.h"
 
-#include <QApplication>
 #include "shell/image_list.h"
+#include <QApplication>
 
 #include <QIcon>
 
