@@ -123,15 +123,15 @@ constexpr Reading rows[] = {
     {8, u"The challenge of the number 8 is the understanding that satisfaction is not gained by "
         u"material gains and financial security. You know this as a saying; it is harder on a day "
         u"when a friend shows you the larger house. Your mood goes up and down with figures: "
-        u"marks, wages, a price, how many came to your party and how many to his. For the sake of "
-        u"the figure you grip the reins, and speak to those under you as if they were paid to be "
-        u"you. Or you go the other way, despise money aloud, forget what you owe and let rich "
-        u"people make you bitter. In either case money sits at the head of the table. Make a list "
-        u"of the hours in the last year that you would gladly have again, and see how few of them "
-        u"could be bought. Arrange for one more such hour this month. Where you have power over "
-        u"anyone, use some of it to make something easier for them, and tell no one. A thing lost "
-        u"or a post given to another will still hurt, yet you will notice next morning that you "
-        u"still have your friends, your two hands and an appetite for breakfast."},
+        u"marks, wages, a price, how many came to your party and how many to a rival's. For the "
+        u"sake of the figure you grip the reins, and speak to those under you as if they were "
+        u"paid to be you. Or you go the other way, despise money aloud, forget what you owe and "
+        u"let rich people make you bitter. In either case money sits at the head of the table. "
+        u"Make a list of the hours in the last year that you would gladly have again, and see how "
+        u"few of them could be bought. Arrange for one more such hour this month. Where you have "
+        u"power over anyone, use some of it to make something easier for them, and tell no one. A "
+        u"thing lost or a post given to another will still hurt, yet you will notice next morning "
+        u"that you still have your friends, your two hands and an appetite for breakfast."},
 };
 } // namespace
 
