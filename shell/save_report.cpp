@@ -10,6 +10,7 @@
 #include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cmath>
 
@@ -43,29 +44,28 @@ private:
     const QString before_ = QDir::currentPath();
 };
 
-/// Takes back what the toolkit notes of a file dialog in a settings file of its own: which
-/// folders were looked at. Only the day of the update question outlasts a run.
-class ForgottenDialog {
+/// While it lives, the settings that all programs of the toolkit share are a copy: what is
+/// noted there of a file dialog, such as the folders that were looked at, goes with it. Only
+/// the day of the update question outlasts a run.
+class BorrowedSettings {
 public:
-    ForgottenDialog() {
-        for (const QString &key : settings_.allKeys())
-            before_.insert(key, settings_.value(key));
+    BorrowedSettings() {
+        if (!copy_.isValid())
+            return;
+        const QFileInfo shared(original_);
+        QFile::copy(original_, copy_.filePath(shared.fileName()));
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, copy_.path());
     }
-    ~ForgottenDialog() {
-        settings_.sync(); // the dialog has written through an object of its own
-        settings_.clear();
-        for (auto entry = before_.cbegin(); entry != before_.cend(); ++entry)
-            settings_.setValue(entry.key(), entry.value());
-        settings_.sync();
-        if (!wasThere_)
-            QFile::remove(settings_.fileName());
+    ~BorrowedSettings() {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           QFileInfo(original_).absolutePath());
     }
-    Q_DISABLE_COPY_MOVE(ForgottenDialog)
+    Q_DISABLE_COPY_MOVE(BorrowedSettings)
 
 private:
-    QSettings settings_{QSettings::UserScope, QStringLiteral("QtProject")};
-    QVariantHash before_;
-    const bool wasThere_ = QFile::exists(settings_.fileName());
+    const QString original_ =
+        QSettings(QSettings::UserScope, QStringLiteral("QtProject")).fileName();
+    const QTemporaryDir copy_;
 };
 
 class SaveDialog final : public QFileDialog {
@@ -94,7 +94,7 @@ void SaveReport(const RichTextBox &RTB, QWidget *parent) {
     if (!QDir(folder).exists()) // the dialog would take its name for that of the file
         folder = QDir::homePath();
 
-    const ForgottenDialog forgotten;
+    const BorrowedSettings borrowed; // outlives the dialog, which notes things in its end
     SaveDialog dialog(parent, App::Title(), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);

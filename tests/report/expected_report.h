@@ -9,6 +9,7 @@
 #include "core/user_profile.h"
 #include "report/run_list.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <string>
@@ -48,30 +49,13 @@ inline constexpr std::array<std::u16string_view, 22> treeOrder{
     u"Planes Of Expression / Personal Aspects",
     u"Soul Urge / Heart's Desire Number"};
 
-/// The same captions in the order of the Comprehensive Reading: Birthday comes second.
-inline constexpr std::array<std::u16string_view, 22> readingOrder{
-    u"Personal Month",
-    u"Birthday Number",
-    u"Hidden Passion Number",
-    u"Life Path Periods",
-    u"Personal Year",
-    u"Pinnacle Phases",
-    u"Subconscious Self Number",
-    u"Life Path Number",
-    u"Destiny / Expressions Number",
-    u"Karmic Lessons Number",
-    u"Challenge Number",
-    u"Karmic Debt Numbers",
-    u"Balance Number",
-    u"Personal Day",
-    u"Rational Thought Number",
-    u"H/P Bridge Number",
-    u"L/E Bridge Number",
-    u"Essence",
-    u"Realization / Maturity Number",
-    u"Inner Dreams / Personality Number",
-    u"Planes Of Expression / Personal Aspects",
-    u"Soul Urge / Heart's Desire Number"};
+/// The same captions in the order of the Comprehensive Reading, where the tenth comes second.
+inline constexpr auto readingOrder = [] {
+    auto order = treeOrder;
+    std::rotate(order.begin() + 1, order.begin() + 9, order.begin() + 10);
+    return order;
+}();
+static_assert(readingOrder[1] == u"Birthday Number" && readingOrder[10] == u"Challenge Number");
 
 /// The blocks of a topic's page, the bold heading first. BirthDay must be a number.
 inline std::vector<ExpectedBlock> ExpectedBlocks(std::u16string_view caption) {

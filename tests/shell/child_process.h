@@ -3,8 +3,12 @@
 // A second process of the test program itself, for what a process can do only once or
 // only to another one: hold the lock, be killed, live in another language, end.
 
+#include "tests/shell/temporary_home.h"
+
 #include <QProcess>
 #include <QStringList>
+
+#include <optional>
 
 class ChildProcess {
 public:
@@ -37,3 +41,18 @@ void TellParent(const QString &line);
 
 /// Reads a line of the parent. Empty at the end.
 QString AskParent();
+
+/// Runs the Qt Test class `Tests` as a program, or `RunChild(role)` where it was started by
+/// ChildProcess. The child stays in the home of its parent.
+#define ORRAVANE_TEST_PROGRAM_WITH_CHILD(Tests, RunChild)                                          \
+    int main(int argc, char *argv[]) {                                                             \
+        const bool isChild = argc == 3 && QByteArray(argv[1]) == "--child";                        \
+        const std::optional<TemporaryHome> home =                                                  \
+            isChild ? std::nullopt : std::optional<TemporaryHome>(std::in_place);                  \
+        QApplication application(argc, argv);                                                      \
+        App::Identify();                                                                           \
+        if (isChild)                                                                               \
+            return RunChild(QString::fromUtf8(argv[2]));                                           \
+        Tests tests(*home);                                                                        \
+        return QTest::qExec(&tests, argc, argv);                                                   \
+    }

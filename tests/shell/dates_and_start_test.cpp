@@ -94,6 +94,10 @@ int TellMonths() {
     return 0;
 }
 
+int RunChild(const QString &role) {
+    return role == QStringLiteral("months") ? TellMonths() : BeFirstInstance();
+}
+
 } // namespace
 
 class StartTest : public QObject {
@@ -415,16 +419,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[]) {
-    const bool isChild = argc == 3 && QByteArray(argv[1]) == "--child";
-    const std::optional<TemporaryHome> home =
-        isChild ? std::nullopt : std::optional<TemporaryHome>(std::in_place);
-    QApplication application(argc, argv);
-    App::Identify();
-    if (isChild)
-        return QByteArray(argv[2]) == "months" ? TellMonths() : BeFirstInstance();
-    StartTest tests(*home);
-    return QTest::qExec(&tests, argc, argv);
-}
+ORRAVANE_TEST_PROGRAM_WITH_CHILD(StartTest, RunChild)
 
 #include "dates_and_start_test.moc"

@@ -54,6 +54,8 @@ private:
     }
 
 private slots:
+    // The tests go on when a window is gone.
+    void initTestCase() { QGuiApplication::setQuitOnLastWindowClosed(false); }
     void init() { program_.emplace(); }
     void cleanup() { program_.reset(); }
 
@@ -150,17 +152,6 @@ private slots:
     }
 };
 
-int main(int argc, char *argv[]) {
-    const bool isChild = argc == 3 && QByteArray(argv[1]) == "--child";
-    const std::optional<TemporaryHome> home =
-        isChild ? std::nullopt : std::optional<TemporaryHome>(std::in_place);
-    QApplication application(argc, argv);
-    App::Identify();
-    if (isChild)
-        return RunAndLeave(QString::fromUtf8(argv[2]));
-    QGuiApplication::setQuitOnLastWindowClosed(false); // the tests go on
-    ExitTest tests(*home);
-    return QTest::qExec(&tests, argc, argv);
-}
+ORRAVANE_TEST_PROGRAM_WITH_CHILD(ExitTest, RunAndLeave)
 
 #include "exit_test.moc"

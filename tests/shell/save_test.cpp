@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QSettings>
 
 #include <csignal>
 #include <optional>
@@ -105,7 +106,7 @@ private:
 
 private slots:
     void init() {
-        folder_.emplace(home_.PathOf(QStringLiteral("reports-XXXXXX")));
+        folder_.emplace(home_.PathOf(QStringLiteral("reports")));
         program_.emplace();
         program_->ProceedWithSomebody();
     }
@@ -371,6 +372,21 @@ private slots:
         if (!settings.isEmpty())
             QCOMPARE(ContentOf(path), settings);
         QFile::remove(path);
+    }
+
+    void WhatAnotherProgramNotesMeanwhileStays() {
+        const QString path = home_.PathOf(QStringLiteral("config/QtProject.conf"));
+        const QByteArray noted("[FileDialog]\nlastVisited=file:///srv\n\n[Other]\nkey=new\n");
+        QFile::remove(path);
+        program_->dialogs.Plan([&](QDialog &dialog) {
+            Write(path, noted);
+            SaveAs(dialog, PathOf(QStringLiteral("report.rtf")));
+        });
+        PressSave();
+        VERIFY_DIALOGS(program_->dialogs);
+        QCOMPARE(ContentOf(path), noted);
+        QFile::remove(path);
+        QCOMPARE(QSettings(QSettings::UserScope, QStringLiteral("QtProject")).fileName(), path);
     }
 
     void APlaceThatTakesNoFileIsPassedOverInSilence() {
