@@ -14,6 +14,9 @@
 
 namespace modReadings {
 
+/// Whether `number` is one of the two master numbers, 11 and 22.
+constexpr bool IsMaster(int16 number) { return number == 11 || number == 22; }
+
 /// The sum of the digits of `text`; 0 for the empty text. Throws RuntimeFailure at the
 /// first character that is no digit, or when the sum leaves the int16 range.
 constexpr int16 DigitSum(std::u16string_view text) {
@@ -63,10 +66,10 @@ constexpr int16 ReduceNumber(int16 value) { return Fold(Fold(DigitSum(value))); 
 /// folds to 11 and on to 2. A loop that guards every stage would change readings.
 /// Throws RuntimeFailure for a negative number, which then stays as it was.
 constexpr int16 ReduceKeepMaster(int16 &number) {
-    if (number == 11 || number == 22)
+    if (IsMaster(number))
         return number;
     const int16 sum = DigitSum(number);
-    number = sum == 11 || sum == 22 ? sum : Fold(Fold(sum));
+    number = IsMaster(sum) ? sum : Fold(Fold(sum));
     return number;
 }
 

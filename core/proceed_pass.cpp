@@ -1,18 +1,8 @@
 #include "core/proceed_pass.h"
 
 #include "core/runtime_failure.h"
-#include "numbers/calculators.h"
 
 namespace modReadings {
-
-constinit const std::array<Calculator, calculatorCount> passOrder = std::to_array<Calculator>({
-    CalcPersonalMonth, CalcBirthday,      CalcHiddenPassion,    CalcLifePathPeriods,
-    CalcPersonalYear,  CalcPinnacles,     CalcSubconsciousSelf, CalcLifePath,
-    CalcDestiny,       CalcKarmicLessons, CalcChallenges,       CalcKarmicDebt,
-    CalcBalance,       CalcPersonalDay,   CalcRationalThought,  CalcHPBridge,
-    CalcLEBridge,      CalcEssence,       CalcRealization,      CalcInnerDreams,
-    CalcPlanes,        CalcSoulUrge,
-});
 
 void RunAllCalculators() {
     for (const Calculator calculate : passOrder)

@@ -1,16 +1,18 @@
 #pragma once
 
-// The Proceed pass over the calculators: which ones there are and in which order they
-// run. The order is declared here and nowhere else; the Comprehensive Reading follows it.
+// The Proceed pass: all calculators, once each, in one fixed order. The Comprehensive
+// Reading follows the same order.
 //
 // The order is not sorted by what reads what. CalcKarmicDebt and CalcHPBridge run before
-// CalcInnerDreams and CalcSoulUrge, whose results they read, and so work on the values of
-// the pass before. A click on a topic and the Comprehensive Reading put that right: they
-// run the calculator again on the filled store. Two traces of the pass remain in sight.
-// Proceed writes the Personal Month page without such a run, as it came out before the
-// names were walked; and an H/P gap of 9, which has no reading, shows the one that the
-// pass chose by the values before. Neither the order nor the second run may be optimised
-// away.
+// CalcInnerDreams and CalcSoulUrge, whose results they read. In the pass they therefore
+// work with the values of the previous pass. A click on a topic and the Comprehensive
+// Reading put that right: they run the calculator again when the store is full.
+//
+// Two effects of the order can be seen in the window. Proceed shows the Personal Month
+// without a second run. It was worked out at the start of the pass, when ScratchLetter
+// still held the last letter of the previous person (see core/months.h). And an H/P gap
+// of 9, which has no reading, keeps the reading that the pass chose from the old values.
+// Neither the order nor the second run may be optimised away.
 
 #include <array>
 #include <cstddef>
@@ -24,7 +26,7 @@ using Calculator = void (*)();
 /// How many calculators there are, and so how many topics.
 inline constexpr std::size_t calculatorCount = 22;
 
-/// All calculators in the order of the pass.
+/// All calculators in the order of the pass. Defined in numbers/, which knows them.
 extern const std::array<Calculator, calculatorCount> passOrder;
 
 /// Runs every calculator once, in order. One that fails is abandoned by itself; the

@@ -1,7 +1,8 @@
 #pragma once
 
-// The person being read: six texts, written by the Proceed pass alone and read by every
-// calculator. Editing the boxes of the window changes nothing here.
+// The person being read: six texts. The calculators read the one profile of the process.
+// It changes when Proceed captures the boxes of the window, or when the report tool reads
+// its next person; editing the boxes changes nothing here.
 
 #include <string>
 
@@ -16,7 +17,7 @@ struct UserProfile {
     std::u16string BirthYear;  ///< decimal text, "1900" to "2050"
 };
 
-/// The one profile of the process, empty until the first pass.
+/// The person whom the calculators read; empty until the first pass.
 inline UserProfile profile;
 
 /// First, middle and last name of the profile, joined with nothing between them.

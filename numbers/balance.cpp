@@ -13,8 +13,8 @@ void CalcBalance() {
     store.BalanceNumber = ReduceNumber(
         Add(initial(profile.FirstName), initial(profile.MiddleName), initial(profile.LastName)));
     // 0 has no reading: the text of the last name that had one stays.
-    SelectReading(store.BalanceText, store.BalanceNumber, readings::balance);
-    store.BalanceAbout = readings::balanceAbout;
+    SelectReading(store.BalanceText, store.BalanceNumber, readings::balance.rows);
+    store.BalanceAbout = readings::balance.about;
 }
 
 } // namespace modReadings

@@ -8,9 +8,9 @@ namespace modReadings {
 
 void CalcBirthday() {
     const int16 day = NumberFromText(profile.BirthDay);
-    SelectReading(store.BirthdayText, day, readings::birthday);
+    SelectReading(store.BirthdayText, day, readings::birthday.rows);
     store.BirthdayRaw = day; // kept whether or not the day has a reading
-    store.BirthdayAbout = readings::birthdayAbout;
+    store.BirthdayAbout = readings::birthday.about;
 }
 
 } // namespace modReadings

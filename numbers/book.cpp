@@ -2,67 +2,54 @@
 
 #include "numbers/readings.h"
 
+#include <utility>
+
 namespace modReadings {
 
 std::vector<BookEntry> Book() {
     std::vector<BookEntry> book;
-    const auto table = [&](std::string_view slot, ReadingTable rows) {
-        for (const Reading &row : rows)
+    const auto fixed = [&](std::string slot, std::u16string_view text) {
+        book.push_back({std::move(slot), std::nullopt, std::u16string(text)});
+    };
+    const auto rows = [&](const std::string &slot, ReadingTable table) {
+        for (const Reading &row : table)
             book.push_back({slot, row.number, std::u16string(row.text)});
     };
-    const auto fixed = [&](std::string_view slot, std::u16string_view text) {
-        book.push_back({slot, std::nullopt, std::u16string(text)});
+    const auto topic = [&](const std::string &word, const Prose &prose) {
+        rows(word + "Text", prose.rows);
+        fixed(word + "About", prose.about);
     };
 
-    table("LifePathText", readings::lifePath);
-    fixed("LifePathAbout", readings::lifePathAbout);
-    table("DestinyText", readings::destiny);
-    fixed("DestinyAbout", readings::destinyAbout);
-    table("SoulUrgeText", readings::soulUrge);
-    fixed("SoulUrgeAbout", readings::soulUrgeAbout);
-    table("InnerDreamsText", readings::innerDreams);
-    fixed("InnerDreamsAbout", readings::innerDreamsAbout);
-    table("BirthdayText", readings::birthday);
-    fixed("BirthdayAbout", readings::birthdayAbout);
-    table("KarmicLessonsText", readings::karmicLessons);
-    fixed("KarmicLessonsAbout", readings::karmicLessonsAbout);
-    table("HiddenPassionText", readings::hiddenPassion);
-    fixed("HiddenPassionAbout", readings::hiddenPassionAbout);
+    topic("LifePath", readings::lifePath);
+    topic("Destiny", readings::destiny);
+    topic("SoulUrge", readings::soulUrge);
+    topic("InnerDreams", readings::innerDreams);
+    topic("Birthday", readings::birthday);
+    topic("KarmicLessons", readings::karmicLessons);
+    topic("HiddenPassion", readings::hiddenPassion);
 
-    table("PersonalYearText", readings::personalYear);
-    fixed("PersonalYearAbout", readings::personalYearAbout);
-    table("PersonalMonthText", readings::personalMonth);
-    fixed("PersonalMonthAbout", readings::personalMonthAbout);
-    table("PersonalDayText", readings::personalDay);
-    fixed("PersonalDayAbout", readings::personalDayAbout);
-    table("LifePathPeriodsText", readings::lifePathPeriods);
+    topic("PersonalYear", readings::personalYear);
+    topic("PersonalMonth", readings::personalMonth);
+    topic("PersonalDay", readings::personalDay);
+    rows("LifePathPeriodsText", readings::lifePathPeriods.rows);
     fixed("PeriodStage1", readings::periodStage1);
     fixed("PeriodStage2", readings::periodStage2);
     fixed("PeriodStage3", readings::periodStage3);
-    fixed("LifePathPeriodsAbout", readings::lifePathPeriodsAbout);
-    table("PinnacleText", readings::pinnacle);
-    fixed("PinnacleAbout", readings::pinnacleAbout);
-    table("ChallengeText", readings::challenge);
-    fixed("ChallengeAbout", readings::challengeAbout);
-    table("EssenceText", readings::essence);
-    fixed("EssenceAbout", readings::essenceAbout);
+    fixed("LifePathPeriodsAbout", readings::lifePathPeriods.about);
+    topic("Pinnacle", readings::pinnacle);
+    topic("Challenge", readings::challenge);
+    topic("Essence", readings::essence);
 
-    table("KarmicDebtText", readings::karmicDebt);
-    fixed("KarmicDebtAbout", readings::karmicDebtAbout);
-    table("BalanceText", readings::balance);
-    fixed("BalanceAbout", readings::balanceAbout);
-    table("SubconsciousSelfText", readings::subconsciousSelf);
-    fixed("SubconsciousSelfAbout", readings::subconsciousSelfAbout);
-    table("RationalThoughtText", readings::rationalThought);
-    fixed("RationalThoughtAbout", readings::rationalThoughtAbout);
-    table("HPBridgeText", readings::hpBridge);
-    fixed("HPBridgeAbout", readings::hpBridgeAbout);
-    table("LEBridgeText", readings::leBridge);
-    fixed("LEBridgeAbout", readings::leBridgeAbout);
-    table("RealizationText", readings::realization);
+    topic("KarmicDebt", readings::karmicDebt);
+    topic("Balance", readings::balance);
+    topic("SubconsciousSelf", readings::subconsciousSelf);
+    topic("RationalThought", readings::rationalThought);
+    topic("HPBridge", readings::hpBridge);
+    topic("LEBridge", readings::leBridge);
+    rows("RealizationText", readings::realization.rows);
     fixed("RealizationText", readings::realizationRefusal);
-    fixed("RealizationAbout", readings::realizationAbout);
-    fixed("PlanesAbout", PlanesAboutText());
+    fixed("RealizationAbout", readings::realization.about);
+    fixed("PlanesAbout", readings::planesAbout);
     return book;
 }
 

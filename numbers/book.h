@@ -6,13 +6,12 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace modReadings {
 
 struct BookEntry {
-    std::string_view slot;       ///< the slot that shows the text
+    std::string slot;            ///< the slot that shows the text
     std::optional<int16> number; ///< the number that selects it; none for a fixed text
     std::u16string text;
 };

@@ -22,14 +22,14 @@ void Bridge(int16 minuend, int16 subtrahend, int16 &number, std::u16string &text
 // put the reading of the stale numbers there, on the first Proceed that of 0.
 void CalcHPBridge() {
     Bridge(store.SoulUrgeNumber, store.InnerDreamsNumber, store.HPBridgeNumber, store.HPBridgeText,
-           readings::hpBridge);
-    store.HPBridgeAbout = readings::hpBridgeAbout;
+           readings::hpBridge.rows);
+    store.HPBridgeAbout = readings::hpBridge.about;
 }
 
 void CalcLEBridge() {
     Bridge(store.DestinyNumber, store.LifePathNumber, store.LEBridgeNumber, store.LEBridgeText,
-           readings::leBridge);
-    store.LEBridgeAbout = readings::leBridgeAbout;
+           readings::leBridge.rows);
+    store.LEBridgeAbout = readings::leBridge.about;
 }
 
 } // namespace modReadings

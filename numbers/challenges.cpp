@@ -16,7 +16,7 @@ void AssignChallenge(std::u16string_view ordinal, int16 value, std::u16string &l
                      std::u16string &text) {
     if (value <= 8)
         label = std::u16string(ordinal) + u" Challenge Number is " + DecimalText(value);
-    SelectReading(text, value, readings::challenge);
+    SelectReading(text, value, readings::challenge.rows);
 }
 
 } // namespace
@@ -37,7 +37,7 @@ void CalcChallenges() {
     AssignChallenge(u"Second", second, store.ChallengeLabel2, store.ChallengeText2);
     AssignChallenge(u"Third", third, store.ChallengeLabel3, store.ChallengeText3);
     AssignChallenge(u"Fourth", fourth, store.ChallengeLabel4, store.ChallengeText4);
-    store.ChallengeAbout = readings::challengeAbout; // speaks of three challenges; four are made
+    store.ChallengeAbout = readings::challenge.about; // speaks of three challenges; four are made
 }
 
 } // namespace modReadings

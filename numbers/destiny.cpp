@@ -14,7 +14,7 @@ void CalcDestiny() {
     WalkLetters(profile.MiddleName, everyLetter);
     WalkLetters(profile.LastName, everyLetter);
     StoreNameTotal({store.DestinyNumber, store.DestinyRaw, store.DestinyText, store.DestinyAbout,
-                    readings::destiny, readings::destinyAbout});
+                    readings::destiny});
 }
 
 } // namespace modReadings

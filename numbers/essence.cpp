@@ -8,6 +8,8 @@
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
 
+#include <algorithm>
+
 namespace modReadings {
 
 namespace {
@@ -25,6 +27,10 @@ int16 LastNameChartValue(char16_t character) {
 /// The value of the letter in force at `age`: every letter lasts as many years as its
 /// value, and a name that is used up starts again. 0 for a negative age.
 ///
+/// A letter is still taken when the years equal the age, so at the end of its last year a
+/// letter gives way to the next one of the name. But the name does not start again for
+/// that: its last letter stays in force through the year in which it ends.
+///
 /// A name without a valued letter never ends at a positive age; there is no limit on
 /// the passes. A loop without side effects would be undefined there and could be
 /// optimized into anything, so the condition reads a volatile.
@@ -35,36 +41,48 @@ int16 LetterInForce(std::u16string_view untrimmed, int16 age, Chart chart) {
     int16 value = 0;
     do {
         for (const char16_t character : TrimBlanks(untrimmed)) {
-            if (years > age) // a letter is still taken when the years equal the age ...
+            if (years > age)
                 continue;
             if (const int16 lasts = chart(character); lasts != 0) {
                 years = Add(years, lasts);
                 value = lasts;
             }
         }
-    } while (unguarded && years < age); // ... but the name does not start again for it
+    } while (unguarded && years < age);
     return value;
 }
 
+/// Only the middle name is tested for being empty.
+bool HasMiddleName(const UserProfile &person) { return !TrimBlanks(person.MiddleName).empty(); }
+
 } // namespace
 
-bool LastsInFirstName(char16_t character) { return ChartValue(character) != 0; }
-
-bool LastsInLastName(char16_t character) { return LastNameChartValue(character) != 0; }
+std::optional<NamePart> EndlessName(const UserProfile &person, int16 age) {
+    const auto endless = [](const std::u16string &name, Chart chart) {
+        return std::ranges::none_of(name, [chart](char16_t c) { return chart(c) != 0; });
+    };
+    if (age <= 0)
+        return std::nullopt;
+    if (endless(person.FirstName, ChartValue))
+        return NamePart::First;
+    if (HasMiddleName(person) && endless(person.MiddleName, ChartValue))
+        return NamePart::Middle;
+    if (endless(person.LastName, LastNameChartValue))
+        return NamePart::Last;
+    return std::nullopt;
+}
 
 void CalcEssence() {
     const int16 age = Subtract(Clock::Year(), NumberFromText(TrimBlanks(profile.BirthYear)));
 
     const int16 first = LetterInForce(profile.FirstName, age, ChartValue);
-    // Only the middle name is tested for being empty.
-    int16 middle = 0;
-    if (!TrimBlanks(profile.MiddleName).empty())
-        middle = LetterInForce(profile.MiddleName, age, ChartValue);
+    const int16 middle =
+        HasMiddleName(profile) ? LetterInForce(profile.MiddleName, age, ChartValue) : int16{0};
     const int16 last = LetterInForce(profile.LastName, age, LastNameChartValue);
 
     store.EssenceNumber = ReduceNumber(Add(first, middle, last));
-    SelectReading(store.EssenceText, store.EssenceNumber, readings::essence);
-    store.EssenceAbout = readings::essenceAbout;
+    SelectReading(store.EssenceText, store.EssenceNumber, readings::essence.rows);
+    store.EssenceAbout = readings::essence.about;
 }
 
 } // namespace modReadings

@@ -1,16 +1,22 @@
 #pragma once
 
-// What the report tool has to know of the Essence before it starts: for which names the
-// walk of CalcEssence would never end.
+// The names with which CalcEssence never returns, for programs that have to know it
+// before they start the calculator.
 
-#include <string_view>
+#include "core/int16.h"
+#include "core/user_profile.h"
+
+#include <optional>
 
 namespace modReadings {
 
-/// Whether a character of a first or middle name lasts any years.
-bool LastsInFirstName(char16_t character);
+/// One of the three names of a person.
+enum class NamePart { First, Middle, Last };
 
-/// The same for a last name, where F lasts none.
-bool LastsInLastName(char16_t character);
+/// The first of the names of `person` that would keep CalcEssence walking for ever at
+/// `age`, in whole years: at a positive age a name without a single letter that counts.
+/// F does not count in a last name. An empty middle name is not walked and is never the
+/// answer. None where the calculator comes to its end.
+std::optional<NamePart> EndlessName(const UserProfile &person, int16 age);
 
 } // namespace modReadings

@@ -29,8 +29,8 @@ void CalcHiddenPassion() {
     // before, which then selects its reading again.
     if (const int16 value = ChartValue(best); value != 0)
         store.HiddenPassionNumber = value;
-    SelectReading(store.HiddenPassionText, store.HiddenPassionNumber, readings::hiddenPassion);
-    store.HiddenPassionAbout = readings::hiddenPassionAbout;
+    SelectReading(store.HiddenPassionText, store.HiddenPassionNumber, readings::hiddenPassion.rows);
+    store.HiddenPassionAbout = readings::hiddenPassion.about;
 }
 
 } // namespace modReadings

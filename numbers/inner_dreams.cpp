@@ -10,7 +10,7 @@ void CalcInnerDreams() {
     // Y counts 7 in every name, also where CalcSoulUrge takes it for a vowel.
     WalkLetters(WholeName(), [](char16_t letter) { return !IsVowel(letter); });
     StoreNameTotal({store.InnerDreamsNumber, store.InnerDreamsRaw, store.InnerDreamsText,
-                    store.InnerDreamsAbout, readings::innerDreams, readings::innerDreamsAbout});
+                    store.InnerDreamsAbout, readings::innerDreams});
 }
 
 } // namespace modReadings

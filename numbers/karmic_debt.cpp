@@ -55,8 +55,8 @@ void CalcKarmicDebt() {
 
     store.KarmicDebtNumber = debt;
     // The reading replaces all that was built above: no user ever sees those messages.
-    SelectReading(store.KarmicDebtText, debt, readings::karmicDebt);
-    store.KarmicDebtAbout = readings::karmicDebtAbout;
+    SelectReading(store.KarmicDebtText, debt, readings::karmicDebt.rows);
+    store.KarmicDebtAbout = readings::karmicDebt.about;
 }
 
 } // namespace modReadings

@@ -25,10 +25,10 @@ void CalcKarmicLessons() {
         // heading as it stands.
         store.KarmicLessonsNumber += u' ' + digit;
         std::u16string lesson;
-        SelectReading(lesson, value, readings::karmicLessons);
+        SelectReading(lesson, value, readings::karmicLessons.rows);
         store.KarmicLessonsText += u"\r\n" + digit + u"\r\n" + lesson;
     }
-    store.KarmicLessonsAbout = readings::karmicLessonsAbout;
+    store.KarmicLessonsAbout = readings::karmicLessons.about;
 }
 
 } // namespace modReadings

@@ -17,16 +17,16 @@ void CalcLifePath() {
     const int16 year = Fold(DigitSum(profile.BirthYear));
 
     int16 number = Add(day, month, year);
-    if (number != 11 && number != 22) {
+    if (!IsMaster(number)) {
         number = DigitSum(number);
-        if (number != 11 && number != 22)
+        if (!IsMaster(number))
             number = Fold(number);
     }
 
     store.LifePathNumber = number;
     store.LifePathDaySum = daySum; // of the day alone, not of the date
-    SelectReading(store.LifePathText, number, readings::lifePath);
-    store.LifePathAbout = readings::lifePathAbout;
+    SelectReading(store.LifePathText, number, readings::lifePath.rows);
+    store.LifePathAbout = readings::lifePath.about;
 }
 
 } // namespace modReadings

@@ -120,9 +120,9 @@ void CalcLifePathPeriods() {
         AssignLine(store.PeriodLine1, row->lines[0], store.PeriodNumber1);
         AssignLine(store.PeriodLine2, row->lines[1], store.PeriodNumber2);
         AssignLine(store.PeriodLine3, row->lines[2], store.PeriodNumber3);
-        SelectReading(store.LifePathPeriodsText, store.PeriodRoot, readings::lifePathPeriods);
+        SelectReading(store.LifePathPeriodsText, store.PeriodRoot, readings::lifePathPeriods.rows);
     }
-    store.LifePathPeriodsAbout = readings::lifePathPeriodsAbout;
+    store.LifePathPeriodsAbout = readings::lifePathPeriods.about;
 }
 
 } // namespace modReadings

@@ -22,8 +22,8 @@ void WalkLetters(std::u16string_view text, LetterFilter admits) {
 void StoreNameTotal(const NameTotalEntry &entry) {
     entry.raw = store.ScratchSum;
     entry.number = ReduceKeepMaster(store.ScratchSum);
-    SelectReading(entry.text, entry.number, entry.table);
-    entry.about = entry.aboutText;
+    SelectReading(entry.text, entry.number, entry.prose.rows);
+    entry.about = entry.prose.about;
 }
 
 } // namespace modReadings

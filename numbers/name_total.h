@@ -26,14 +26,13 @@ constexpr bool IsVowel(char16_t letter) {
 /// total or a length beyond int16, in the latter case before the first character.
 void WalkLetters(std::u16string_view text, LetterFilter admits);
 
-/// The slots of one of the three topics, and its texts.
+/// The slots of one of the three topics, and its prose.
 struct NameTotalEntry {
     int16 &number;
     int16 &raw;
     std::u16string &text;
     std::u16string &about;
-    ReadingTable table;
-    std::u16string_view aboutText;
+    const Prose &prose;
 };
 
 /// Takes ScratchSum as the finished total: writes raw value, number, reading and About.

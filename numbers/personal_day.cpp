@@ -19,8 +19,8 @@ void CalcPersonalDay() {
     const int16 year = ReduceDigitString(store.CurrentYearText);
 
     store.PersonalDayNumber = ReduceNumber(Add(birthDay, birthMonth, day, month, year));
-    SelectReading(store.PersonalDayText, store.PersonalDayNumber, readings::personalDay);
-    store.PersonalDayAbout = readings::personalDayAbout;
+    SelectReading(store.PersonalDayText, store.PersonalDayNumber, readings::personalDay.rows);
+    store.PersonalDayAbout = readings::personalDay.about;
 }
 
 } // namespace modReadings

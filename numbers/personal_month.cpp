@@ -16,8 +16,8 @@ void CalcPersonalMonth() {
     const int16 year = ReduceDigitString(store.CurrentYearText);
 
     store.PersonalMonthNumber = ReduceNumber(Add(birthDay, birthMonth, month, year));
-    SelectReading(store.PersonalMonthText, store.PersonalMonthNumber, readings::personalMonth);
-    store.PersonalMonthAbout = readings::personalMonthAbout;
+    SelectReading(store.PersonalMonthText, store.PersonalMonthNumber, readings::personalMonth.rows);
+    store.PersonalMonthAbout = readings::personalMonth.about;
 }
 
 } // namespace modReadings

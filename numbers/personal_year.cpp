@@ -25,8 +25,8 @@ void CalcPersonalYear() {
     store.PersonalYearNumber = DecimalText(ReduceDigitString(store.PersonalYearNumber));
 
     SelectReading(store.PersonalYearText, NumberFromText(store.PersonalYearNumber),
-                  readings::personalYear);
-    store.PersonalYearAbout = readings::personalYearAbout;
+                  readings::personalYear.rows);
+    store.PersonalYearAbout = readings::personalYear.about;
 }
 
 } // namespace modReadings

@@ -65,7 +65,7 @@ void AssignPinnacle(std::size_t position, int16 value, std::u16string &label,
     const auto row = std::ranges::find(lineTable, value, &PinnacleLines::value);
     if (row != std::end(lineTable))
         label = std::u16string(row->lines[position]) + DecimalText(value);
-    SelectReading(text, value, readings::pinnacle);
+    SelectReading(text, value, readings::pinnacle.rows);
 }
 
 } // namespace
@@ -86,7 +86,7 @@ void CalcPinnacles() {
     AssignPinnacle(1, store.PinnacleNumber2, store.PinnacleLabel2, store.PinnacleText2);
     AssignPinnacle(2, store.PinnacleNumber3, store.PinnacleLabel3, store.PinnacleText3);
     AssignPinnacle(3, store.PinnacleNumber4, store.PinnacleLabel4, store.PinnacleText4);
-    store.PinnacleAbout = readings::pinnacleAbout;
+    store.PinnacleAbout = readings::pinnacle.about;
 }
 
 } // namespace modReadings

@@ -55,16 +55,6 @@ std::u16string Line(const std::u16string &label, int16 percent, const std::u16st
 
 } // namespace
 
-std::u16string PlanesAboutText() {
-    std::u16string text;
-    for (const readings::AboutPart &part : readings::planesAboutParts) {
-        text += part.text;
-        for (int written = 0; written < part.breaks; ++written)
-            text += u"\r\n";
-    }
-    return text;
-}
-
 // No slot is cleared first: a tie leaves the plane of the person before, and the
 // physical rating can be left likewise.
 void CalcPlanes() {
@@ -102,7 +92,7 @@ void CalcPlanes() {
                        Line(store.PhysicalLabel, physical, store.PhysicalRating) + u" \r\n" +
                        Line(store.EmotionalLabel, emotional, store.EmotionalRating) + u" \r\n" +
                        Line(store.IntuitiveLabel, intuitive, store.IntuitiveRating);
-    store.PlanesAbout = PlanesAboutText();
+    store.PlanesAbout = readings::planesAbout;
 }
 
 } // namespace modReadings

@@ -14,10 +14,10 @@ void CalcRationalThought() {
 
     // Unlike in other topics a number without a row empties the text.
     std::u16string text;
-    SelectReading(text, number, readings::rationalThought);
+    SelectReading(text, number, readings::rationalThought.rows);
     store.RationalThoughtNumber = number;
     store.RationalThoughtText = text;
-    store.RationalThoughtAbout = readings::rationalThoughtAbout;
+    store.RationalThoughtAbout = readings::rationalThought.about;
 }
 
 } // namespace modReadings

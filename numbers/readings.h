@@ -20,6 +20,12 @@ struct Reading {
 
 using ReadingTable = std::span<const Reading>;
 
+/// The texts of one topic.
+struct Prose {
+    ReadingTable rows;
+    std::u16string_view about;
+};
+
 /// Replaces `slot` by the reading of `number`. Without a row for the number the slot
 /// keeps what it holds: there is no default reading.
 inline void SelectReading(std::u16string &slot, int16 number, ReadingTable table) {
@@ -33,63 +39,20 @@ inline void SelectReading(std::u16string &slot, int16 number, ReadingTable table
 
 namespace readings {
 
-extern const ReadingTable lifePath;
-extern const std::u16string_view lifePathAbout;
-extern const ReadingTable destiny;
-extern const std::u16string_view destinyAbout;
-extern const ReadingTable soulUrge;
-extern const std::u16string_view soulUrgeAbout;
-extern const ReadingTable innerDreams;
-extern const std::u16string_view innerDreamsAbout;
-extern const ReadingTable birthday;
-extern const std::u16string_view birthdayAbout;
-extern const ReadingTable karmicLessons;
-extern const std::u16string_view karmicLessonsAbout;
-extern const ReadingTable hiddenPassion;
-extern const std::u16string_view hiddenPassionAbout;
+extern const Prose lifePath, destiny, soulUrge, innerDreams, birthday, karmicLessons, hiddenPassion;
 
-extern const ReadingTable personalYear;
-extern const std::u16string_view personalYearAbout;
-extern const ReadingTable personalMonth;
-extern const std::u16string_view personalMonthAbout;
-extern const ReadingTable personalDay;
-extern const std::u16string_view personalDayAbout;
-extern const ReadingTable lifePathPeriods;
-extern const std::u16string_view lifePathPeriodsAbout;
+extern const Prose personalYear, personalMonth, personalDay, essence;
+extern const Prose lifePathPeriods;
 extern const std::u16string_view periodStage1, periodStage2, periodStage3;
-extern const ReadingTable pinnacle; ///< shared by the four pinnacles
-extern const std::u16string_view pinnacleAbout;
-extern const ReadingTable challenge; ///< shared by the four challenges
-extern const std::u16string_view challengeAbout;
-extern const ReadingTable essence;
-extern const std::u16string_view essenceAbout;
+extern const Prose pinnacle;  ///< shared by the four pinnacles
+extern const Prose challenge; ///< shared by the four challenges
 
-extern const ReadingTable karmicDebt;
-extern const std::u16string_view karmicDebtAbout;
-extern const ReadingTable balance;
-extern const std::u16string_view balanceAbout;
-extern const ReadingTable subconsciousSelf;
-extern const std::u16string_view subconsciousSelfAbout;
-extern const ReadingTable rationalThought;
-extern const std::u16string_view rationalThoughtAbout;
-extern const ReadingTable hpBridge;
-extern const std::u16string_view hpBridgeAbout;
-extern const ReadingTable leBridge;
-extern const std::u16string_view leBridgeAbout;
-extern const ReadingTable realization;
-extern const std::u16string_view realizationAbout;
+extern const Prose karmicDebt, balance, subconsciousSelf, rationalThought;
+extern const Prose hpBridge, leBridge;
+extern const Prose realization;
 extern const std::u16string_view realizationRefusal; ///< shown while Life Path or Destiny is 0
-
-/// One part of PlanesAbout and how many line breaks stand behind it.
-struct AboutPart {
-    std::u16string_view text;
-    int breaks;
-};
-extern const std::span<const AboutPart> planesAboutParts;
+extern const std::u16string_view planesAbout;        ///< the planes have no readings of their own
 
 } // namespace readings
-
-/// PlanesAbout, put together from its parts.
-std::u16string PlanesAboutText();
 
 } // namespace modReadings

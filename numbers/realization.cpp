@@ -7,11 +7,12 @@ namespace modReadings {
 
 namespace {
 
-/// Digit sum, a stop at 11 and 22, else one fold. The stop looks at the digit sum and
-/// not at the sum itself, and stays so: 11 + 11 = 22 gives 4, 22 + 7 = 29 gives 11.
-int16 ReduceMaturitySum(std::u16string_view text) {
-    const int16 sum = DigitSum(text);
-    return sum == 11 || sum == 22 ? sum : Fold(sum);
+/// The digit sum of `total`, which stays if it is 11 or 22 and is folded once otherwise.
+/// `total` itself may be 11 or 22 and is summed all the same, on purpose: 11 + 11 = 22
+/// gives 4, 22 + 7 = 29 gives 11.
+int16 ReduceMaturitySum(int16 total) {
+    const int16 sum = DigitSum(total);
+    return IsMaster(sum) ? sum : Fold(sum);
 }
 
 } // namespace
@@ -23,10 +24,9 @@ void CalcRealization() {
         store.RealizationText = readings::realizationRefusal;
         return;
     }
-    store.RealizationNumber =
-        ReduceMaturitySum(DecimalText(Add(store.LifePathNumber, store.DestinyNumber)));
-    SelectReading(store.RealizationText, store.RealizationNumber, readings::realization);
-    store.RealizationAbout = readings::realizationAbout;
+    store.RealizationNumber = ReduceMaturitySum(Add(store.LifePathNumber, store.DestinyNumber));
+    SelectReading(store.RealizationText, store.RealizationNumber, readings::realization.rows);
+    store.RealizationAbout = readings::realization.about;
 }
 
 } // namespace modReadings

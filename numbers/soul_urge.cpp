@@ -18,7 +18,7 @@ void CalcSoulUrge() {
         WalkLetters(name, [](char16_t letter) { return letter == u'Y'; });
     }
     StoreNameTotal({store.SoulUrgeNumber, store.SoulUrgeRaw, store.SoulUrgeText,
-                    store.SoulUrgeAbout, readings::soulUrge, readings::soulUrgeAbout});
+                    store.SoulUrgeAbout, readings::soulUrge});
 }
 
 } // namespace modReadings

@@ -22,8 +22,8 @@ void CalcSubconsciousSelf() {
     }
 
     store.SubconsciousSelfNumber = count; // also where the reading refuses it
-    SelectReading(store.SubconsciousSelfText, count, readings::subconsciousSelf);
-    store.SubconsciousSelfAbout = readings::subconsciousSelfAbout;
+    SelectReading(store.SubconsciousSelfText, count, readings::subconsciousSelf.rows);
+    store.SubconsciousSelfAbout = readings::subconsciousSelf.about;
     store.MissingDigitsScratch.clear();
 }
 

@@ -1,7 +1,6 @@
 #include "report/person.h"
 
 #include "core/text.h"
-#include "core/user_profile.h"
 
 namespace modReadings {
 
@@ -19,13 +18,13 @@ std::u16string UpperCase(const std::u16string &text) {
 
 } // namespace
 
-void CaptureProfile(const Person &person) {
-    profile.FirstName = UpperCase(Trimmed(person.firstName));
-    profile.MiddleName = UpperCase(Trimmed(person.middleName));
-    profile.LastName = UpperCase(Trimmed(person.lastName));
-    profile.BirthMonth = Trimmed(person.birthMonth);
-    profile.BirthDay = Trimmed(person.birthDay);
-    profile.BirthYear = Trimmed(person.birthYear);
+UserProfile Captured(const Person &person) {
+    return {UpperCase(Trimmed(person.firstName)),
+            UpperCase(Trimmed(person.middleName)),
+            UpperCase(Trimmed(person.lastName)),
+            Trimmed(person.birthMonth),
+            Trimmed(person.birthDay),
+            Trimmed(person.birthYear)};
 }
 
 } // namespace modReadings

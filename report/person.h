@@ -1,7 +1,9 @@
 #pragma once
 
-// One person's inputs as typed and picked, on their way into the profile. The window and
-// the report tool capture through here, so both read the same person the same way.
+// One person's inputs as typed and picked, and their capture. The window and the report
+// tool capture through here, so both read the same person the same way.
+
+#include "core/user_profile.h"
 
 #include <QString>
 
@@ -16,8 +18,8 @@ struct Person {
     QString birthYear;
 };
 
-/// Writes the profile: blanks (U+0020) trimmed at both ends, the names upper-cased by
+/// The profile of `person`: blanks (U+0020) trimmed at both ends, the names upper-cased by
 /// Unicode's rules whatever the locale, the dates as they stand.
-void CaptureProfile(const Person &person);
+UserProfile Captured(const Person &person);
 
 } // namespace modReadings

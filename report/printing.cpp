@@ -9,13 +9,15 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 void PrintDocument(const QTextDocument &document) {
     const QPrinterInfo defaultPrinter = QPrinterInfo::defaultPrinter();
     if (defaultPrinter.isNull())
         return;
 
     QPrinter printer(defaultPrinter, QPrinter::HighResolution);
-    printer.setDocName(QStringLiteral("Orravane"));
+    printer.setDocName(u"Orravane"_s);
     printer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
 
     // The pane measures in pixels of 96 to the inch.

@@ -8,40 +8,42 @@ namespace modReadings {
 
 namespace {
 
-/// Writes heading and blocks at the caret; the last block gets at least `closingBreaks`.
-void WriteTopic(RichTextPane &pane, const Topic &topic, int closingBreaks) {
+/// Appends heading and blocks; the last block gets at least `closingBreaks`.
+void AppendTopic(Report &report, const Topic &topic, int closingBreaks) {
     // Only the Birthday heading can fail, while BirthDay is no number: then the whole
-    // heading is missing and the rest follows in its colour without it.
-    pane.SetColor(TopicInk);
-    Attempt([&] { BoldHeading(pane, std::u16string(topic.heading) + HeadingNumberText(topic)); });
+    // heading is missing and the rest follows without it.
+    Attempt([&] { BoldHeading(report, std::u16string(topic.heading) + HeadingNumberText(topic)); });
 
     const auto blocks = topic.Blocks();
     for (const Block &block : blocks) {
         const int breaks =
             &block == &blocks.back() ? std::max(block.breaks, closingBreaks) : block.breaks;
-        AppendBlock(pane, block.before, store.*block.slot, breaks);
+        AppendBlock(report, block.before, store.*block.slot, breaks);
     }
 }
 
 } // namespace
 
-void RenderTopic(RichTextPane &pane, const Topic &topic) {
-    pane.SetText(u"");
-    WriteTopic(pane, topic, 0);
+Report RenderTopic(const Topic &topic) {
+    Report report;
+    report.reserve(1 + topic.Blocks().size());
+    AppendTopic(report, topic, 0);
+    return report;
 }
 
-void RunAndRenderTopic(RichTextPane &pane, const Topic &topic) {
+Report RunAndRenderTopic(const Topic &topic) {
     Attempt(topic.calculate);
-    RenderTopic(pane, topic);
+    return RenderTopic(topic);
 }
 
-void RenderComprehensiveReading(RichTextPane &pane) {
-    pane.SetText(u"");
-    BoldHeading(pane, u"Orravane Comprehensive Reading");
+Report RenderComprehensiveReading() {
+    Report report;
+    BoldHeading(report, u"Orravane Comprehensive Reading");
     for (const Calculator calculate : passOrder) {
         Attempt(calculate);
-        WriteTopic(pane, TopicOf(calculate), 2);
+        AppendTopic(report, TopicOf(calculate), 2);
     }
+    return report;
 }
 
 } // namespace modReadings

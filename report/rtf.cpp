@@ -1,27 +1,8 @@
 #include "report/rtf.h"
 
-#include <algorithm>
-#include <vector>
-
 namespace modReadings {
 
 namespace {
-
-/// TopicInk first, then every other colour of the runs. Entry 1 of the file's table is
-/// index 0 here; entry 0 is the automatic colour.
-std::vector<Ink> ColorsOf(std::span<const Run> runs) {
-    std::vector<Ink> colors{TopicInk};
-    for (const Run &run : runs)
-        if (run.ink != Ink{} && std::ranges::find(colors, run.ink) == colors.end())
-            colors.push_back(run.ink);
-    return colors;
-}
-
-std::size_t ColorIndex(const std::vector<Ink> &colors, Ink ink) {
-    if (ink == Ink{})
-        return 0;
-    return static_cast<std::size_t>(std::ranges::find(colors, ink) - colors.begin()) + 1;
-}
 
 void AppendHex(std::string &rtf, unsigned value) {
     constexpr char digits[] = "0123456789abcdef";
@@ -51,17 +32,19 @@ void AppendCharacter(std::string &rtf, char16_t unit) {
     }
 }
 
-void AppendText(std::string &rtf, std::u16string_view text) {
+/// One run. `before` is the last character of the run before it.
+void AppendText(std::string &rtf, std::u16string_view text, char16_t before) {
     for (std::size_t index = 0; index < text.size(); ++index) {
         const char16_t unit = text[index];
-        if (unit == u'\r' && index + 1 < text.size() && text[index + 1] == u'\n')
+        if (unit == u'\r' && text.substr(index + 1).starts_with(u'\n'))
             continue; // the line feed behind it ends the paragraph
         if (unit == u'\r' || unit == u'\n')
             rtf += "\\par\r\n";
-        else if (unit == u' ' && index > 0 && text[index - 1] == u' ')
+        else if (unit == u' ' && before == u' ')
             rtf += "\\'20"; // readers make one of blanks that stand together
         else
             AppendCharacter(rtf, unit);
+        before = unit;
     }
 }
 
@@ -74,35 +57,23 @@ void AppendFontName(std::string &rtf, const std::string &family) {
 
 } // namespace
 
-std::string ToRtf(std::span<const Run> runs, const RtfFont &font) {
-    const std::vector<Ink> colors = ColorsOf(runs);
-
+std::string ToRtf(const Report &report, const RtfFont &font) {
     std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss\\fcharset0 ";
     AppendFontName(rtf, font.family);
-    rtf += ";}}\r\n{\\colortbl ;";
-    for (const Ink &ink : colors)
-        rtf += "\\red" + std::to_string(ink.red) + "\\green" + std::to_string(ink.green) +
-               "\\blue" + std::to_string(ink.blue) + ';';
-    rtf += "}\r\n\\viewkind4\\uc1\\pard\\f0\\fs" + std::to_string(font.halfPoints);
+    rtf += ";}}\r\n{\\colortbl ;\\red" + std::to_string(TopicInk.red) + "\\green" +
+           std::to_string(TopicInk.green) + "\\blue" + std::to_string(TopicInk.blue) +
+           ";}\r\n\\viewkind4\\uc1\\pard\\cf1\\f0\\fs" + std::to_string(font.halfPoints) + ' ';
 
     bool bold = false;
-    std::size_t color = 0;
-    bool afterControlWord = true;
-    for (const Run &run : runs) {
+    char16_t before = 0;
+    for (const Run &run : report) {
         if (run.bold != bold) {
-            rtf += run.bold ? "\\b" : "\\b0";
+            rtf += run.bold ? "\\b " : "\\b0 "; // the blank ends the control word
             bold = run.bold;
-            afterControlWord = true;
         }
-        if (const std::size_t index = ColorIndex(colors, run.ink); index != color) {
-            rtf += "\\cf" + std::to_string(index);
-            color = index;
-            afterControlWord = true;
-        }
-        if (afterControlWord)
-            rtf += ' '; // ends the control word; a blank anywhere else would be text
-        AppendText(rtf, run.text);
-        afterControlWord = false;
+        AppendText(rtf, run.text, before);
+        if (!run.text.empty())
+            before = run.text.back();
     }
     rtf += "\\par\r\n}\r\n";
     return rtf;

@@ -1,11 +1,10 @@
 #pragma once
 
-// Rich Text Format, as small as the reports need it: one font, the colours in use, bold,
+// Rich Text Format, as small as the reports need it: one font, one colour, bold,
 // paragraphs, and any Unicode character escaped for readers old and new.
 
-#include "report/run_list.h"
+#include "report/report.h"
 
-#include <span>
 #include <string>
 
 namespace modReadings {
@@ -16,9 +15,8 @@ struct RtfFont {
     int halfPoints = 18; ///< size in half points, as the format counts it
 };
 
-/// `runs` as an RTF document in plain ASCII. Line breaks ("\r\n", "\n" or "\r") end
+/// `report` as an RTF document in plain ASCII. Line breaks ("\r\n", "\n" or "\r") end
 /// paragraphs; every paragraph, the last and empty ones too, is written with its end mark.
-/// A run in the default black keeps the reader's automatic colour.
-std::string ToRtf(std::span<const Run> runs, const RtfFont &font = {});
+std::string ToRtf(const Report &report, const RtfFont &font = {});
 
 } // namespace modReadings

@@ -1,8 +1,6 @@
 #include "report/topic_tree.h"
 
 #include "core/text.h"
-#include "report/rendering.h"
-#include "report/topics.h"
 
 namespace modReadings {
 
@@ -36,30 +34,18 @@ const std::array<TreeNode, treeNodeCount> &TreeNodes() {
     return nodes;
 }
 
-void DispatchClick(std::u16string_view caption, ReportWindow &window) {
-    if (caption == captions::reset) {
-        window.ShowInputPage();
-        window.ResetInputs();
-        return;
-    }
-    if (caption == captions::userInformation || caption == captions::enterTheInformation) {
-        window.ShowInputPage();
-        return;
-    }
-    if (caption == captions::help) {
-        window.ShowHelpPage();
-        return;
-    }
-
-    if (!window.ValidateInputs())
-        return;
+Click MeaningOfClick(std::u16string_view caption) {
+    if (caption == captions::reset)
+        return {ClickAction::Reset, false};
+    if (caption == captions::userInformation || caption == captions::enterTheInformation)
+        return {ClickAction::InputPage, false};
+    if (caption == captions::help)
+        return {ClickAction::Help, false};
     if (const Topic *topic = FindTopic(caption))
-        window.WriteReport([topic](RichTextPane &pane) { RunAndRenderTopic(pane, *topic); });
-    else if (caption == captions::comprehensiveReading)
-        window.WriteReport(RenderComprehensiveReading);
-    else
-        return; // the root "Numerology" alone
-    window.ShowReportPage();
+        return {ClickAction::Topic, true, topic};
+    if (caption == captions::comprehensiveReading)
+        return {ClickAction::ComprehensiveReading};
+    return {};
 }
 
 } // namespace modReadings

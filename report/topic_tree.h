@@ -1,13 +1,12 @@
 #pragma once
 
-// The table of contents of the window: its nodes, and what a click on one does. The
+// The table of contents of the window: its nodes, and what a click on one means. The
 // caption is the only key of the dispatch; node keys serve to hang children on parents.
 
 #include "core/proceed_pass.h"
-#include "report/rich_text.h"
+#include "report/topics.h"
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -39,26 +38,25 @@ enum class NodePosition : std::size_t { UserInfo = 1, U1 = 2, U2 = 3, Numerology
 /// The nodes in the order of their creation, parents before children.
 const std::array<TreeNode, treeNodeCount> &TreeNodes();
 
-/// What the dispatch needs of the window.
-class ReportWindow {
-public:
-    virtual ~ReportWindow() = default;
-
-    virtual void ShowInputPage() = 0;
-    virtual void ShowReportPage() = 0;
-    virtual void ShowHelpPage() = 0;
-    /// Empties the names, sets the lists to their first entries, focus into the first box.
-    virtual void ResetInputs() = 0;
-    /// False when a required input is missing; the message has then been shown.
-    virtual bool ValidateInputs() = 0;
-    /// Runs `write` on the report pane as one step for the eye.
-    virtual void WriteReport(const std::function<void(RichTextPane &)> &write) = 0;
+/// What a click on a node asks of the window.
+enum class ClickAction {
+    InputPage, ///< shows the input page
+    Reset,     ///< shows the input page and empties it
+    Help,      ///< shows the help page
+    Topic,     ///< runs the topic's calculator, writes its reading, shows the report page
+    ComprehensiveReading, ///< the same for the whole report
+    Nothing               ///< nothing behind the validation
 };
 
-/// Does what a click on the node with this caption does: turns a page, resets the input
-/// page, or validates, runs a topic's calculator again, writes its reading and shows the
-/// report page. The run on every click is load-bearing (core/proceed_pass.h). A caption
-/// that is no branch of the chain validates and does nothing.
-void DispatchClick(std::u16string_view caption, ReportWindow &window);
+struct Click {
+    ClickAction action = ClickAction::Nothing;
+    bool validates = true;        ///< ends, with a message, while a required input is missing
+    const Topic *topic = nullptr; ///< for ClickAction::Topic
+};
+
+/// What a click on the node with this caption means. A topic's calculator runs again on
+/// every click, and has to (core/proceed_pass.h). A caption that no test of the chain
+/// knows, such as that of the root "Numerology", validates and does nothing.
+Click MeaningOfClick(std::u16string_view caption);
 
 } // namespace modReadings

@@ -41,9 +41,9 @@ struct Topic {
     std::u16string_view heading;
     HeadingNumber number;
     Calculator calculate;
-    std::array<Block, 9> blockStorage;
+    std::array<Block, 9> blockStorage; ///< as many as the longest topic has, the rest empty
 
-    /// The blocks in use.
+    /// The blocks of this topic.
     constexpr std::span<const Block> Blocks() const {
         std::size_t count = 0;
         while (count < blockStorage.size() && blockStorage[count].slot != nullptr)

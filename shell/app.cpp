@@ -1,23 +1,26 @@
 #include "shell/app.h"
 
+#include "shell/image_list.h"
 #include "version.h"
 
-#include "shell/image_list.h"
 #include <QApplication>
-
 #include <QIcon>
+
+using namespace Qt::StringLiterals;
 
 /// A static library's resources have to be asked for. Must stand outside any namespace.
 static void InitArtwork() { Q_INIT_RESOURCE(orravane); }
 
+QString App::Title() { return u"Orravane"_s; }
+
 void App::Identify() {
     InitArtwork();
-    QApplication::setApplicationName(QStringLiteral("orravane"));
-    QApplication::setOrganizationName(QStringLiteral("orravane"));
+    QApplication::setApplicationName(u"orravane"_s);
+    QApplication::setOrganizationName(u"orravane"_s);
     QApplication::setApplicationVersion(QLatin1StringView(orravaneVersion));
-    QApplication::setDesktopFileName(QStringLiteral("orravane"));
+    QApplication::setDesktopFileName(u"orravane"_s);
     QIcon icon; // drawn here: the toolkit would load a plugin for it and draw more sizes
     for (const int size : {16, 32, 64})
-        icon.addPixmap(RenderArtwork(QStringLiteral("orravane"), {size, size}, 1));
+        icon.addPixmap(RenderArtwork(u"orravane"_s, {size, size}, 1));
     QApplication::setWindowIcon(icon);
 }

@@ -7,7 +7,7 @@
 namespace App {
 
 /// The title of its messages and of the save dialog.
-inline QString Title() { return QStringLiteral("Orravane"); }
+QString Title();
 
 /// Sets name, version and organization, which also say where its settings lie. To be
 /// called once, before the window is made.

@@ -20,18 +20,20 @@
 #include <QPushButton>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 // The window as it is built: controls, places, menus, and who calls whom.
 
 frmMain::frmMain() {
-    setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(QStringLiteral("Orravane v1.0"));
+    setObjectName(u"frmMain"_s);
+    setWindowTitle(u"Orravane v1.0"_s);
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                    Qt::MSWindowsFixedSizeDialogHint);
     setFont(WindowFont());
 
     auto *clientArea = new QWidget(this);
-    clientArea->setFixedSize(PlaceOf("picMain").size());
+    clientArea->setFixedSize(At("picMain").place.size());
     setCentralWidget(clientArea);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 
@@ -49,37 +51,36 @@ void frmMain::BuildPages() {
         button->setFocusPolicy(Qt::NoFocus); // out of sight: reached by its mnemonic alone
         return button;
     };
-    cmdSave = Placed(commandButton(tr("&Save")), "cmdSave", PlaceOf("cmdSave"));
-    cmdPrint = Placed(commandButton(tr("&Print")), "cmdPrint", PlaceOf("cmdPrint"));
-    cmdNext = Placed(commandButton(tr("&Proceed")), "cmdNext", PlaceOf("cmdNext"));
+    cmdSave = Placed(commandButton(tr("&Save")), At("cmdSave"));
+    cmdPrint = Placed(commandButton(tr("&Print")), At("cmdPrint"));
+    cmdNext = Placed(commandButton(tr("&Proceed")), At("cmdNext"));
 
-    picMain = Placed(new MainPage(centralWidget()), "picMain", PlaceOf("picMain"));
+    picMain = Placed(new MainPage(centralWidget()), At("picMain"));
 
-    picExit = Placed(new ImageButton(1, 2, tr("Exit"), picMain), "picExit", PlaceOf("picExit"));
+    picExit = Placed(new ImageButton(1, tr("Exit"), picMain), At("picExit"));
     picExit->setToolTip(tr("Exit"));
-    picHelp = Placed(new ImageButton(3, 4, tr("Help"), picMain), "picHelp", PlaceOf("picHelp"));
+    picHelp = Placed(new ImageButton(3, tr("Help"), picMain), At("picHelp"));
     picHelp->setToolTip(tr("Help"));
-    TV = Placed(new TopicTreeView(picMain), "TV", PlaceOf("TV"));
-    lblHyperlink =
-        Placed(new LinkLabel(QString(), picMain), "lblHyperlink", PlaceOf("lblHyperlink"));
+    TV = Placed(new TopicTreeView(picMain), At("TV"));
+    lblHyperlink = Placed(new LinkLabel(QString(), picMain), At("lblHyperlink"));
     lblHyperlink->setToolTip(tr("Click To Go To %1").arg(SiteAddress()));
     lblHyperlink->setAccessibleName(SiteAddress());
 
     // Stacked exactly over each other, the input page on top.
-    Picture3 = Placed(new HelpPage(picMain), "Picture3", PlaceOf("Picture3"));
-    Picture2 = Placed(new ReportPage(picMain), "Picture2", PlaceOf("Picture2"));
-    Picture1 = Placed(new InputPage(picMain), "Picture1", PlaceOf("Picture1"));
+    Picture3 = Placed(new HelpPage(picMain), At("Picture3"));
+    Picture2 = Placed(new ReportPage(picMain), At("Picture2"));
+    Picture1 = Placed(new InputPage(picMain), At("Picture1"));
     picMain->setStyleSheet(PageStyle()); // once all that it speaks of is there
     BringToFront(Picture1);
 }
 
 void frmMain::BuildMenus() {
     QMenu *mnuFile = menuBar()->addMenu(tr("&File"));
-    mnuFile->setObjectName(QStringLiteral("mnuFile"));
+    mnuFile->setObjectName(u"mnuFile"_s);
     mnuExit = mnuFile->addAction(tr("E&xit"));
 
     QMenu *mnuHelp = menuBar()->addMenu(tr("&Help"));
-    mnuHelp->setObjectName(QStringLiteral("mnuHelp"));
+    mnuHelp->setObjectName(u"mnuHelp"_s);
     mnuOnline = mnuHelp->addAction(tr("&Online Help"));
     mnuVisit = mnuHelp->addAction(tr("&Visit Us Online"));
     mnuAbout = mnuHelp->addAction(tr("&About Software"));
@@ -90,38 +91,43 @@ void frmMain::BuildMenus() {
 }
 
 void frmMain::ConnectEvents() {
-    for (NameBox *box : {Picture1->txtFirstName, Picture1->txtMiddleName, Picture1->txtLastName})
-        connect(box, &NameBox::keyPress, this, &frmMain::txtName_KeyPress);
+    connect(Picture1->txtFirstName, &NameBox::keyPress, this, &frmMain::txtFirstName_KeyPress);
+    connect(Picture1->txtMiddleName, &NameBox::keyPress, this, &frmMain::txtMiddleName_KeyPress);
+    connect(Picture1->txtLastName, &NameBox::keyPress, this, &frmMain::txtLastName_KeyPress);
 
     connect(cmdNext, &QPushButton::clicked, this, &frmMain::cmdNext_Click);
     connect(cmdPrint, &QPushButton::clicked, this, &frmMain::cmdPrint_Click);
     connect(cmdSave, &QPushButton::clicked, this, &frmMain::cmdSave_Click);
-    connect(Picture1->picProceed, &ImageButton::clicked, this, &frmMain::cmdNext_Click);
-    connect(Picture2->picPrint, &ImageButton::clicked, this, &frmMain::cmdPrint_Click);
-    connect(Picture2->picSave, &ImageButton::clicked, this, &frmMain::cmdSave_Click);
+    connect(Picture1->picProceed, &ImageButton::clicked, this, &frmMain::picProceed_Click);
+    connect(Picture2->picPrint, &ImageButton::clicked, this, &frmMain::picPrint_Click);
+    connect(Picture2->picSave, &ImageButton::clicked, this, &frmMain::picSave_Click);
+    connect(picExit, &ImageButton::clicked, this, &frmMain::picExit_Click);
+    connect(picHelp, &ImageButton::clicked, this, &frmMain::picHelp_Click);
+
+    connect(picExit, &ImageButton::mouseMove, this, &frmMain::picExit_MouseMove);
+    connect(picHelp, &ImageButton::mouseMove, this, &frmMain::picHelp_MouseMove);
+    connect(Picture2->picPrint, &ImageButton::mouseMove, this, &frmMain::picPrint_MouseMove);
+    connect(Picture1->picProceed, &ImageButton::mouseMove, this, &frmMain::picProceed_MouseMove);
+    connect(Picture2->picSave, &ImageButton::mouseMove, this, &frmMain::picSave_MouseMove);
 
     connect(TV, &TopicTreeView::nodeClick, this, &frmMain::TV_NodeClick);
 
-    RichTextBox *RTB = Picture2->RTB;
-    connect(RTB, &RichTextBox::changed, this, &frmMain::RTB_Event);
-    connect(RTB, &RichTextBox::clicked, this, &frmMain::RTB_Event);
-    connect(RTB, &RichTextBox::mouseDown, this, &frmMain::RTB_Event);
-    connect(RTB, &RichTextBox::mouseMoved, this, &frmMain::RTB_Event);
-    connect(RTB, &RichTextBox::mouseUp, this, &frmMain::RTB_Event);
+    const RichTextBox *RTB = Picture2->RTB;
+    connect(RTB, &RichTextBox::changed, this, &frmMain::RTB_Change);
+    connect(RTB, &RichTextBox::clicked, this, &frmMain::RTB_Click);
+    connect(RTB, &RichTextBox::mouseDown, this, &frmMain::RTB_MouseDown);
+    connect(RTB, &RichTextBox::mouseMoved, this, &frmMain::RTB_MouseMove);
+    connect(RTB, &RichTextBox::mouseUp, this, &frmMain::RTB_MouseUp);
 
-    connect(picExit, &ImageButton::clicked, this, &frmMain::picExit_Click);
-    connect(picHelp, &ImageButton::clicked, this, OpenHelpPage);
-    connect(lblHyperlink, &LinkLabel::clicked, this, OpenHomePage);
-    connect(Picture3->lblHelp[0], &LinkLabel::clicked, this, OpenHelpPage);
-    connect(Picture3->lblHelp[1], &LinkLabel::clicked, this, OpenHomePage);
+    connect(lblHyperlink, &LinkLabel::clicked, this, &frmMain::lblHyperlink_Click);
+    for (int index = 0; index < 2; ++index)
+        connect(Picture3->lblHelp[index], &LinkLabel::clicked, this,
+                [this, index] { lblHelp_Click(index); });
 
-    connect(mnuExit, &QAction::triggered, this, &frmMain::close);
-    connect(mnuOnline, &QAction::triggered, this, OpenHelpPage);
-    connect(mnuVisit, &QAction::triggered, this, OpenHomePage);
-    connect(mnuAbout, &QAction::triggered, this, [this] {
-        picMain->raise();
-        BringToFront(Picture3);
-    });
+    connect(mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
+    connect(mnuOnline, &QAction::triggered, this, &frmMain::mnuOnline_Click);
+    connect(mnuVisit, &QAction::triggered, this, &frmMain::mnuVisit_Click);
+    connect(mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
 }
 
 void frmMain::OrderTabStops() {

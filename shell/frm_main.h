@@ -2,10 +2,10 @@
 
 // frmMain, the one window of the program, which lives for the whole run. Its pages lie
 // exactly over each other, and bringing one to the front is the only way to show it.
-// Event procedures are named control, underscore, event; the image buttons only call the
-// command buttons' procedures, so that both routes do the same.
+// Event procedures are named control, underscore, event, and ConnectEvents shows who calls
+// whom. Several only call another one: an image button does what its command button does.
 
-#include "report/topic_tree.h"
+#include "report/report.h"
 #include "shell/single_instance.h"
 
 #include <QMainWindow>
@@ -21,7 +21,7 @@ class QTreeWidgetItem;
 class ReportPage;
 class TopicTreeView;
 
-class frmMain : public QMainWindow, private modReadings::ReportWindow {
+class frmMain : public QMainWindow {
     Q_OBJECT
 
 public:
@@ -56,6 +56,8 @@ public:
     QWidget *FrontPage() const { return frontPage_; }
 
 public slots:
+    // The command buttons, which lie out of sight, and the image buttons that call them.
+
     /// The Proceed action: checks the inputs, captures the profile, runs the pass, opens
     /// the report on the Personal Month. Does nothing when the check fails.
     void cmdNext_Click();
@@ -64,16 +66,52 @@ public slots:
     void cmdPrint_Click();
     /// Saves the report as RTF under a name asked for. Silent on Cancel and on failure.
     void cmdSave_Click();
+    void picProceed_Click();
+    void picPrint_Click();
+    void picSave_Click();
+
+    /// Does what the node stands for: opens a page, resets the input page, or checks the
+    /// inputs, runs a topic's calculator again and shows its reading.
     void TV_NodeClick(QTreeWidgetItem *Node);
+
+    // The image buttons under the mouse; X and Y as in ImageButton::mouseMove.
+    void picExit_MouseMove(qreal X, qreal Y);
+    void picHelp_MouseMove(qreal X, qreal Y);
+    void picPrint_MouseMove(qreal X, qreal Y);
+    void picProceed_MouseMove(qreal X, qreal Y);
+    void picSave_MouseMove(qreal X, qreal Y);
+
+    // The name boxes: a to z become capitals, every other key passes as it is.
+    void txtFirstName_KeyPress(qint16 &KeyAscii);
+    void txtMiddleName_KeyPress(qint16 &KeyAscii);
+    void txtLastName_KeyPress(qint16 &KeyAscii);
+
+    /// Asks, and closes the window on Yes.
+    void picExit_Click();
+    /// Closes the window without a question.
+    void mnuExit_Click();
+    /// Shows the help page.
+    void mnuAbout_Click();
+
+    // What opens a page of the web site.
+    void picHelp_Click();
+    void mnuOnline_Click();
+    void mnuVisit_Click();
+    void lblHyperlink_Click();
+    /// Index 0 opens the online help, 1 the home page, any other nothing.
+    void lblHelp_Click(int Index);
+
+    // The report pane. Each of these empties the whole clipboard, whoever put something
+    // there. That is required.
+    void RTB_Change();
+    void RTB_Click();
+    void RTB_MouseDown();
+    void RTB_MouseMove();
+    void RTB_MouseUp();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
     bool focusNextPrevChild(bool next) override;
-
-private slots:
-    void txtName_KeyPress(qint16 &KeyAscii);
-    void picExit_Click();
-    void RTB_Event();
 
 private:
     void BuildMenus();
@@ -89,16 +127,12 @@ private:
     void BringToFront(QWidget *page);
     bool IsReachable(const QWidget *control) const;
 
-    /// One line about a missing input, with the stop icon; then the focus goes to it.
+    /// False when a required input is missing; the message has then been shown and the
+    /// focus is on that input.
+    bool ValidateInputs();
     bool RequireInput(const QString &text, const QString &message, QWidget *control);
-
-    // modReadings::ReportWindow
-    void ShowInputPage() override;
-    void ShowReportPage() override;
-    void ShowHelpPage() override;
-    void ResetInputs() override;
-    bool ValidateInputs() override;
-    void WriteReport(const std::function<void(modReadings::RichTextPane &)> &write) override;
+    void ResetInputs();
+    void ShowReport(modReadings::Report report);
 
     SingleInstance instance_;
     QWidget *frontPage_ = nullptr;

@@ -4,6 +4,8 @@
 #include "report/person.h"
 #include "report/printing.h"
 #include "report/rendering.h"
+#include "report/saving.h"
+#include "report/topic_tree.h"
 #include "shell/app.h"
 #include "shell/geometry.h"
 #include "shell/help_page.h"
@@ -14,7 +16,6 @@
 #include "shell/name_box.h"
 #include "shell/report_page.h"
 #include "shell/rich_text_box.h"
-#include "shell/save_report.h"
 #include "shell/topic_tree_view.h"
 #include "shell/update_reminder.h"
 
@@ -24,10 +25,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <cmath>
+#include <utility>
+
 // The event procedures of the window. Whatever fails in them is passed over: a calculator
 // that gives up (see core/runtime_failure.h), a page that does not open, a printer that
 // is not there. The user is told of none of it.
 
+using modReadings::ClickAction;
 using modReadings::NodePosition;
 
 namespace {
@@ -38,6 +43,14 @@ QMessageBox::StandardButton Ask(QWidget *parent, QMessageBox::Icon icon, const Q
                                 QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, App::Title(), text, buttons, parent);
     return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+void ClearClipboard() { QApplication::clipboard()->clear(); }
+
+/// The filter of the three name boxes.
+void TypeAsCapital(qint16 &KeyAscii) {
+    if (KeyAscii >= u'a' && KeyAscii <= u'z')
+        KeyAscii = static_cast<qint16>(KeyAscii - 32);
 }
 
 } // namespace
@@ -98,12 +111,13 @@ void frmMain::picExit_Click() {
         close();
 }
 
+void frmMain::mnuExit_Click() { close(); }
+
 // --- Input
 
-void frmMain::txtName_KeyPress(qint16 &KeyAscii) {
-    if (KeyAscii >= 97 && KeyAscii <= 122) // a to z
-        KeyAscii = static_cast<qint16>(KeyAscii - 32);
-}
+void frmMain::txtFirstName_KeyPress(qint16 &KeyAscii) { TypeAsCapital(KeyAscii); }
+void frmMain::txtMiddleName_KeyPress(qint16 &KeyAscii) { TypeAsCapital(KeyAscii); }
+void frmMain::txtLastName_KeyPress(qint16 &KeyAscii) { TypeAsCapital(KeyAscii); }
 
 bool frmMain::RequireInput(const QString &text, const QString &message, QWidget *control) {
     if (!text.isEmpty()) // not trimmed: blanks are an answer
@@ -138,10 +152,10 @@ void frmMain::ResetInputs() {
 void frmMain::cmdNext_Click() {
     if (!ValidateInputs())
         return;
-    modReadings::CaptureProfile({Picture1->txtFirstName->text(), Picture1->txtMiddleName->text(),
-                                 Picture1->txtLastName->text(), Picture1->cboMonth->currentText(),
-                                 Picture1->cboDate->currentText(),
-                                 Picture1->cboYear->currentText()});
+    modReadings::profile =
+        modReadings::Captured({Picture1->txtFirstName->text(), Picture1->txtMiddleName->text(),
+                               Picture1->txtLastName->text(), Picture1->cboMonth->currentText(),
+                               Picture1->cboDate->currentText(), Picture1->cboYear->currentText()});
     modReadings::RunAllCalculators();
 
     TV->Node(NodePosition::Numerology)->setExpanded(true);
@@ -151,27 +165,49 @@ void frmMain::cmdNext_Click() {
     TV->Node(NodePosition::U1)->setExpanded(false);
     TV->Node(NodePosition::U1)->setSelected(false);
 
-    WriteReport([](modReadings::RichTextPane &pane) {
-        modReadings::RenderTopic(pane, *modReadings::FindTopic(u"Personal Month"));
-    });
-    ShowReportPage();
+    // The Personal Month as the pass left it, without a run of its own.
+    ShowReport(modReadings::RenderTopic(*modReadings::FindTopic(u"Personal Month")));
 }
+
+void frmMain::picProceed_Click() { cmdNext_Click(); }
 
 // --- The tree and the pages
 
 void frmMain::TV_NodeClick(QTreeWidgetItem *Node) {
-    modReadings::DispatchClick(Node->text(0).toStdU16String(), *this);
+    const modReadings::Click click = modReadings::MeaningOfClick(Node->text(0).toStdU16String());
+    if (click.validates && !ValidateInputs())
+        return;
+    switch (click.action) {
+    case ClickAction::InputPage:
+        BringToFront(Picture1);
+        break;
+    case ClickAction::Reset:
+        BringToFront(Picture1);
+        ResetInputs();
+        break;
+    case ClickAction::Help:
+        BringToFront(Picture3);
+        break;
+    case ClickAction::Topic:
+        ShowReport(modReadings::RunAndRenderTopic(*click.topic));
+        break;
+    case ClickAction::ComprehensiveReading:
+        ShowReport(modReadings::RenderComprehensiveReading());
+        break;
+    case ClickAction::Nothing:
+        break;
+    }
 }
 
-void frmMain::WriteReport(const std::function<void(modReadings::RichTextPane &)> &write) {
-    Picture2->RTB->WriteAsOne(write);
+void frmMain::ShowReport(modReadings::Report report) {
+    Picture2->RTB->ShowReport(std::move(report));
+    BringToFront(Picture2);
 }
 
-void frmMain::ShowInputPage() { BringToFront(Picture1); }
-
-void frmMain::ShowReportPage() { BringToFront(Picture2); }
-
-void frmMain::ShowHelpPage() { BringToFront(Picture3); }
+void frmMain::mnuAbout_Click() {
+    picMain->raise();
+    BringToFront(Picture3);
+}
 
 void frmMain::BringToFront(QWidget *page) {
     page->raise();
@@ -186,7 +222,7 @@ void frmMain::BringToFront(QWidget *page) {
     // could: the page may change by the keyboard while it rests on a button.
     for (ImageButton *button : findChildren<ImageButton *>())
         if (!IsReachable(button))
-            button->LetGo();
+            button->TurnPlain();
     if (focusWidget() != nullptr && !IsReachable(focusWidget()))
         TV->setFocus();
 }
@@ -199,7 +235,7 @@ bool frmMain::IsReachable(const QWidget *control) const {
     return true;
 }
 
-/// The pages are never hidden, so Tab would wander through the covered ones too.
+/// The pages are never hidden, so Tab would also reach the controls of the covered ones.
 bool frmMain::focusNextPrevChild(bool next) {
     QWidget *start = focusWidget() != nullptr ? focusWidget() : this;
     for (QWidget *candidate = next ? start->nextInFocusChain() : start->previousInFocusChain();
@@ -217,19 +253,64 @@ bool frmMain::focusNextPrevChild(bool next) {
 
 // --- The report
 
-void frmMain::RTB_Event() {
-    // Change, click, press, release and move alike wipe the whole clipboard, whoever put
-    // something there. That is required.
-    QApplication::clipboard()->clear();
-}
+void frmMain::RTB_Change() { ClearClipboard(); }
+void frmMain::RTB_Click() { ClearClipboard(); }
+void frmMain::RTB_MouseDown() { ClearClipboard(); }
+void frmMain::RTB_MouseMove() { ClearClipboard(); }
+void frmMain::RTB_MouseUp() { ClearClipboard(); }
 
 void frmMain::cmdPrint_Click() {
     QTextCursor caret = Picture2->RTB->textCursor();
-    if (caret.hasSelection()) { // the whole document is printed, not what is marked
+    if (caret.hasSelection()) { // the whole document is printed, not what is selected
         caret.setPosition(caret.selectionStart());
         Picture2->RTB->setTextCursor(caret);
     }
     PrintDocument(*Picture2->RTB->document());
 }
 
-void frmMain::cmdSave_Click() { SaveReport(*Picture2->RTB, this); }
+void frmMain::picPrint_Click() { cmdPrint_Click(); }
+
+void frmMain::cmdSave_Click() {
+    const QFont &font = Picture2->RTB->font();
+    const double points = font.pixelSize() * 72.0 / 96.0;
+    SaveReport(Picture2->RTB->ShownReport(),
+               {font.families().value(0).toStdString(), static_cast<int>(std::lround(points * 2))},
+               App::Title(), this);
+}
+
+void frmMain::picSave_Click() { cmdSave_Click(); }
+
+// --- Image buttons under the mouse
+
+void frmMain::picExit_MouseMove(qreal X, qreal Y) { ImageMouseMove(picExit, 1, 2, X, Y); }
+
+void frmMain::picHelp_MouseMove(qreal X, qreal Y) { ImageMouseMove(picHelp, 3, 4, X, Y); }
+
+void frmMain::picPrint_MouseMove(qreal X, qreal Y) {
+    ImageMouseMove(Picture2->picPrint, 5, 6, X, Y);
+}
+
+void frmMain::picProceed_MouseMove(qreal X, qreal Y) {
+    ImageMouseMove(Picture1->picProceed, 7, 8, X, Y);
+}
+
+void frmMain::picSave_MouseMove(qreal X, qreal Y) {
+    ImageMouseMove(Picture2->picSave, 9, 10, X, Y);
+}
+
+// --- Links
+
+void frmMain::picHelp_Click() { OpenHelpPage(); }
+
+void frmMain::mnuOnline_Click() { OpenHelpPage(); }
+
+void frmMain::mnuVisit_Click() { OpenHomePage(); }
+
+void frmMain::lblHyperlink_Click() { OpenHomePage(); }
+
+void frmMain::lblHelp_Click(int Index) {
+    if (Index == 0)
+        OpenHelpPage();
+    else if (Index == 1)
+        OpenHomePage();
+}

@@ -11,7 +11,7 @@
 #include <string_view>
 
 struct ControlPlace {
-    std::string_view name;
+    const char *name;
     int left, top, width, height;
 };
 
@@ -64,20 +64,25 @@ inline constexpr std::array controlPlaces{
 /// Twips to logical pixels, rounded: 15 to the pixel at 96 dpi.
 constexpr int PixelsFromTwips(int twips) { return (twips + 7) / 15; }
 
-/// The place of a control in logical pixels of its container. A name that is not in the
-/// table does not compile.
-consteval QRect PlaceOf(std::string_view name) {
+/// Name and place of one control, in logical pixels of its container.
+struct PlacedName {
+    const char *name;
+    QRect place;
+};
+
+/// The control of this name in the table. A name that is not there does not compile.
+consteval PlacedName At(std::string_view name) {
     for (const ControlPlace &place : controlPlaces)
-        if (place.name == name)
-            return {PixelsFromTwips(place.left), PixelsFromTwips(place.top),
-                    PixelsFromTwips(place.width), PixelsFromTwips(place.height)};
+        if (name == place.name)
+            return {place.name,
+                    {PixelsFromTwips(place.left), PixelsFromTwips(place.top),
+                     PixelsFromTwips(place.width), PixelsFromTwips(place.height)}};
     throw "no such control";
 }
 
 /// Gives `control` its name and its place.
-template <typename Control>
-Control *Placed(Control *control, const char *name, const QRect &place) {
-    control->setObjectName(QLatin1StringView(name));
-    control->setGeometry(place);
+template <typename Control> Control *Placed(Control *control, const PlacedName &at) {
+    control->setObjectName(QLatin1StringView(at.name));
+    control->setGeometry(at.place);
     return control;
 }

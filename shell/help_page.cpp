@@ -15,22 +15,21 @@ QLabel *Paragraph(const QString &text, QWidget *page) {
 } // namespace
 
 HelpPage::HelpPage(QWidget *parent) : Page(parent) {
-    lblHelp[0] = Placed(new LinkLabel(tr("Online Help"), this), "lblHelp0", PlaceOf("lblHelp0"));
+    lblHelp[0] = Placed(new LinkLabel(tr("Online Help"), this), At("lblHelp0"));
     lblHelp[0]->setToolTip(tr("Click To Go To Online Help"));
     Label15 = Placed(
         Paragraph(
             tr("Having doubts on using this software? Feel free to access our online help and get "
                "all your queries answered."),
             this),
-        "Label15", PlaceOf("Label15"));
+        At("Label15"));
 
-    lblHelp[1] =
-        Placed(new LinkLabel(tr("Visit Us Online"), this), "lblHelp1", PlaceOf("lblHelp1"));
+    lblHelp[1] = Placed(new LinkLabel(tr("Visit Us Online"), this), At("lblHelp1"));
     lblHelp[1]->setToolTip(tr("Click To Visit Us Online"));
     Label16 = Placed(Paragraph(tr("Visit our official webpage to know more about Orravane."), this),
-                     "Label16", PlaceOf("Label16"));
+                     At("Label16"));
 
-    lblAbout = Placed(new QLabel(tr("About Software"), this), "lblAbout2", PlaceOf("lblAbout2"));
+    lblAbout = Placed(new QLabel(tr("About Software"), this), At("lblAbout2"));
     lblAbout->setToolTip(tr("About Software"));
     lblAbout->setCursor(Qt::PointingHandCursor);
     Label17 = Placed(
@@ -40,5 +39,5 @@ HelpPage::HelpPage(QWidget *parent) : Page(parent) {
                "problems in life boldly. This software helps you understand the effects of cosmic "
                "vibrations of letters and numbers on an individual."),
             this),
-        "Label17", PlaceOf("Label17"));
+        At("Label17"));
 }

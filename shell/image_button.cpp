@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QPixmapCache>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Some platforms let no client have the mouse outside its window. There the button
@@ -21,8 +23,8 @@ bool CanGrabMouse() {
 
 } // namespace
 
-ImageButton::ImageButton(int plain, int hover, const QString &name, QWidget *parent)
-    : QAbstractButton(parent), plain_(plain), hover_(hover), shown_(plain) {
+ImageButton::ImageButton(int plain, const QString &name, QWidget *parent)
+    : QAbstractButton(parent), plain_(plain), picture_(plain) {
     setAccessibleName(name);
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
@@ -45,30 +47,21 @@ void ImageButton::ReleaseCapture() {
         releaseMouse();
 }
 
-void ImageButton::LetGo() {
+void ImageButton::TurnPlain() {
     ReleaseCapture();
-    ShowImage(plain_);
+    SetPicture(plain_);
 }
 
-void ImageButton::ShowImage(int position) {
-    if (shown_ == position)
+void ImageButton::SetPicture(int position) {
+    if (picture_ == position)
         return;
-    shown_ = position;
+    picture_ = position;
     update();
 }
 
 void ImageButton::mouseMoveEvent(QMouseEvent *event) {
     QAbstractButton::mouseMoveEvent(event);
-    // A point exactly on the far edge still counts as inside.
-    const QPointF point = event->position();
-    const bool outside =
-        point.x() < 0 || point.x() > width() || point.y() < 0 || point.y() > height();
-    if (outside) {
-        LetGo();
-    } else if (!HasCapture()) {
-        SetCapture();
-        ShowImage(hover_);
-    }
+    emit mouseMove(event->position().x(), event->position().y());
 }
 
 void ImageButton::mouseReleaseEvent(QMouseEvent *event) {
@@ -82,7 +75,7 @@ void ImageButton::leaveEvent(QEvent *event) {
     QAbstractButton::leaveEvent(event);
     // With the mouse captured the moves outside tell more exactly.
     if (QWidget::mouseGrabber() != this)
-        LetGo();
+        TurnPlain();
 }
 
 void ImageButton::hideEvent(QHideEvent *event) {
@@ -92,7 +85,7 @@ void ImageButton::hideEvent(QHideEvent *event) {
 
 bool ImageButton::event(QEvent *event) {
     if (event->type() == QEvent::WindowDeactivate) // another window has come up
-        LetGo();
+        TurnPlain();
     return QAbstractButton::event(event);
 }
 
@@ -106,14 +99,11 @@ void ImageButton::keyPressEvent(QKeyEvent *event) {
 
 void ImageButton::paintEvent(QPaintEvent *) {
     const qreal ratio = devicePixelRatioF();
-    const QString key = QStringLiteral("%1@%2x%3@%4")
-                            .arg(ImageList::Key(shown_))
-                            .arg(width())
-                            .arg(height())
-                            .arg(ratio);
+    const QString key =
+        u"%1@%2x%3@%4"_s.arg(ImageList::Key(picture_)).arg(width()).arg(height()).arg(ratio);
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        picture = ImageList::Picture(shown_, size(), ratio);
+        picture = ImageList::Picture(picture_, size(), ratio);
         QPixmapCache::insert(key, picture);
     }
     QPainter painter(this);
@@ -123,5 +113,15 @@ void ImageButton::paintEvent(QPaintEvent *) {
         if (frame.width() < 2 * frame.height())
             frame = QRectF((frame.width() - frame.height()) / 2, 0, frame.height(), frame.height());
         DrawFocusFrame(painter, frame, frame.height() / 2);
+    }
+}
+
+void ImageMouseMove(ImageButton *button, int plain, int hover, qreal X, qreal Y) {
+    if (X < 0 || X > button->width() || Y < 0 || Y > button->height()) {
+        button->ReleaseCapture();
+        button->SetPicture(plain);
+    } else if (!button->HasCapture()) {
+        button->SetCapture();
+        button->SetPicture(hover);
     }
 }

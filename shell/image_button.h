@@ -10,15 +10,27 @@ class ImageButton : public QAbstractButton {
     Q_OBJECT
 
 public:
-    /// `plain` and `hover` are positions in the image list.
-    ImageButton(int plain, int hover, const QString &name, QWidget *parent);
+    /// `plain` is the position in the image list of the picture that the button begins with.
+    ImageButton(int plain, const QString &name, QWidget *parent);
 
     /// The position of the image now shown.
-    int ImagePosition() const { return shown_; }
+    int Picture() const { return picture_; }
+    /// Shows the image at `position`.
+    void SetPicture(int position);
 
-    /// Releases the mouse and turns plain: for what takes the button away from under the
-    /// mouse without a move of it.
-    void LetGo();
+    bool HasCapture() const;
+    /// From now on all moves of the mouse come here, also those outside the button.
+    void SetCapture();
+    void ReleaseCapture();
+
+    /// Releases the mouse and shows the plain image. For the cases in which the button loses
+    /// the mouse without a move: a page covers it, or another window opens.
+    void TurnPlain();
+
+signals:
+    /// The mouse moved to this point, in logical pixels from the button's top left corner.
+    /// With the mouse captured the point may lie outside.
+    void mouseMove(qreal X, qreal Y);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -30,13 +42,12 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    bool HasCapture() const;
-    void SetCapture();
-    void ReleaseCapture();
-    void ShowImage(int position);
-
     const int plain_;
-    const int hover_;
-    int shown_;
+    int picture_;
     bool captured_ = false;
 };
+
+/// What a move of the mouse does to any of the image buttons: outside, the mouse is
+/// released and the image at position `plain` shown; inside, the mouse is captured and the
+/// image at `hover` shown, once. A point exactly on the far edge counts as inside.
+void ImageMouseMove(ImageButton *button, int plain, int hover, qreal X, qreal Y);

@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array<const char *, ImageList::count> keys{
@@ -29,7 +31,6 @@ QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio,
     QPainter painter(&picture);
     if (!inSight.isEmpty())
         painter.setClipRegion(inSight);
-    QSvgRenderer(QStringLiteral(":/artwork/%1.svg").arg(name))
-        .render(&painter, QRectF(QPointF(), size));
+    QSvgRenderer(u":/artwork/%1.svg"_s.arg(name)).render(&painter, QRectF(QPointF(), size));
     return picture;
 }

@@ -18,35 +18,33 @@ QLabel *Buddy(QLabel *label, QWidget *control) {
 } // namespace
 
 InputPage::InputPage(QWidget *parent) : Page(parent) {
-    Frame1 = Placed(new QGroupBox(tr("Note: "), this), "Frame1", PlaceOf("Frame1"));
+    Frame1 = Placed(new QGroupBox(tr("Note: "), this), At("Frame1"));
     Label2 = Placed(
         new QLabel(tr("This program has been designed keeping in mind date settings according to "
                       "MM/DD/YYYY format"),
                    Frame1),
-        "Label2", PlaceOf("Label2"));
+        At("Label2"));
     Label2->setWordWrap(true);
     Label2->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     Label2->setContentsMargins(0, 0, 44, 0); // keeps MM/DD/YYYY on one line
 
-    fraName = Placed(new QGroupBox(tr("Name"), this), "fraName", PlaceOf("fraName"));
-    Label1 = Placed(new QLabel(tr("* First Name"), fraName), "Label1", PlaceOf("Label1"));
-    txtFirstName = Placed(new NameBox(fraName), "txtFirstName", PlaceOf("txtFirstName"));
-    Label4 = Placed(new QLabel(tr("Middle Name"), fraName), "Label4", PlaceOf("Label4"));
-    txtMiddleName = Placed(new NameBox(fraName), "txtMiddleName", PlaceOf("txtMiddleName"));
-    Label5 = Placed(new QLabel(tr("* Last Name"), fraName), "Label5", PlaceOf("Label5"));
-    txtLastName = Placed(new NameBox(fraName), "txtLastName", PlaceOf("txtLastName"));
+    fraName = Placed(new QGroupBox(tr("Name"), this), At("fraName"));
+    Label1 = Placed(new QLabel(tr("* First Name"), fraName), At("Label1"));
+    txtFirstName = Placed(new NameBox(fraName), At("txtFirstName"));
+    Label4 = Placed(new QLabel(tr("Middle Name"), fraName), At("Label4"));
+    txtMiddleName = Placed(new NameBox(fraName), At("txtMiddleName"));
+    Label5 = Placed(new QLabel(tr("* Last Name"), fraName), At("Label5"));
+    txtLastName = Placed(new NameBox(fraName), At("txtLastName"));
 
-    fraBirthDay =
-        Placed(new QGroupBox(tr("* Birth Day"), this), "fraBirthDay", PlaceOf("fraBirthDay"));
-    Label6 = Placed(new QLabel(tr("Month"), fraBirthDay), "Label6", PlaceOf("Label6"));
-    cboMonth = Placed(new QComboBox(fraBirthDay), "cboMonth", PlaceOf("cboMonth"));
-    Label3 = Placed(new QLabel(tr("Date"), fraBirthDay), "Label3", PlaceOf("Label3"));
-    cboDate = Placed(new QComboBox(fraBirthDay), "cboDate", PlaceOf("cboDate"));
-    Label7 = Placed(new QLabel(tr("Year"), fraBirthDay), "Label7", PlaceOf("Label7"));
-    cboYear = Placed(new QComboBox(fraBirthDay), "cboYear", PlaceOf("cboYear"));
+    fraBirthDay = Placed(new QGroupBox(tr("* Birth Day"), this), At("fraBirthDay"));
+    Label6 = Placed(new QLabel(tr("Month"), fraBirthDay), At("Label6"));
+    cboMonth = Placed(new QComboBox(fraBirthDay), At("cboMonth"));
+    Label3 = Placed(new QLabel(tr("Date"), fraBirthDay), At("Label3"));
+    cboDate = Placed(new QComboBox(fraBirthDay), At("cboDate"));
+    Label7 = Placed(new QLabel(tr("Year"), fraBirthDay), At("Label7"));
+    cboYear = Placed(new QComboBox(fraBirthDay), At("cboYear"));
 
-    picProceed =
-        Placed(new ImageButton(7, 8, tr("Proceed"), this), "picProceed", PlaceOf("picProceed"));
+    picProceed = Placed(new ImageButton(7, tr("Proceed"), this), At("picProceed"));
 
     Buddy(Label1, txtFirstName);
     Buddy(Label4, txtMiddleName);

@@ -5,11 +5,13 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void OpenPage(const char *path) {
     QUrl page;
-    page.setScheme(QStringLiteral("https"));
+    page.setScheme(u"https"_s);
     page.setHost(SiteAddress());
     page.setPath(QLatin1StringView(path));
     QDesktopServices::openUrl(page); // the result is not looked at, on purpose

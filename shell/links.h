@@ -1,7 +1,7 @@
 #pragma once
 
-// The pages of the web site, opened in the user's browser. A page that cannot be opened
-// gives the user no word.
+// The pages of the web site, opened in the user's browser. When a page cannot be opened,
+// nothing happens and no message appears.
 
 #include <QString>
 

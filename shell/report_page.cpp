@@ -5,7 +5,7 @@
 #include "shell/rich_text_box.h"
 
 ReportPage::ReportPage(QWidget *parent) : Page(parent) {
-    RTB = Placed(new RichTextBox(this), "RTB", PlaceOf("RTB"));
-    picPrint = Placed(new ImageButton(5, 6, tr("Print"), this), "picPrint", PlaceOf("picPrint"));
-    picSave = Placed(new ImageButton(9, 10, tr("Save"), this), "picSave", PlaceOf("picSave"));
+    RTB = Placed(new RichTextBox(this), At("RTB"));
+    picPrint = Placed(new ImageButton(5, tr("Print"), this), At("picPrint"));
+    picSave = Placed(new ImageButton(9, tr("Save"), this), At("picSave"));
 }

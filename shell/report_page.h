@@ -1,6 +1,6 @@
 #pragma once
 
-// Picture2, the page that shows a report and lets it out.
+// Picture2, the page that shows a report and offers to print and save it.
 
 #include "shell/page.h"
 

@@ -3,9 +3,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QTextBlock>
+#include <QTextCursor>
 
-RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent), caret_(document()) {
+#include <utility>
+
+RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setUndoRedoEnabled(false);
@@ -15,60 +17,27 @@ RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent), caret_(document()
     connect(this, &QTextEdit::textChanged, this, &RichTextBox::changed);
 }
 
-void RichTextBox::SetText(std::u16string_view text) {
-    caret_.select(QTextCursor::Document);
-    caret_.removeSelectedText();
-    SetSelectedText(std::u16string(text));
-}
+void RichTextBox::ShowReport(modReadings::Report report) {
+    report_ = std::move(report);
 
-void RichTextBox::SetBold(bool bold) {
-    caretFormat_.setFontWeight(bold ? QFont::Bold : QFont::Normal);
-}
-
-void RichTextBox::SetColor(modReadings::Ink ink) {
-    caretFormat_.setForeground(QColor(ink.red, ink.green, ink.blue));
-}
-
-void RichTextBox::SetSelectedText(std::u16string text) {
-    if (!text.empty()) // "\r\n" becomes one paragraph mark
-        caret_.insertText(QStringView(text).toString(), caretFormat_);
-}
-
-void RichTextBox::WriteAsOne(const std::function<void(modReadings::RichTextPane &)> &write) {
     setUpdatesEnabled(false);
-    caret_.beginEditBlock();
-    write(*this);
-    caret_.endEditBlock();
-    setTextCursor(caret_);
+    QTextCursor caret(document());
+    caret.beginEditBlock();
+    caret.select(QTextCursor::Document);
+    caret.removeSelectedText();
+    QTextCharFormat format;
+    format.setForeground(
+        QColor(modReadings::TopicInk.red, modReadings::TopicInk.green, modReadings::TopicInk.blue));
+    caret.setBlockCharFormat(format); // for a first line without a character
+    for (const modReadings::Run &run : report_) {
+        format.setFontWeight(run.bold ? QFont::Bold : QFont::Normal);
+        caret.insertText(QStringView(run.text).toString(), format); // "\r\n" ends a paragraph
+    }
+    caret.endEditBlock();
+    setTextCursor(caret);
     horizontalScrollBar()->setValue(0);
     verticalScrollBar()->setValue(0);
     setUpdatesEnabled(true);
-}
-
-std::vector<modReadings::Run> RichTextBox::Runs() const {
-    std::vector<modReadings::Run> runs;
-    const auto append = [&runs](std::u16string_view text, bool bold, modReadings::Ink ink) {
-        if (!runs.empty() && runs.back().bold == bold && runs.back().ink == ink)
-            runs.back().text += text;
-        else
-            runs.push_back({std::u16string(text), bold, ink});
-    };
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        if (block != document()->begin())
-            append(modReadings::lineBreak, runs.empty() ? false : runs.back().bold,
-                   runs.empty() ? modReadings::Ink{} : runs.back().ink);
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            const QTextCharFormat format = part.fragment().charFormat();
-            const QColor color = format.foreground().style() == Qt::NoBrush
-                                     ? QColor(Qt::black)
-                                     : format.foreground().color();
-            append(part.fragment().text().toStdU16String(), format.fontWeight() >= QFont::Bold,
-                   {static_cast<std::uint8_t>(color.red()),
-                    static_cast<std::uint8_t>(color.green()),
-                    static_cast<std::uint8_t>(color.blue())});
-        }
-    }
-    return runs;
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent *event) {

@@ -1,32 +1,25 @@
 #pragma once
 
-// RTB, the report pane: the rich-text control of the rendering over a QTextEdit that the
-// user reads, selects and scrolls but does not edit.
+// RTB, the report pane: shows one report, which the user reads, selects and scrolls but
+// does not edit.
 
-#include "report/run_list.h"
+#include "report/report.h"
 
-#include <QTextCharFormat>
 #include <QTextEdit>
 
-#include <functional>
-
-class RichTextBox : public QTextEdit, public modReadings::RichTextPane {
+class RichTextBox : public QTextEdit {
     Q_OBJECT
 
 public:
     explicit RichTextBox(QWidget *parent);
 
-    void SetText(std::u16string_view text) override;
-    void SetBold(bool bold) override;
-    void SetColor(modReadings::Ink ink) override;
-    void SetSelectedText(std::u16string text) override;
+    /// Shows `report` in place of the present one, in one change: one repaint and one
+    /// changed(), also where the two are equal. Afterwards the caret stands at the end of
+    /// the text and the view at its beginning, where reading starts.
+    void ShowReport(modReadings::Report report);
 
-    /// Runs `write` as one change: one repaint, one changed(). Afterwards the caret stands
-    /// at the end of the text and the view at its beginning, where reading starts.
-    void WriteAsOne(const std::function<void(modReadings::RichTextPane &)> &write);
-
-    /// What the pane holds, as runs of equal format with "\r\n" for line breaks.
-    std::vector<modReadings::Run> Runs() const;
+    /// The report that is shown; empty before the first one.
+    const modReadings::Report &ShownReport() const { return report_; }
 
 signals:
     /// The text changed.
@@ -43,6 +36,5 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    QTextCursor caret_;
-    QTextCharFormat caretFormat_;
+    modReadings::Report report_;
 };

@@ -3,12 +3,14 @@
 #include <QDir>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString LockPath() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(folder);
-    return folder + QStringLiteral("/instance.lock");
+    return folder + u"/instance.lock"_s;
 }
 
 } // namespace

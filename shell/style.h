@@ -2,9 +2,24 @@
 
 // The look of the pages. Dialogs and menus keep the desktop's own.
 
+#include <QColor>
 #include <QFont>
 #include <QString>
 #include <QStringList>
+
+/// The colours of the pages and of what is drawn on them.
+namespace Colors {
+inline constexpr QColor violet{89, 73, 110};    ///< the ground of every page
+inline constexpr QColor gold{255, 199, 6};      ///< headings, selection, focus
+inline constexpr QColor paleGold{255, 217, 92}; ///< quieter gold, on dark grounds
+inline constexpr QColor night{42, 28, 62};      ///< text on gold and on paper
+inline constexpr QColor dusk{58, 43, 78};       ///< ground of a selection without focus
+inline constexpr QColor shade{72, 57, 92};      ///< ground of lists and of a focused box
+inline constexpr QColor mist{176, 163, 193};    ///< frames of boxes, handles of scroll bars
+inline constexpr QColor haze{146, 131, 166};    ///< frames around groups
+inline constexpr QColor glow{108, 91, 131};     ///< ground under the mouse
+inline constexpr QColor paper{253, 251, 255};   ///< ground of the report
+} // namespace Colors
 
 /// Verdana, or DejaVu Sans, which has its widths. In pixels, because the layout is: the
 /// text then fits at every scale of the display.

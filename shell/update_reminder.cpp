@@ -6,9 +6,11 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString lastUpdateKey = QStringLiteral("LastUpdate");
+const QString lastUpdateKey = u"LastUpdate"_s;
 
 QDate Today() {
     const std::chrono::year_month_day date = modReadings::Clock::Date();

@@ -1,11 +1,11 @@
 #include "tools/batch.h"
 
 #include "core/clock.h"
-#include "tools/excerpt.h"
-#include "tools/one_line.h"
 #include "tools/output.h"
 #include "tools/people_lines.h"
 #include "tools/progress.h"
+#include "tools/reading.h"
+#include "tools/text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,6 +15,10 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,41 +31,21 @@ public:
         : options_(options), input_(input), progress_(inputSize),
           output_(options.outputDir.isEmpty() ? options.output : QString()) {}
 
-    BatchResult Run(QString &complaint) {
-        bool begun = false;
+    ExitCode Run() {
         while (NextLine()) {
             if (IsBlank(line_))
                 continue;
-            if (!begun) {
-                begun = true;
-                const bool header = lines_.Begin(line_, complaint);
-                if (complaint.isEmpty())
-                    MakeFolder(complaint); // not before it is known that there is something to read
-                else
-                    complaint = QStringLiteral("--batch: line %1: %2").arg(number_).arg(complaint);
-                if (!complaint.isEmpty())
-                    return BatchResult::Unusable;
-                if (header)
-                    continue;
-            }
+            if (!std::exchange(begun_, true) && Begin())
+                continue;
             ReadLine();
-            if (!error_.isEmpty()) {
-                complaint = error_;
-                return BatchResult::Broken;
-            }
         }
-        if (input_.bad()) { // broken off, which is not the same as having come to its end
-            complaint = QStringLiteral("--batch: the input cannot be read to its end (%1)")
-                            .arg(QString::fromLocal8Bit(std::strerror(errno)));
-            return number_ == 0 ? BatchResult::Unusable : BatchResult::Broken;
-        }
-        if (options_.outputDir.isEmpty()) {
+        if (input_.bad()) // broken off, which is not the same as having come to its end
+            throw Refusal(u"--batch: reading the input stopped before its end (%1)"_s.arg(
+                              QString::fromLocal8Bit(std::strerror(errno))),
+                          number_ == 0 ? ExitCode::WrongInput : ExitCode::Failed);
+        if (options_.outputDir.isEmpty())
             output_.Finish();
-            complaint = output_.Error();
-        }
-        if (!complaint.isEmpty())
-            return BatchResult::Broken;
-        return wrong_ == 0 ? BatchResult::AllRead : BatchResult::SomeWrong;
+        return wrong_ == 0 ? ExitCode::Ok : ExitCode::Failed;
     }
 
 private:
@@ -76,52 +60,54 @@ private:
         return true;
     }
 
-    void MakeFolder(QString &complaint) const {
+    /// Takes the first line that is not blank. Returns true when it was a header.
+    bool Begin() {
+        bool header = false;
+        try {
+            header = lines_.Begin(line_);
+        } catch (const Refusal &refusal) {
+            throw Refusal(u"--batch: line %1: %2"_s.arg(number_).arg(refusal.Line()));
+        }
+        // Not before it is known that there is something to read.
         if (!options_.outputDir.isEmpty() && !QDir().mkpath(options_.outputDir))
-            complaint = QStringLiteral("--output-dir: the folder \"%1\" cannot be made")
-                            .arg(Excerpt(options_.outputDir));
+            throw Refusal(u"--output-dir: the folder \"%1\" cannot be made"_s.arg(
+                Excerpt(options_.outputDir)));
+        return header;
     }
 
     void ReadLine() {
-        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // for the whole person
-        QString complaint;
-        const auto input = lines_.Parse(line_, complaint);
-        const auto person = input ? CheckPerson(*input, {}, complaint) : std::nullopt;
+        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // for check and reading
+        std::optional<modReadings::UserProfile> person;
+        try {
+            person = CheckPerson(lines_.Parse(line_));
+        } catch (const Refusal &refusal) {
+            ReportWrong(refusal.Line());
+        }
         if (person)
-            Write(ReadingsAs(options_.format, ReadPerson(*person, options_.topics)));
-        else
-            Report(complaint);
+            Write(ReadingAs(options_.format, ReadPerson(*person, options_.topics)));
         progress_.Show(bytes_, ++people_);
     }
 
-    void Report(const QString &complaint) {
+    void ReportWrong(const QString &message) {
         ++wrong_;
         progress_.Clear();
-        const std::string line = OneLine(complaint);
+        const std::string line = OneLine(message);
         std::fprintf(stderr, "orravane-report: line %lld: %s\n", number_, line.c_str());
         if (options_.outputDir.isEmpty())
-            WriteTo(output_, ErrorAsJson(number_, line));
+            output_.Write(ErrorAsJson(number_, line));
     }
 
     void Write(const std::string &reading) {
         if (options_.outputDir.isEmpty()) {
             progress_.MakeRoomForOutput();
-            WriteTo(output_, reading);
+            output_.Write(reading);
             return;
         }
-        const QString name =
-            QStringLiteral("person-%1.%2")
-                .arg(number_, 6, 10, QLatin1Char('0'))
-                .arg(QLatin1StringView(options_.format == Format::Rtf ? "rtf" : "txt"));
-        Output file(QDir(options_.outputDir).filePath(name), QStringLiteral("--output-dir"));
-        WriteTo(file, reading);
+        const QString name = u"person-%1.%2"_s.arg(number_, 6, 10, '0'_L1)
+                                 .arg(options_.format == Format::Rtf ? "rtf"_L1 : "txt"_L1);
+        Output file(QDir(options_.outputDir).filePath(name), u"--output-dir"_s);
+        file.Write(reading);
         file.Finish();
-        error_ = file.Error();
-    }
-
-    void WriteTo(Output &output, const std::string &bytes) {
-        output.Write(bytes);
-        error_ = output.Error();
     }
 
     const Options &options_;
@@ -131,25 +117,24 @@ private:
     PeopleLines lines_;
     std::string line_;
     long long number_ = 0; ///< of the line, from 1
+    bool begun_ = false;
     long long bytes_ = 0;
     long long people_ = 0;
     long long wrong_ = 0;
-    QString error_;
 };
 
 } // namespace
 
-BatchResult RunBatch(const Options &options, QString &complaint) {
-    if (options.batchFile == QLatin1StringView("-")) {
+ExitCode RunBatch(const Options &options) {
+    if (options.batchFile == "-"_L1) {
         std::ios::sync_with_stdio(false); // takes what a pipe has, line by line
-        return Batch(options, std::cin, 0).Run(complaint);
+        return Batch(options, std::cin, 0).Run();
     }
     std::ifstream file(options.batchFile.toStdString());
-    if (!file || QFileInfo(options.batchFile).isDir()) {
-        complaint = QStringLiteral("--batch: the file \"%1\" cannot be read (%2)")
-                        .arg(Excerpt(options.batchFile),
-                             QString::fromLocal8Bit(std::strerror(file ? EISDIR : errno)));
-        return BatchResult::Unusable;
-    }
-    return Batch(options, file, QFileInfo(options.batchFile).size()).Run(complaint);
+    const QFileInfo info(options.batchFile);
+    if (!file || info.isDir())
+        throw Refusal(u"--batch: the file \"%1\" cannot be read (%2)"_s.arg(
+            Excerpt(options.batchFile),
+            QString::fromLocal8Bit(std::strerror(file ? EISDIR : errno))));
+    return Batch(options, file, info.size()).Run();
 }

@@ -1,12 +1,8 @@
 #include "tools/formats.h"
 
-#include "core/clock.h"
 #include "core/text.h"
-#include "core/user_profile.h"
 #include "report/rtf.h"
-
-#include <QStringDecoder>
-#include <QStringEncoder>
+#include "tools/text.h"
 
 #define RAPIDJSON_SSE2
 #include <rapidjson/prettywriter.h>
@@ -16,8 +12,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
-#include <utility>
-#include <vector>
 
 using modReadings::BookEntry;
 using modReadings::Run;
@@ -35,20 +29,8 @@ template <typename Writer> void WriteMember(Writer &json, const char *name, std:
     WriteString(json, text);
 }
 
-/// `text` in UTF-8, until the next call. One buffer serves all calls: a batch makes millions.
-std::string_view Utf8(std::u16string_view text) {
-    static std::vector<char> buffer;
-    QStringEncoder encode(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
-    const QStringView view(text);
-    const auto space = static_cast<std::size_t>(encode.requiredSpace(view.size()));
-    if (buffer.size() < space)
-        buffer.resize(space);
-    const char *end = encode.appendToBuffer(buffer.data(), view);
-    return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
-}
-
 void WriteMember(JsonWriter &json, const char *name, std::u16string_view text) {
-    WriteMember(json, name, Utf8(text));
+    WriteMember(json, name, AsUtf8(text));
 }
 
 /// What is in `buffer`, ended as a line.
@@ -57,8 +39,7 @@ std::string Line(rapidjson::StringBuffer &buffer) {
     return {buffer.GetString(), buffer.GetSize()};
 }
 
-std::string Today() {
-    const auto date = modReadings::Clock::Date();
+std::string IsoDate(std::chrono::year_month_day date) {
     char text[32];
     std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(date.year()),
                   static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
@@ -67,25 +48,17 @@ std::string Today() {
 
 /// UTF-8 with "\r\n" as "\n".
 void AppendPlain(std::string &out, std::u16string_view text) {
-    std::ranges::copy_if(Utf8(text), std::back_inserter(out), [](char c) { return c != '\r'; });
+    std::ranges::copy_if(AsUtf8(text), std::back_inserter(out), [](char c) { return c != '\r'; });
 }
 
 } // namespace
 
-std::string ToUtf8(std::u16string_view text) { return std::string(Utf8(text)); }
-
-std::optional<QString> FromUtf8(std::string_view bytes) {
-    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    return decode.hasError() ? std::nullopt : std::optional(std::move(text));
-}
-
-std::string ReadingsAsText(std::span<const TopicReading> readings) {
+std::string ReadingAsText(const PersonReading &reading) {
     std::string text;
-    for (const TopicReading &reading : readings) {
+    for (const TopicReading &topic : reading.topics) {
         if (!text.empty())
             text += '\n';
-        for (const Run &run : reading.runs)
+        for (const Run &run : topic.report)
             AppendPlain(text, run.text);
         if (!text.ends_with('\n'))
             text += '\n';
@@ -93,30 +66,29 @@ std::string ReadingsAsText(std::span<const TopicReading> readings) {
     return text;
 }
 
-std::string ReadingsAsJson(std::span<const TopicReading> readings) {
-    using modReadings::profile;
+std::string ReadingAsJson(const PersonReading &reading) {
     static rapidjson::StringBuffer buffer; // keeps its memory from one report to the next
     buffer.Clear();
     JsonWriter json(buffer);
     json.StartObject();
-    WriteMember(json, "first", profile.FirstName);
-    WriteMember(json, "middle", profile.MiddleName);
-    WriteMember(json, "last", profile.LastName);
-    WriteMember(json, "month", profile.BirthMonth);
+    WriteMember(json, "first", reading.person.FirstName);
+    WriteMember(json, "middle", reading.person.MiddleName);
+    WriteMember(json, "last", reading.person.LastName);
+    WriteMember(json, "month", reading.person.BirthMonth);
     json.Key("day");
-    json.Int(modReadings::NumberFromText(profile.BirthDay));
+    json.Int(modReadings::NumberFromText(reading.person.BirthDay));
     json.Key("year");
-    json.Int(modReadings::NumberFromText(profile.BirthYear));
-    WriteMember(json, "today", std::string_view(Today()));
+    json.Int(modReadings::NumberFromText(reading.person.BirthYear));
+    WriteMember(json, "today", std::string_view(IsoDate(reading.day)));
     json.Key("topics");
     json.StartArray();
-    for (const TopicReading &reading : readings) {
+    for (const TopicReading &topic : reading.topics) {
         json.StartObject();
-        WriteMember(json, "caption", reading.caption);
-        WriteMember(json, "number", reading.number);
+        WriteMember(json, "caption", topic.caption);
+        WriteMember(json, "number", topic.number);
         json.Key("runs");
         json.StartArray();
-        for (const Run &run : reading.runs) {
+        for (const Run &run : topic.report) {
             json.StartObject();
             WriteMember(json, "text", run.text);
             json.Key("bold");
@@ -131,35 +103,35 @@ std::string ReadingsAsJson(std::span<const TopicReading> readings) {
     return Line(buffer);
 }
 
-std::string ReadingsAsRtf(std::span<const TopicReading> readings) {
-    std::vector<Run> runs;
-    for (const TopicReading &reading : readings) {
-        if (!runs.empty())
-            runs.back().text += u"\r\n\r\n";
-        runs.insert(runs.end(), reading.runs.begin(), reading.runs.end());
+std::string ReadingAsRtf(const PersonReading &reading) {
+    modReadings::Report whole;
+    for (const TopicReading &topic : reading.topics) {
+        if (!whole.empty())
+            whole.back().text += u"\r\n\r\n";
+        whole.insert(whole.end(), topic.report.begin(), topic.report.end());
     }
-    return modReadings::ToRtf(runs);
+    return modReadings::ToRtf(whole);
 }
 
-std::string ReadingsAs(Format format, std::span<const TopicReading> readings) {
+std::string ReadingAs(Format format, const PersonReading &reading) {
     switch (format) {
     case Format::Json:
-        return ReadingsAsJson(readings);
+        return ReadingAsJson(reading);
     case Format::Rtf:
-        return ReadingsAsRtf(readings);
+        return ReadingAsRtf(reading);
     case Format::Text:
         break;
     }
-    return ReadingsAsText(readings);
+    return ReadingAsText(reading);
 }
 
-std::string ErrorAsJson(long long line, std::string_view complaint) {
+std::string ErrorAsJson(long long line, std::string_view message) {
     rapidjson::StringBuffer buffer;
     JsonWriter json(buffer);
     json.StartObject();
     json.Key("line");
     json.Int64(line);
-    WriteMember(json, "error", complaint);
+    WriteMember(json, "error", message);
     json.EndObject();
     return Line(buffer);
 }
@@ -192,7 +164,7 @@ std::string BookAsJson(std::span<const BookEntry> book) {
             json.Int(*entry.number);
         else
             json.Null();
-        WriteMember(json, "text", ToUtf8(entry.text));
+        WriteMember(json, "text", AsUtf8(entry.text));
         json.EndObject();
     }
     json.EndArray();

@@ -1,6 +1,7 @@
 #include "tools/options.h"
 
-#include "tools/excerpt.h"
+#include "tools/refusal.h"
+#include "tools/text.h"
 
 #include <QCommandLineParser>
 #include <QDate>
@@ -9,67 +10,55 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QString Dashed(const QCommandLineOption &option) {
-    return QStringLiteral("--") + option.names().constFirst();
-}
+QString Dashed(const QCommandLineOption &option) { return u"--"_s + option.names().constFirst(); }
 
 struct CommandLine {
     QCommandLineParser parser;
-    QCommandLineOption first{QStringLiteral("first"), QStringLiteral("First name."),
-                             QStringLiteral("NAME")};
-    QCommandLineOption middle{QStringLiteral("middle"), QStringLiteral("Middle name."),
-                              QStringLiteral("NAME")};
-    QCommandLineOption last{QStringLiteral("last"), QStringLiteral("Last name."),
-                            QStringLiteral("NAME")};
-    QCommandLineOption month{QStringLiteral("month"),
-                             QStringLiteral("Birth month: an English month name or 1 to 12."),
-                             QStringLiteral("MONTH")};
-    QCommandLineOption day{QStringLiteral("day"), QStringLiteral("Birth day: 1 to 31."),
-                           QStringLiteral("N")};
-    QCommandLineOption year{QStringLiteral("year"), QStringLiteral("Birth year: 1900 to 2050."),
-                            QStringLiteral("N")};
-    QCommandLineOption today{QStringLiteral("today"),
-                             QStringLiteral("Read for this day instead of today."),
-                             QStringLiteral("YYYY-MM-DD")};
-    QCommandLineOption topic{QStringLiteral("topic"),
-                             QStringLiteral("Print this topic, a caption of the window's tree or "
-                                            "\"Comprehensive Reading\"; may be given "
-                                            "several times. Default: all topics."),
-                             QStringLiteral("CAPTION")};
-    QCommandLineOption format{QStringLiteral("format"),
-                              QStringLiteral("text (default), json or rtf."),
-                              QStringLiteral("FORMAT")};
+    QCommandLineOption first{u"first"_s, u"First name."_s, u"NAME"_s};
+    QCommandLineOption middle{u"middle"_s, u"Middle name."_s, u"NAME"_s};
+    QCommandLineOption last{u"last"_s, u"Last name."_s, u"NAME"_s};
+    QCommandLineOption month{u"month"_s, u"Birth month: an English month name or 1 to 12."_s,
+                             u"MONTH"_s};
+    QCommandLineOption day{u"day"_s, u"Birth day: 1 to 31."_s, u"N"_s};
+    QCommandLineOption year{u"year"_s, u"Birth year: 1900 to 2050."_s, u"N"_s};
+    QCommandLineOption today{u"today"_s, u"Read for this day instead of today."_s, u"YYYY-MM-DD"_s};
+    QCommandLineOption topic{u"topic"_s,
+                             u"Print this topic, a caption of the window's tree or "
+                             "\"Comprehensive Reading\"; may be given "
+                             "several times. Default: all topics."_s,
+                             u"CAPTION"_s};
+    QCommandLineOption format{u"format"_s, u"text (default), json or rtf."_s, u"FORMAT"_s};
     QCommandLineOption output{
-        QStringLiteral("output"),
-        QStringLiteral("Write to this file, whole or not at all, instead of standard output."),
-        QStringLiteral("FILE")};
-    QCommandLineOption book{
-        QStringLiteral("book"),
-        QStringLiteral("Print every reading and fixed text that the program holds.")};
+        u"output"_s, u"Write to this file, whole or not at all, instead of standard output."_s,
+        u"FILE"_s};
+    QCommandLineOption book{u"book"_s,
+                            u"Print every reading and fixed text that the program holds."_s};
     QCommandLineOption batch{
-        QStringLiteral("batch"),
-        QStringLiteral("Read many people, one a line: JSON Lines, or CSV with a header row "
-                       "first,middle,last,month,day,year. - is standard input. Prints one JSON "
-                       "object a line."),
-        QStringLiteral("FILE")};
+        u"batch"_s,
+        u"Read many people, one a line: JSON Lines, or CSV with a header row "
+        "first,middle,last,month,day,year. - is standard input. Prints one JSON "
+        "object a line."_s,
+        u"FILE"_s};
     QCommandLineOption outputDir{
-        QStringLiteral("output-dir"),
-        QStringLiteral("With --batch and --format text or rtf: one file a person here, named "
-                       "after the line."),
-        QStringLiteral("DIR")};
-    QCommandLineOption help{QStringLiteral("help"), QStringLiteral("Show this help.")};
-    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
+        u"output-dir"_s,
+        u"With --batch and --format text or rtf: one file a person here, named "
+        "after the line."_s,
+        u"DIR"_s};
+    QCommandLineOption help{u"help"_s, u"Show this help."_s};
+    QCommandLineOption version{u"version"_s, u"Show the version."_s};
 
     CommandLine() {
         parser.setApplicationDescription(
-            QStringLiteral("The Orravane numerology report without the window.\n\n"
-                           "A person:  orravane-report --first NAME [--middle NAME] --last NAME "
-                           "--month MONTH --day N "
-                           "--year N\n"
-                           "The prose: orravane-report --book\n"
-                           "Many:      orravane-report --batch FILE"));
+            u"The Orravane numerology report without the window.\n\n"
+            "A person:  orravane-report --first NAME [--middle NAME] --last NAME "
+            "--month MONTH --day N "
+            "--year N\n"
+            "The prose: orravane-report --book\n"
+            "Many:      orravane-report --batch FILE"_s);
         parser.addOptions({first, middle, last, month, day, year, today, topic, format, output,
                            book, batch, outputDir, help, version});
     }
@@ -91,31 +80,18 @@ struct CommandLine {
         // and takes none.
         const QCommandLineOption *open = OptionBefore(end);
         if (open != nullptr && parser.errorText().contains(end))
-            return QStringLiteral("%1: the value is missing; give %2. %3")
-                .arg(end, open->valueName(), open->description());
+            return u"%1: the value is missing; give %2. %3"_s.arg(end, open->valueName(),
+                                                                  open->description());
         if (!parser.unknownOptionNames().isEmpty())
-            return QStringLiteral("Unknown option \"%1\"; see --help for the options.")
-                .arg(Excerpt(parser.unknownOptionNames().constFirst()));
-        return parser.errorText() + QStringLiteral(" See --help for the options.");
+            return u"Unknown option \"%1\"; see --help for the options."_s.arg(
+                Excerpt(parser.unknownOptionNames().constFirst()));
+        return parser.errorText() + u" See --help for the options."_s;
     }
-};
-
-class Complaint {
-public:
-    explicit Complaint(QString &line) : line_(line) {}
-
-    std::nullopt_t operator()(const QString &line) const {
-        line_ = line;
-        return std::nullopt;
-    }
-
-private:
-    QString &line_;
 };
 
 /// A date that exists, written YYYY-MM-DD.
 std::optional<std::chrono::year_month_day> DateFrom(const QString &text) {
-    static const QRegularExpression form(QStringLiteral("\\A[0-9]{4}-[0-9]{2}-[0-9]{2}\\z"));
+    static const QRegularExpression form(u"\\A[0-9]{4}-[0-9]{2}-[0-9]{2}\\z"_s);
     const QDate date = QDate::fromString(text, Qt::ISODate);
     if (!form.match(text).hasMatch() || !date.isValid())
         return std::nullopt;
@@ -125,18 +101,18 @@ std::optional<std::chrono::year_month_day> DateFrom(const QString &text) {
 }
 
 std::optional<Format> FormatFrom(const QString &text) {
-    if (text == QLatin1StringView("text"))
+    if (text == "text"_L1)
         return Format::Text;
-    if (text == QLatin1StringView("json"))
+    if (text == "json"_L1)
         return Format::Json;
-    if (text == QLatin1StringView("rtf"))
+    if (text == "rtf"_L1)
         return Format::Rtf;
     return std::nullopt;
 }
 
 } // namespace
 
-bool AreUtf8(int argc, const char *const *argv, QString &complaint) {
+void RequireUtf8(int argc, const char *const *argv) {
     const CommandLine line;
     const QCommandLineOption *option = nullptr; // that takes the argument as its value
     for (int index = 1; index < argc; ++index) {
@@ -145,22 +121,18 @@ bool AreUtf8(int argc, const char *const *argv, QString &complaint) {
         if (!argument) {
             if (option == nullptr)
                 option = line.OptionBefore(QString::fromUtf8(bytes.substr(0, bytes.find('='))));
-            const QString name =
-                option == nullptr ? QString() : Dashed(*option) + QStringLiteral(": ");
-            complaint = QStringLiteral("%1\"%2\" is not UTF-8; give a text in UTF-8.")
-                            .arg(name, Excerpt(QString::fromUtf8(bytes)));
-            return false;
+            const QString name = option == nullptr ? QString() : Dashed(*option) + u": "_s;
+            throw Refusal(u"%1\"%2\" is not UTF-8; give a text in UTF-8."_s.arg(
+                name, Excerpt(QString::fromUtf8(bytes))));
         }
         option = option == nullptr ? line.OptionBefore(*argument) : nullptr;
     }
-    return true;
 }
 
-std::optional<Options> ParseOptions(const QStringList &arguments, QString &complaint) {
+Options ParseOptions(const QStringList &arguments) {
     CommandLine line;
-    const Complaint complain(complaint);
     if (!line.parser.parse(arguments))
-        return complain(line.WhyNotParsed(arguments.constLast()));
+        throw Refusal(line.WhyNotParsed(arguments.constLast()));
 
     Options options;
     if (line.Given(line.help)) {
@@ -173,20 +145,19 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
         return options;
     }
     if (!line.parser.positionalArguments().isEmpty())
-        return complain(QStringLiteral("\"%1\" is not an option; see --help for what is allowed.")
-                            .arg(Excerpt(line.parser.positionalArguments().constFirst())));
+        throw Refusal(u"\"%1\" is not an option; see --help for what is allowed."_s.arg(
+            Excerpt(line.parser.positionalArguments().constFirst())));
     for (const QCommandLineOption *once :
          {&line.first, &line.middle, &line.last, &line.month, &line.day, &line.year, &line.today,
           &line.format, &line.output, &line.batch, &line.outputDir})
         if (line.parser.values(*once).size() > 1)
-            return complain(
-                QStringLiteral("%1 is given more than once; give it once.").arg(Dashed(*once)));
+            throw Refusal(u"%1 is given more than once; give it once."_s.arg(Dashed(*once)));
 
     options.task = line.Given(line.book)    ? Options::Task::Book
                    : line.Given(line.batch) ? Options::Task::Batch
                                             : Options::Task::Person;
     if (line.Given(line.book) && line.Given(line.batch))
-        return complain(QStringLiteral("--book and --batch do not go together; give one of them."));
+        throw Refusal(u"--book and --batch do not go together; give one of them."_s);
 
     const QString only =
         options.task == Options::Task::Book ? Dashed(line.book) : Dashed(line.batch);
@@ -194,62 +165,54 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
         for (const QCommandLineOption *person :
              {&line.first, &line.middle, &line.last, &line.month, &line.day, &line.year})
             if (line.Given(*person))
-                return complain(QStringLiteral("%1 does not go with %2; leave one of them out.")
-                                    .arg(Dashed(*person), only));
+                throw Refusal(
+                    u"%1 does not go with %2; leave one of them out."_s.arg(Dashed(*person), only));
     if (options.task == Options::Task::Book)
         for (const QCommandLineOption *reading : {&line.today, &line.topic})
             if (line.Given(*reading))
-                return complain(QStringLiteral("%1 does not go with --book; leave one of them out.")
-                                    .arg(Dashed(*reading)));
+                throw Refusal(
+                    u"%1 does not go with --book; leave one of them out."_s.arg(Dashed(*reading)));
 
     if (line.Given(line.format)) {
         const auto format = FormatFrom(line.parser.value(line.format));
         if (!format)
-            return complain(
-                QStringLiteral("--format: \"%1\" is not allowed; give text, json or rtf.")
-                    .arg(Excerpt(line.parser.value(line.format))));
+            throw Refusal(u"--format: \"%1\" is not allowed; give text, json or rtf."_s.arg(
+                Excerpt(line.parser.value(line.format))));
         options.format = *format;
     } else if (options.task == Options::Task::Batch && !line.Given(line.outputDir)) {
         options.format = Format::Json;
     }
     if (options.task == Options::Task::Book && options.format == Format::Rtf)
-        return complain(
-            QStringLiteral("--format: \"rtf\" does not go with --book; give text or json."));
+        throw Refusal(u"--format: \"rtf\" does not go with --book; give text or json."_s);
 
     options.outputDir = line.parser.value(line.outputDir);
     if (line.Given(line.outputDir) && options.task != Options::Task::Batch)
-        return complain(QStringLiteral(
-            "--output-dir goes with --batch only; for one person give --output FILE."));
+        throw Refusal(u"--output-dir goes with --batch only; for one person give --output FILE."_s);
     if (line.Given(line.outputDir) && options.outputDir.isEmpty())
-        return complain(QStringLiteral("--output-dir is empty; give the name of a folder."));
+        throw Refusal(u"--output-dir is empty; give the name of a folder."_s);
     if (options.task == Options::Task::Batch) {
         const bool files = !options.outputDir.isEmpty();
         if (files && options.format == Format::Json)
-            return complain(QStringLiteral(
-                "--format: \"json\" does not go with --output-dir; give text or rtf."));
+            throw Refusal(u"--format: \"json\" does not go with --output-dir; give text or rtf."_s);
         if (!files && options.format != Format::Json)
-            return complain(QStringLiteral("--format: only json goes to one output with --batch; "
-                                           "give --output-dir DIR for text and rtf."));
+            throw Refusal(u"--format: only json goes to one output with --batch; "
+                          "give --output-dir DIR for text and rtf."_s);
         if (files && line.Given(line.output))
-            return complain(
-                QStringLiteral("--output does not go with --output-dir; leave one of them out."));
+            throw Refusal(u"--output does not go with --output-dir; leave one of them out."_s);
     }
 
     if (line.Given(line.today)) {
         options.today = DateFrom(line.parser.value(line.today));
         if (!options.today)
-            return complain(
-                QStringLiteral("--today: \"%1\" is not allowed; give a date as YYYY-MM-DD.")
-                    .arg(Excerpt(line.parser.value(line.today))));
+            throw Refusal(u"--today: \"%1\" is not allowed; give a date as YYYY-MM-DD."_s.arg(
+                Excerpt(line.parser.value(line.today))));
     }
     for (const QString &caption : line.parser.values(line.topic)) {
         const std::u16string_view known = KnownCaption(caption.toStdU16String());
         if (known.empty())
-            return complain(
-                QStringLiteral(
-                    "--topic: \"%1\" is not a topic; give a caption of the tree, such as "
-                    "\"Life Path Number\" or \"Comprehensive Reading\".")
-                    .arg(Excerpt(caption)));
+            throw Refusal(
+                u"--topic: \"%1\" is not a topic; give a caption of the tree, such as "
+                "\"Life Path Number\" or \"Comprehensive Reading\"."_s.arg(Excerpt(caption)));
         options.topics.push_back(known);
     }
     if (options.topics.empty())
@@ -257,11 +220,10 @@ std::optional<Options> ParseOptions(const QStringList &arguments, QString &compl
 
     options.batchFile = line.parser.value(line.batch);
     if (line.Given(line.batch) && options.batchFile.isEmpty())
-        return complain(
-            QStringLiteral("--batch is empty; give the name of a file, or - for standard input."));
+        throw Refusal(u"--batch is empty; give the name of a file, or - for standard input."_s);
     options.output = line.parser.value(line.output);
     if (line.Given(line.output) && options.output.isEmpty())
-        return complain(QStringLiteral("--output is empty; give the name of a file."));
+        throw Refusal(u"--output is empty; give the name of a file."_s);
     options.person = {line.parser.value(line.first), line.parser.value(line.middle),
                       line.parser.value(line.last),  line.parser.value(line.month),
                       line.parser.value(line.day),   line.parser.value(line.year)};

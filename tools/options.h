@@ -26,10 +26,10 @@ struct Options {
     QString help;                            ///< the text of --help
 };
 
-/// Whether all arguments behind the program's name are UTF-8, which their decoded form no
-/// longer tells. If not, `complaint` is set to one line that names the option.
-bool AreUtf8(int argc, const char *const *argv, QString &complaint);
+/// Throws Refusal, naming the option, unless all arguments behind the program's name are
+/// UTF-8. Their decoded form no longer tells.
+void RequireUtf8(int argc, const char *const *argv);
 
-/// The options of `arguments`, the program's name first; or nothing, with `complaint` set
-/// to one line that names the option and what is allowed.
-std::optional<Options> ParseOptions(const QStringList &arguments, QString &complaint);
+/// The options of `arguments`, the program's name first. Throws Refusal with a line that
+/// names the option and what is allowed.
+Options ParseOptions(const QStringList &arguments);

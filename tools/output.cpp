@@ -1,6 +1,7 @@
 #include "tools/output.h"
 
-#include "tools/excerpt.h"
+#include "tools/refusal.h"
+#include "tools/text.h"
 
 #include <QFileInfo>
 
@@ -8,9 +9,10 @@
 #include <cstdio>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 Output::Output(const QString &fileName, const QString &option)
-    : name_(fileName.isEmpty() ? QStringLiteral("standard output")
-                               : option + QStringLiteral(": ") + Excerpt(fileName)) {
+    : name_(fileName.isEmpty() ? u"standard output"_s : option + u": "_s + Excerpt(fileName)) {
     if (fileName.isEmpty())
         return;
     const QFileInfo present(fileName);
@@ -22,17 +24,14 @@ Output::Output(const QString &fileName, const QString &option)
         Fail(file_->errorString());
 }
 
-void Output::Fail(const QString &reason) {
-    if (error_.isEmpty())
-        error_ = name_ + QStringLiteral(": ") + reason;
+void Output::Fail(const QString &reason) const {
+    throw Refusal(name_ + u": "_s + reason, ExitCode::Failed);
 }
 
 void Output::Write(std::string_view bytes) {
-    if (!error_.isEmpty())
-        return;
     if (file_) {
-        if (file_->write(bytes.data(), static_cast<qint64>(bytes.size())) !=
-            static_cast<qint64>(bytes.size()))
+        const auto size = static_cast<qint64>(bytes.size());
+        if (file_->write(bytes.data(), size) != size)
             Fail(file_->errorString());
     } else if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() ||
                std::fflush(stdout) != 0) {
@@ -41,9 +40,10 @@ void Output::Write(std::string_view bytes) {
 }
 
 void Output::Finish() {
-    if (!error_.isEmpty() || !file_)
+    if (!file_)
         return;
-    // A full disk may show in the flush alone; a commit without it would let a stump through.
+    // On a full disk the flush may be the first to fail; a commit without it would put a file
+    // that is cut short in place.
     auto *replacing = qobject_cast<QSaveFile *>(file_.get());
     if (!file_->flush() || (replacing != nullptr && !replacing->commit()))
         Fail(file_->errorString());

@@ -1,7 +1,7 @@
 #pragma once
 
 // Where the report tool's bytes go: standard output, or a file that is written whole or
-// not at all.
+// not at all. What cannot be written throws Refusal with ExitCode::Failed.
 
 #include <QSaveFile>
 
@@ -14,9 +14,6 @@ public:
     /// empty one. A device or a pipe is written as it is, since it cannot be replaced.
     explicit Output(const QString &fileName, const QString &option = QStringLiteral("--output"));
 
-    /// Why the output cannot be written, or empty while all is well.
-    QString Error() const { return error_; }
-
     /// Appends `bytes`; on standard output they are on their way when this returns.
     void Write(std::string_view bytes);
 
@@ -24,9 +21,8 @@ public:
     void Finish();
 
 private:
-    void Fail(const QString &reason);
+    [[noreturn]] void Fail(const QString &reason) const;
 
-    QString name_;                      ///< in complaints
+    QString name_;                      ///< in messages
     std::unique_ptr<QFileDevice> file_; ///< none for standard output
-    QString error_;
 };

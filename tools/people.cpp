@@ -3,13 +3,19 @@
 #include "core/clock.h"
 #include "core/months.h"
 #include "core/text.h"
-#include "core/user_profile.h"
 #include "numbers/essence.h"
-#include "tools/excerpt.h"
+#include "report/person.h"
+#include "tools/refusal.h"
+#include "tools/text.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
-using modReadings::Person;
+using namespace Qt::StringLiterals;
+
+using modReadings::NamePart;
+using modReadings::UserProfile;
 
 namespace {
 
@@ -32,65 +38,47 @@ QString MonthName(const QString &text) {
     return {};
 }
 
-bool HasYears(const std::u16string &name, bool (*lasts)(char16_t)) {
-    return std::ranges::any_of(name, lasts);
-}
-
 /// The walk of the Essence repeats a name until the person's age is reached and has no
-/// guard. The window behaves so; a program that scripts wait for must not.
-bool RefuseEndlessEssence(const InputNames &names, QString &complaint) {
-    using modReadings::profile;
-    if (modReadings::Clock::Year() - modReadings::NumberFromText(profile.BirthYear) <= 0)
-        return false;
-    const auto refuse = [&](const char *input, const char *letters) {
-        complaint =
-            QStringLiteral(
-                "%1 has no letter that the Essence can count; give a name with at least one of the "
-                "letters %2")
-                .arg(names(input), QLatin1StringView(letters));
-        return true;
-    };
-    if (!HasYears(profile.FirstName, modReadings::LastsInFirstName))
-        return refuse("first", "A to Z");
-    if (!profile.MiddleName.empty() && !HasYears(profile.MiddleName, modReadings::LastsInFirstName))
-        return refuse("middle", "A to Z");
-    if (!HasYears(profile.LastName, modReadings::LastsInLastName))
-        return refuse("last", "A to Z other than F");
-    return false;
+/// limit. The window behaves so; a program that scripts wait for must not.
+void RefuseEndlessEssence(const UserProfile &person, const QString &prefix) {
+    const int age = modReadings::Clock::Year() - modReadings::NumberFromText(person.BirthYear);
+    const auto endless = EndlessName(person, static_cast<modReadings::int16>(age));
+    if (!endless)
+        return;
+    const auto [name, letters] = *endless == NamePart::First ? std::pair("first"_L1, "A to Z"_L1)
+                                 : *endless == NamePart::Middle
+                                     ? std::pair("middle"_L1, "A to Z"_L1)
+                                     : std::pair("last"_L1, "A to Z other than F"_L1);
+    throw Refusal(u"%1 has no letter that the Essence can count; give a name with at least one of "
+                  "the letters %2"_s.arg(prefix + name, letters));
 }
 
 } // namespace
 
-std::optional<Person> CheckPerson(const PersonInput &input, const InputNames &names,
-                                  QString &complaint) {
-    const auto reject = [&](const char *name, const QString &value,
-                            const QString &allowed) -> std::optional<Person> {
-        complaint = value.isEmpty()
-                        ? QStringLiteral("%1 is missing or empty; %2").arg(names(name), allowed)
-                        : QStringLiteral("%1: \"%2\" is not allowed; %3")
-                              .arg(names(name), Excerpt(value), allowed);
-        return std::nullopt;
+UserProfile CheckPerson(const PersonInput &input, const QString &prefix) {
+    const auto refusal = [&](QLatin1StringView name, const QString &value, const QString &allowed) {
+        return Refusal(value.isEmpty() ? u"%1 is missing or empty; %2"_s.arg(prefix + name, allowed)
+                                       : u"%1: \"%2\" is not allowed; %3"_s.arg(
+                                             prefix + name, Excerpt(value), allowed));
     };
 
     if (input.first.isEmpty())
-        return reject("first", {}, QStringLiteral("give the first name"));
+        throw refusal("first"_L1, {}, u"give the first name"_s);
     if (input.last.isEmpty())
-        return reject("last", {}, QStringLiteral("give the last name"));
+        throw refusal("last"_L1, {}, u"give the last name"_s);
     const QString month = MonthName(input.month);
     if (month.isEmpty())
-        return reject("month", input.month,
-                      QStringLiteral("give an English month name or a number from 1 to 12"));
+        throw refusal("month"_L1, input.month,
+                      u"give an English month name or a number from 1 to 12"_s);
     const auto day = Number(input.day, 1, 31);
     if (!day)
-        return reject("day", input.day, QStringLiteral("give a number from 1 to 31"));
+        throw refusal("day"_L1, input.day, u"give a number from 1 to 31"_s);
     const auto year = Number(input.year, 1900, 2050);
     if (!year)
-        return reject("year", input.year, QStringLiteral("give a number from 1900 to 2050"));
+        throw refusal("year"_L1, input.year, u"give a number from 1900 to 2050"_s);
 
-    const Person person{input.first, input.middle,          input.last,
-                        month,       QString::number(*day), QString::number(*year)};
-    modReadings::CaptureProfile(person);
-    if (RefuseEndlessEssence(names, complaint))
-        return std::nullopt;
+    UserProfile person = modReadings::Captured({input.first, input.middle, input.last, month,
+                                                QString::number(*day), QString::number(*year)});
+    RefuseEndlessEssence(person, prefix);
     return person;
 }

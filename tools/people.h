@@ -1,13 +1,10 @@
 #pragma once
 
-// The people that the report tool reads: what is allowed for each input, and the
-// complaint where it is not.
+// The people that the report tool reads: what is allowed for each input.
 
-#include "report/person.h"
+#include "core/user_profile.h"
 
 #include <QString>
-
-#include <optional>
 
 /// The inputs of one person as text, before they are checked.
 struct PersonInput {
@@ -19,17 +16,10 @@ struct PersonInput {
     QString year;
 };
 
-/// How the inputs are called where they come from, such as "--first" or "first".
-struct InputNames {
-    QString prefix;
-
-    QString operator()(const char *input) const { return prefix + QLatin1StringView(input); }
-};
-
 /// Checks `input` against what the window's boxes and lists allow: names not empty, an
 /// English month name or 1 to 12, a day from 1 to 31, a year from 1900 to 2050. Also
 /// refuses a name whose Essence would never come to an end in the present year. Returns
-/// the person, month by its English name, or sets `complaint` to one line that names the
-/// input and what is allowed.
-std::optional<modReadings::Person> CheckPerson(const PersonInput &input, const InputNames &names,
-                                               QString &complaint);
+/// the person captured as the window does it, with the English name of the month. Throws
+/// Refusal with a line that names the input, with `prefix` in front ("--first" on the
+/// command line, "first" in a batch), and says what is allowed.
+modReadings::UserProfile CheckPerson(const PersonInput &input, const QString &prefix = {});

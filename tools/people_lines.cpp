@@ -1,7 +1,7 @@
 #include "tools/people_lines.h"
 
-#include "tools/excerpt.h"
-#include "tools/formats.h"
+#include "tools/refusal.h"
+#include "tools/text.h"
 
 #include <csv.h>
 #include <rapidjson/document.h>
@@ -9,6 +9,9 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,8 +27,7 @@ constexpr std::array<Member, 6> members{{{"first", &PersonInput::first},
                                          {"day", &PersonInput::day},
                                          {"year", &PersonInput::year}}};
 
-const QString allowedMembers =
-    QStringLiteral("allowed are first, middle, last, month, day and year");
+const QString allowedMembers = u"allowed are first, middle, last, month, day and year"_s;
 
 QString PersonInput::*InputNamed(std::string_view name) {
     const auto found = std::ranges::find(members, name, &Member::name);
@@ -76,9 +78,39 @@ bool NamesAColumn(const CsvLine &line) {
         line.fields, [](const std::string &field) { return InputNamed(field) != nullptr; });
 }
 
+PersonInput ParseJson(const std::string &line) {
+    if (!BeginsObject(line))
+        throw Refusal(u"not a JSON object, and the first line is no CSV header; "_s +
+                      allowedMembers);
+    rapidjson::Document document;
+    // Iteratively: a line nested without measure must not exhaust the stack.
+    document.Parse<rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag>(
+        line.data(), line.size());
+    if (document.HasParseError())
+        throw Refusal(
+            u"not JSON: %1 (at character %2)"_s
+                .arg(QString::fromUtf8(rapidjson::GetParseError_En(document.GetParseError())))
+                .arg(document.GetErrorOffset() + 1));
+
+    PersonInput person;
+    for (const auto &member : document.GetObject()) {
+        const std::string_view bytes(member.name.GetString(), member.name.GetStringLength());
+        const QString name = Excerpt(QString::fromUtf8(bytes));
+        QString PersonInput::*input = InputNamed(bytes);
+        if (input == nullptr)
+            throw Refusal(u"the member \"%1\" is not allowed; %2"_s.arg(name, allowedMembers));
+        const auto value = Value(member.value);
+        if (!value)
+            throw Refusal(
+                u"%1 is neither a text of whole characters nor a whole number"_s.arg(name));
+        person.*input = *value;
+    }
+    return person;
+}
+
 } // namespace
 
-bool PeopleLines::Begin(const std::string &line, QString &complaint) {
+bool PeopleLines::Begin(const std::string &line) {
     if (BeginsObject(line))
         return false;
     const CsvLine header(line);
@@ -87,93 +119,37 @@ bool PeopleLines::Begin(const std::string &line, QString &complaint) {
 
     for (const std::string &name : header.fields) {
         QString PersonInput::*input = InputNamed(name);
-        if (input == nullptr || std::ranges::find(columns_, input) != columns_.end()) {
-            complaint = QStringLiteral("the header has the column \"%1\" %2; %3")
-                            .arg(Excerpt(QString::fromUtf8(name)),
-                                 input == nullptr ? QStringLiteral("that is not allowed")
-                                                  : QStringLiteral("twice"),
-                                 allowedMembers);
-            return true;
-        }
+        if (input == nullptr || std::ranges::find(columns_, input) != columns_.end())
+            throw Refusal(u"the header has the column \"%1\" %2; %3"_s.arg(
+                Excerpt(QString::fromUtf8(name)),
+                input == nullptr ? u"that is not allowed"_s : u"twice"_s, allowedMembers));
         columns_.push_back(input);
     }
     for (const Member &member : members)
-        if (member.name != "middle" &&
-            std::ranges::find(columns_, member.input) == columns_.end()) {
-            complaint = QStringLiteral("the header lacks the column \"%1\"; %2")
-                            .arg(QLatin1StringView(member.name.data(),
-                                                   static_cast<qsizetype>(member.name.size())),
-                                 allowedMembers);
-            return true;
-        }
+        if (member.name != "middle" && std::ranges::find(columns_, member.input) == columns_.end())
+            throw Refusal(u"the header lacks the column \"%1\"; %2"_s.arg(
+                QString::fromUtf8(member.name), allowedMembers));
     if (!header.error.empty())
-        complaint =
-            QStringLiteral("the header is not CSV: ") + QString::fromStdString(header.error);
+        throw Refusal(u"the header is not CSV: "_s + QString::fromStdString(header.error));
     return true;
 }
 
-std::optional<PersonInput> PeopleLines::Parse(const std::string &line, QString &complaint) const {
-    return columns_.empty() ? ParseJson(line, complaint) : ParseCsv(line, complaint);
+PersonInput PeopleLines::Parse(const std::string &line) const {
+    return columns_.empty() ? ParseJson(line) : ParseCsv(line);
 }
 
-std::optional<PersonInput> PeopleLines::ParseJson(const std::string &line,
-                                                  QString &complaint) const {
-    const auto complain = [&](const QString &what) {
-        complaint = what;
-        return std::nullopt;
-    };
-    if (!BeginsObject(line))
-        return complain(QStringLiteral("not a JSON object, and the first line is no CSV header; ") +
-                        allowedMembers);
-    rapidjson::Document document;
-    // Iteratively: a line nested without measure must not exhaust the stack.
-    document.Parse<rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag>(
-        line.data(), line.size());
-    if (document.HasParseError())
-        return complain(
-            QStringLiteral("not JSON: %1 (at character %2)")
-                .arg(QLatin1StringView(rapidjson::GetParseError_En(document.GetParseError())))
-                .arg(document.GetErrorOffset() + 1));
-
-    PersonInput person;
-    for (const auto &member : document.GetObject()) {
-        const QString name = Excerpt(QString::fromUtf8(
-            member.name.GetString(), static_cast<qsizetype>(member.name.GetStringLength())));
-        QString PersonInput::*input =
-            InputNamed({member.name.GetString(), member.name.GetStringLength()});
-        if (input == nullptr)
-            return complain(
-                QStringLiteral("the member \"%1\" is not allowed; %2").arg(name, allowedMembers));
-        const auto value = Value(member.value);
-        if (!value)
-            return complain(
-                QStringLiteral("%1 is neither a text of whole characters nor a whole number")
-                    .arg(name));
-        person.*input = *value;
-    }
-    return person;
-}
-
-std::optional<PersonInput> PeopleLines::ParseCsv(const std::string &line,
-                                                 QString &complaint) const {
+PersonInput PeopleLines::ParseCsv(const std::string &line) const {
     const CsvLine csv(line);
-    if (!csv.error.empty()) {
-        complaint = QStringLiteral("not CSV: ") + QString::fromStdString(csv.error);
-        return std::nullopt;
-    }
-    if (csv.fields.size() != columns_.size()) {
-        complaint = QStringLiteral("%1 fields where the header has %2")
-                        .arg(csv.fields.size())
-                        .arg(columns_.size());
-        return std::nullopt;
-    }
+    if (!csv.error.empty())
+        throw Refusal(u"not CSV: "_s + QString::fromStdString(csv.error));
+    if (csv.fields.size() != columns_.size())
+        throw Refusal(
+            u"%1 fields where the header has %2"_s.arg(csv.fields.size()).arg(columns_.size()));
     PersonInput person;
     for (std::size_t index = 0; index < columns_.size(); ++index) {
         const auto text = FromUtf8(csv.fields[index]);
-        if (!text) {
-            complaint = QStringLiteral("not UTF-8");
-            return std::nullopt;
-        }
+        if (!text)
+            throw Refusal(u"not UTF-8"_s);
         person.*columns_[index] = *text;
     }
     return person;

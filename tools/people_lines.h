@@ -7,25 +7,20 @@
 
 #include "tools/people.h"
 
-#include <QString>
-
-#include <optional>
 #include <string>
 #include <vector>
 
 class PeopleLines {
 public:
     /// Takes the first line that is not blank. Returns true when it was a header and holds
-    /// no person. For a header with a wrong, doubled or missing column `complaint` is set
-    /// to one line.
-    bool Begin(const std::string &line, QString &complaint);
+    /// no person. Throws Refusal for a header with a wrong, doubled or missing column.
+    bool Begin(const std::string &line);
 
-    /// The inputs that `line` holds, unchecked; or nothing and a `complaint`.
-    std::optional<PersonInput> Parse(const std::string &line, QString &complaint) const;
+    /// The inputs that `line` holds, unchecked. Throws Refusal for a line that holds none.
+    PersonInput Parse(const std::string &line) const;
 
 private:
-    std::optional<PersonInput> ParseJson(const std::string &line, QString &complaint) const;
-    std::optional<PersonInput> ParseCsv(const std::string &line, QString &complaint) const;
+    PersonInput ParseCsv(const std::string &line) const;
 
     std::vector<QString PersonInput::*> columns_; ///< empty for JSON Lines
 };

@@ -1,5 +1,6 @@
 #include "tools/reading.h"
 
+#include "core/clock.h"
 #include "core/proceed_pass.h"
 #include "core/reading_store.h"
 #include "report/rendering.h"
@@ -23,25 +24,23 @@ std::u16string_view KnownCaption(std::u16string_view caption) {
                                                      : std::u16string_view();
 }
 
-std::vector<TopicReading> ReadPerson(const Person &person,
-                                     std::span<const std::u16string_view> captions) {
+PersonReading ReadPerson(const UserProfile &person, std::span<const std::u16string_view> captions) {
+    const FixedClock oneDay(Clock::Date());
     store = {};
-    CaptureProfile(person);
+    profile = person;
     RunAllCalculators();
 
-    std::vector<TopicReading> readings;
-    readings.reserve(captions.size());
+    PersonReading reading{person, Clock::Date(), {}};
+    reading.topics.reserve(captions.size());
     for (const std::u16string_view caption : captions) {
-        RunList pane;
-        TopicReading reading{caption, {}, {}};
+        TopicReading &topicReading = reading.topics.emplace_back();
+        topicReading.caption = caption;
         if (const Topic *topic = FindTopic(caption)) {
-            RunAndRenderTopic(pane, *topic);
-            Attempt([&] { reading.number = HeadingNumberText(*topic); });
+            topicReading.report = RunAndRenderTopic(*topic);
+            Attempt([&] { topicReading.number = HeadingNumberText(*topic); });
         } else {
-            RenderComprehensiveReading(pane);
+            topicReading.report = RenderComprehensiveReading();
         }
-        reading.runs = pane.TakeRuns();
-        readings.push_back(std::move(reading));
     }
-    return readings;
+    return reading;
 }

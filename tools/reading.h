@@ -1,11 +1,12 @@
 #pragma once
 
-// One person's report, made as the window makes it: capture, the pass, then each topic
-// by what a click on its node does.
+// One person's reading, made as the window makes it: the pass, then each topic by what a
+// click on its node does.
 
-#include "report/person.h"
-#include "report/run_list.h"
+#include "core/user_profile.h"
+#include "report/report.h"
 
+#include <chrono>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,7 +15,14 @@
 struct TopicReading {
     std::u16string_view caption;
     std::u16string number; ///< the text behind the heading literal; empty where there is none
-    std::vector<modReadings::Run> runs;
+    modReadings::Report report;
+};
+
+/// All that an output format sees of a person.
+struct PersonReading {
+    modReadings::UserProfile person;
+    std::chrono::year_month_day day; ///< the day for which the person is read
+    std::vector<TopicReading> topics;
 };
 
 /// The captions of all topics, in the order of the pass.
@@ -24,7 +32,7 @@ std::vector<std::u16string_view> AllCaptions();
 /// Reading; empty for anything else. The view lives as long as the program.
 std::u16string_view KnownCaption(std::u16string_view caption);
 
-/// Reads `person` on a fresh store and renders the topics of `captions`, which are known
-/// ones, in their order.
-std::vector<TopicReading> ReadPerson(const modReadings::Person &person,
-                                     std::span<const std::u16string_view> captions);
+/// Reads `person` for the present day, which stands still meanwhile, on a fresh store. Renders
+/// the topics of `captions`, which are known ones, in their order.
+PersonReading ReadPerson(const modReadings::UserProfile &person,
+                         std::span<const std::u16string_view> captions);

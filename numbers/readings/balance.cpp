@@ -142,9 +142,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable balance = rows;
-
-constinit const std::u16string_view balanceAbout =
+constinit const Prose balance{
+    rows,
     u"Different people react differently to the challenges they face in life. The same bad news "
     u"sends one person out of the house and another to the telephone; a third goes on with the "
     u"dishes as if nothing had been said. Each of us has such a habit, learned so early that it "
@@ -155,6 +154,6 @@ constinit const std::u16string_view balanceAbout =
     u"angry or pressed, what this does to those who are near you at the time, and what helps "
     u"you to recover your balance. The values of the first letters of your names are added and "
     u"reduced to a single digit to find it. Read it on a calm day, for in the heat of a quarrel "
-    u"nobody looks anything up.";
+    u"nobody looks anything up."};
 
 } // namespace modReadings::readings

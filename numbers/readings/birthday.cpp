@@ -470,9 +470,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable birthday = rows;
-
-constinit const std::u16string_view birthdayAbout =
+constinit const Prose birthday{
+    rows,
     u"This number tells about the various happenings that might occur in your midlife. It is "
     u"the day of the month on which you were born, taken as it stands: a person born on the "
     u"29th has the number 29, and the digits are not added together. That is why there are 31 "
@@ -485,6 +484,6 @@ constinit const std::u16string_view birthdayAbout =
     u"13th is a relative of the 4 without being a copy of it. Read it as you would a letter of "
     u"reference, to see what you bring to a task. You need not wait until midlife to try it "
     u"out. Many people recognize their day in themselves as children and learn only later what "
-    u"it is good for.";
+    u"it is good for."};
 
 } // namespace modReadings::readings

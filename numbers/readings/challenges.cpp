@@ -135,9 +135,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable challenge = rows;
-
-constinit const std::u16string_view challengeAbout =
+constinit const Prose challenge{
+    rows,
     u"Life is not a bed of roses. Each of us has some weak place at which we stumble again and "
     u"again until we learn to walk around it or make it strong. The challenge numbers come from "
     u"your date of birth and name these weak places for you, so that you know what you are up "
@@ -147,6 +146,6 @@ constinit const std::u16string_view challengeAbout =
     u"of life and asks the most.\r\n"
     u"The first sub challenge indicates problems in the first part of your life, and the second "
     u"sub challenge indicates problems during the second half of the life. Both grow lighter "
-    u"once you stop blaming others or bad luck and look at your own part in them.";
+    u"once you stop blaming others or bad luck and look at your own part in them."};
 
 } // namespace modReadings::readings

@@ -170,9 +170,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable destiny = rows;
-
-constinit const std::u16string_view destinyAbout =
+constinit const Prose destiny{
+    rows,
     u"A destiny number is the number one gets by adding all the letters of a person's name. "
     u"Each letter has a value from 1 to 9, and the sum is reduced to a single digit, except "
     u"that 11 and 22 are kept as they are. It is called the expression number too, because it "
@@ -180,6 +179,6 @@ constinit const std::u16string_view destinyAbout =
     u"whether or not you have picked them up. Where the life path describes the road, this "
     u"number describes the traveler's equipment and the kind of person it is meant to make. "
     u"Read it as a direction. A talent described here that you cannot find in yourself yet is "
-    u"generally one that nobody has so far asked you to use.";
+    u"generally one that nobody has so far asked you to use."};
 
 } // namespace modReadings::readings

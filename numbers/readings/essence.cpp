@@ -162,12 +162,11 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable essence = rows;
-
-constinit const std::u16string_view essenceAbout =
+constinit const Prose essence{
+    rows,
     u"This particular number indicates the possibilities that may arise during a specific time "
     u"period. Your essence number uses the letters in your name, to understand the different "
     u"influences you may face. This number tells about the influences your name might have on "
-    u"your life's happenings. It also forebodes about the possible happenings of future.";
+    u"your life's happenings. It also forebodes about the possible happenings of future."};
 
 } // namespace modReadings::readings

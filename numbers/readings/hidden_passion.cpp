@@ -79,12 +79,11 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable hiddenPassion = rows;
-
-constinit const std::u16string_view hiddenPassionAbout =
+constinit const Prose hiddenPassion{
+    rows,
     u"All of us are born with some talents. This number tells you about your hidden talents and "
     u"strengths. This number also reveals your personality. We also get an idea about how to "
     u"use and direct our positive strengths in the right way so that we reap the maximum "
-    u"benefits out of it. It is like a guide to your life.";
+    u"benefits out of it. It is like a guide to your life."};
 
 } // namespace modReadings::readings

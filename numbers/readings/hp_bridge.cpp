@@ -71,13 +71,12 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable hpBridge = rows;
-
-constinit const std::u16string_view hpBridgeAbout =
+constinit const Prose hpBridge{
+    rows,
     u"This number is like a bridge between what you really are and what others think you are. "
     u"This number helps to make others understand you much better. It also improves our "
     u"relationships. This number thus is like a bridge between how you think you are projecting "
     u"yourself and the way people see you. This will help improve your relationships and let "
-    u"others see the real you.";
+    u"others see the real you."};
 
 } // namespace modReadings::readings

@@ -130,14 +130,13 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable innerDreams = rows;
-
-constinit const std::u16string_view innerDreamsAbout =
+constinit const Prose innerDreams{
+    rows,
     u"This number is indicative of the various aspects and sides of our personality. It is "
     u"counted from the consonants of the name, the firm part of the sound that others hear "
     u"first. It shows how you strike people in the first half hour: the manner, the dress, what "
     u"they ask of you and what they leave to somebody else. Behind that front lies a dream that "
     u"you seldom speak of, and the same number describes it. Where the two pull apart, others "
-    u"are apt to judge you wrongly.";
+    u"are apt to judge you wrongly."};
 
 } // namespace modReadings::readings

@@ -74,9 +74,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable karmicDebt = rows;
-
-constinit const std::u16string_view karmicDebtAbout =
+constinit const Prose karmicDebt{
+    rows,
     u"The number indicates the mistakes we have made in our previous lifetimes, the results of "
     u"those mistakes are generally felt in this one, often in a place where we believe we have "
     u"done nothing to deserve them. A person who once left the work to others finds that work "
@@ -89,6 +88,6 @@ constinit const std::u16string_view karmicDebtAbout =
     u"with only the names changed. It is paid by doing willingly now, in small matters, what "
     u"was neglected then, and with each payment the trouble loosens its grip. The old habit is "
     u"still the easier one, so this takes patience. Left unpaid, the debt makes easy things "
-    u"hard. In numerological terms this burden is called a Karmic Debt.";
+    u"hard. In numerological terms this burden is called a Karmic Debt."};
 
 } // namespace modReadings::readings

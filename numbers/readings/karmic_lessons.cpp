@@ -141,9 +141,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable karmicLessons = rows;
-
-constinit const std::u16string_view karmicLessonsAbout =
+constinit const Prose karmicLessons{
+    rows,
     u"This number helps you to identify your weaknesses so that you realize them, and know how "
     u"to work on them. A weakness here is a side of life in which you have had little practice, "
     u"so the same sort of trouble finds you in one place after another. It stops coming back "
@@ -151,6 +150,6 @@ constinit const std::u16string_view karmicLessonsAbout =
     u"Every letter of your name points to a number. A number to which no letter points is "
     u"missing, and each missing number brings a lesson of its own. If there is one gap, you "
     u"know it well by now; if there are several, begin with the one that annoys you most to "
-    u"read. A name that has all nine sets no lesson.";
+    u"read. A name that has all nine sets no lesson."};
 
 } // namespace modReadings::readings

@@ -74,14 +74,13 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable leBridge = rows;
-
-constinit const std::u16string_view leBridgeAbout =
+constinit const Prose leBridge{
+    rows,
     u"This number gives you an idea about who you really are. The Life Path is the road you "
     u"travel, and the Expression is the talent that you carry along it. In many people the two "
     u"do not quite agree: the road asks for one thing and the hand is skilled in another. The "
     u"bridge number tells how far apart they lie. At 0 they agree, and the larger the number, "
     u"the more often a good ability meets with the wrong task. The reading names the quality to "
-    u"practice in everyday life, so that you can use on your road what you do well.";
+    u"practice in everyday life, so that you can use on your road what you do well."};
 
 } // namespace modReadings::readings

@@ -209,9 +209,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable lifePath = rows;
-
-constinit const std::u16string_view lifePathAbout =
+constinit const Prose lifePath{
+    rows,
     u"This number is one of the most important numbers that gives an overall idea about the "
     u"life of a person. It is worked out from the date of birth alone, so it stays the same "
     u"whatever name you take or drop. Day, month and year are added together and brought down "
@@ -219,6 +218,6 @@ constinit const std::u16string_view lifePathAbout =
     u"under your feet: the nature you set out with, the work that suits it, the way you love, "
     u"and the lesson that keeps turning up until you have learned it. It does not say how far "
     u"you will go or how fast. Read it first and hold the other numbers against it, for they "
-    u"tell what you carry along the way.";
+    u"tell what you carry along the way."};
 
 } // namespace modReadings::readings

@@ -68,14 +68,12 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable lifePathPeriods = rows;
-
-constinit const std::u16string_view lifePathPeriodsAbout =
-    u"Our life is divided into three parts. The first part is the first stage of a person's "
-    u"life. This is the developmental stage of a person's life. The second stage helps to "
-    u"understand yourself and develop your creative talents. Having gone through the various "
-    u"experiences in the third stage you are a wise person with great understanding about "
-    u"people and situations.";
+constinit const Prose lifePathPeriods{
+    rows, u"Our life is divided into three parts. The first part is the first stage of a person's "
+          u"life. This is the developmental stage of a person's life. The second stage helps to "
+          u"understand yourself and develop your creative talents. Having gone through the various "
+          u"experiences in the third stage you are a wise person with great understanding about "
+          u"people and situations."};
 
 constinit const std::u16string_view periodStage1 =
     u"This is the first stage of a person's life. It starts with your birth goes on till your "

@@ -46,12 +46,11 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable personalDay = rows;
-
-constinit const std::u16string_view personalDayAbout =
+constinit const Prose personalDay{
+    rows,
     u"You have to be aware and careful since the things done on this day will lay the "
     u"foundation for the days to come. The work you do, your thoughts during the day will set "
     u"the platform for the days to come. You will have to pay close attention to the activities "
-    u"of the day.";
+    u"of the day."};
 
 } // namespace modReadings::readings

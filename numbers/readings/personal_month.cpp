@@ -54,10 +54,9 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable personalMonth = rows;
-
-constinit const std::u16string_view personalMonthAbout =
+constinit const Prose personalMonth{
+    rows,
     u"Personal month number tells about the general trends, lessons to be learnt, difficulties "
-    u"to be faced and the rewards we will get in a particular month.";
+    u"to be faced and the rewards we will get in a particular month."};
 
 } // namespace modReadings::readings

@@ -113,11 +113,10 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable personalYear = rows;
-
-constinit const std::u16string_view personalYearAbout =
+constinit const Prose personalYear{
+    rows,
     u"This number describes the pattern of the particular year. Each year of your life is "
     u"different in one way or the other from the other years of your life. There are basically "
-    u"nine personal years in the life of a person. It coincides with the calendar year.";
+    u"nine personal years in the life of a person. It coincides with the calendar year."};
 
 } // namespace modReadings::readings

@@ -188,9 +188,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable pinnacle = rows;
-
-constinit const std::u16string_view pinnacleAbout =
+constinit const Prose pinnacle{
+    rows,
     u"You should aim for different goals to be fulfilled at different periods in your life. "
     u"What suits a beginner does not suit a person with thirty years behind them, and an aim "
     u"that fails in one period often succeeds in the next. A pinnacle tells you which aim the "
@@ -199,6 +198,6 @@ constinit const std::u16string_view pinnacleAbout =
     u"to about thirty. The second and the third last nine years each, and the fourth stays with "
     u"you from then on. Every pinnacle has a number, which names the chance that those years "
     u"hold out and the task they set. Read the one for your present age, the one before it to "
-    u"see what it taught you, and the next so that the change does not surprise you.";
+    u"see what it taught you, and the next so that the change does not surprise you."};
 
 } // namespace modReadings::readings

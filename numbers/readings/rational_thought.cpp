@@ -81,11 +81,10 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable rationalThought = rows;
-
-constinit const std::u16string_view rationalThoughtAbout =
+constinit const Prose rationalThought{
+    rows,
     u"This number reveals how your mind works in different situations of life. By knowing your "
     u"way of thought people can get an idea about your personality. This number also reveals "
-    u"about your level of intelligence and ability for logical thinking.";
+    u"about your level of intelligence and ability for logical thinking."};
 
 } // namespace modReadings::readings

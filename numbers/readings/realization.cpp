@@ -100,9 +100,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable realization = rows;
-
-constinit const std::u16string_view realizationAbout =
+constinit const Prose realization{
+    rows,
     u"This number tells about a person's hidden dreams and desires. It is also called the "
     u"maturity number, and it is found by adding the Life Path number to the Destiny number: "
     u"the road you walk and the talent you bring to it. What the two make together is seldom "
@@ -110,7 +109,7 @@ constinit const std::u16string_view realizationAbout =
     u"not be put off any longer or as a side of you that old friends had not met. If the same "
     u"number stands elsewhere in your report, it grows stronger with age; if it is new, it asks "
     u"you to change a habit or two. Read it as a picture of what is coming up from below, and "
-    u"make room for it in good time.";
+    u"make room for it in good time."};
 
 constinit const std::u16string_view realizationRefusal =
     u"Your Maturity Number is dependent on your LifePath Number and Destiny Number. "

@@ -153,12 +153,11 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable soulUrge = rows;
-
-constinit const std::u16string_view soulUrgeAbout =
+constinit const Prose soulUrge{
+    rows,
     u"The Soul's Urge or the heart's desire number has an important influence on our lives. "
     u"This number indicates what we value most in our lives. This number thus tells us about "
     u"our inner desires, urges, likes and dislikes. Satisfying these urges and desires makes us "
-    u"contended and at peace with ourselves.";
+    u"contended and at peace with ourselves."};
 
 } // namespace modReadings::readings

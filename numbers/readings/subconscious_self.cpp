@@ -114,9 +114,8 @@ constexpr Reading rows[] = {
 };
 } // namespace
 
-constinit const ReadingTable subconsciousSelf = rows;
-
-constinit const std::u16string_view subconsciousSelfAbout =
+constinit const Prose subconsciousSelf{
+    rows,
     u"You face different situations in life. Some can be seen coming, and for those you "
     u"prepare; others stand in the doorway before you have put down your keys. This number "
     u"shows how you meet the second kind, when there is no time to think and something older "
@@ -124,6 +123,6 @@ constinit const std::u16string_view subconsciousSelfAbout =
     u"in your name. Each value present is a tool within your reach. Where few are held, you "
     u"look about for help and your efforts scatter; where many are held, you keep your head, "
     u"though you are harder to help. What the name leaves out can still be learned by anybody "
-    u"who knows that it is missing.";
+    u"who knows that it is missing."};
 
 } // namespace modReadings::readings

@@ -116,14 +116,14 @@ TEST_F(ProceedPass, DebtAndHPBridgeRestOnZerosInTheFirstPass) {
     EXPECT_EQ(store.KarmicDebtNumber, 0);
     EXPECT_EQ(store.KarmicDebtText, u"Not Applicable");
     EXPECT_EQ(store.HPBridgeNumber, 0);
-    EXPECT_EQ(store.HPBridgeText, Row(readings::hpBridge, 0));
+    EXPECT_EQ(store.HPBridgeText, Row(readings::hpBridge.rows, 0));
 
     CalcKarmicDebt();
     EXPECT_EQ(store.KarmicDebtNumber, 14);
-    EXPECT_EQ(store.KarmicDebtText, Row(readings::karmicDebt, 14));
+    EXPECT_EQ(store.KarmicDebtText, Row(readings::karmicDebt.rows, 14));
     CalcHPBridge();
     EXPECT_EQ(store.HPBridgeNumber, 2); // 5 - 3
-    EXPECT_EQ(store.HPBridgeText, Row(readings::hpBridge, 2));
+    EXPECT_EQ(store.HPBridgeText, Row(readings::hpBridge.rows, 2));
 }
 
 TEST_F(ProceedPass, DebtAndHPBridgeAreRightInASecondPass) {
@@ -140,7 +140,7 @@ TEST_F(ProceedPass, DebtAndHPBridgeRestOnTheNamesOfThePersonBefore) {
     OakRiver();
     RunAllCalculators();
     EXPECT_EQ(store.KarmicDebtNumber, 14); // still Soul Urge 14 of the first person
-    EXPECT_EQ(store.KarmicDebtText, Row(readings::karmicDebt, 14));
+    EXPECT_EQ(store.KarmicDebtText, Row(readings::karmicDebt.rows, 14));
     EXPECT_EQ(store.HPBridgeNumber, 2);
 
     // Two people on, nothing of the first is left.
@@ -186,7 +186,7 @@ TEST_F(ProceedPass, LeavesItsTraceUnderAnHPBridgeOf9) {
     EXPECT_EQ(store.InnerDreamsNumber, 2);
     CalcHPBridge();
     EXPECT_EQ(store.HPBridgeNumber, 9);
-    EXPECT_EQ(store.HPBridgeText, Row(readings::hpBridge, 0)); // 9 has no reading
+    EXPECT_EQ(store.HPBridgeText, Row(readings::hpBridge.rows, 0)); // 9 has no reading
 }
 
 TEST_F(ProceedPass, MonthsBeforeTheNameWalksSeeTheNameBefore) {
@@ -304,7 +304,7 @@ TEST_F(ProceedPass, AnEmptyNameStopsThePlanesAndNothingBehindThem) {
     EXPECT_EQ(store.SoulUrgeRaw, 0);
     EXPECT_EQ(store.SoulUrgeNumber, 0);
     EXPECT_EQ(store.SoulUrgeText, before.SoulUrgeText); // no reading of 0
-    EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrgeAbout);
+    EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrge.about);
 }
 
 TEST_F(ProceedPass, ANameTooLongToCountStopsOnlyWhatWalksIt) {
@@ -397,9 +397,9 @@ TEST_F(ProceedPass, KeepsOfOnePersonWhatTheNextDoesNotAssign) {
 
     SkyLynn();
     RunAllCalculators();
-    EXPECT_EQ(store.DestinyText, Row(readings::destiny, 3));
-    EXPECT_EQ(store.SoulUrgeText, Row(readings::soulUrge, 5));
-    EXPECT_EQ(store.InnerDreamsText, Row(readings::innerDreams, 3));
+    EXPECT_EQ(store.DestinyText, Row(readings::destiny.rows, 3));
+    EXPECT_EQ(store.SoulUrgeText, Row(readings::soulUrge.rows, 5));
+    EXPECT_EQ(store.InnerDreamsText, Row(readings::innerDreams.rows, 3));
     EXPECT_EQ(store.BalanceNumber, 4);       // S 1 + L 3
     EXPECT_EQ(store.HiddenPassionNumber, 7); // Y before N
     EXPECT_EQ(store.YUsedAsVowel, -1);
@@ -440,7 +440,7 @@ TEST_F(ProceedPass, ReadsAUserWhoTouchedNoDateAsBornOnTheFirstOfJanuary1900) {
     Born(u"1", u"January", u"1900");
     RunAllCalculators();
     EXPECT_EQ(store.LifePathNumber, 3); // 1 + 1 + 1
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 1));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 1));
     EXPECT_EQ(store.PersonalYearNumber, u"3"); // 1 + 1 + 1
 }
 
@@ -449,7 +449,7 @@ TEST_F(ProceedPass, ChecksNoCalendar) {
     Born(u"31", u"February", u"2000");
     RunAllCalculators();
     EXPECT_EQ(store.LifePathNumber, 8); // 4 + 2 + 2
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 31));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 31));
 }
 
 TEST_F(ProceedPass, CountsAMonthInAnotherLanguageAsNothing) {

@@ -30,7 +30,7 @@ TEST_F(Birthday, HasAReadingOfItsOwnForEachDay) {
         On(Decimal(day));
         EXPECT_EQ(store.BirthdayRaw, day);
         EXPECT_TRUE(IsReadingOf(store.BirthdayText, day, "BirthdayText"));
-        EXPECT_EQ(store.BirthdayText, Row(readings::birthday, day));
+        EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, day));
         EXPECT_TRUE(IsTextOf(store.BirthdayAbout, "BirthdayAbout"));
         if (day > 1) {
             EXPECT_EQ(store.BirthdayAbout, about);
@@ -70,16 +70,16 @@ TEST_F(Birthday, HasNoReadingOutsideTheMonth) {
 TEST_F(Birthday, TakesTheTextAsOneNumber) {
     On(u"07");
     EXPECT_EQ(store.BirthdayRaw, 7);
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 7));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 7));
 }
 
 TEST_F(Birthday, DoesNotLookAtMonthOrYear) {
     Born(u"31", u"February", u"2000");
     CalcBirthday();
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 31));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 31));
     Born(u"31", u"no month", u"no year");
     CalcBirthday();
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 31));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 31));
 }
 
 TEST_F(Birthday, FailsOnTextThatIsNoNumberAndKeepsItsSlots) {
@@ -111,13 +111,13 @@ TEST_F(Birthday, OfThreePeopleKeepsTheTextOfADayThatHasOne) {
     store.BirthdayAbout.clear();
     On(u"32");
     EXPECT_EQ(store.BirthdayRaw, 32);
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 31));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 31));
     EXPECT_TRUE(IsTextOf(store.BirthdayAbout, "BirthdayAbout"));
     EXPECT_THROW(On(u"x"), RuntimeFailure);
     EXPECT_EQ(store.BirthdayRaw, 32);
     On(u"5");
     EXPECT_EQ(store.BirthdayRaw, 5);
-    EXPECT_EQ(store.BirthdayText, Row(readings::birthday, 5));
+    EXPECT_EQ(store.BirthdayText, Row(readings::birthday.rows, 5));
 }
 
 } // namespace

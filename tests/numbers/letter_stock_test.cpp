@@ -34,7 +34,7 @@ protected:
             text += u"\r\n";
             text += digit;
             text += u"\r\n";
-            text += Row(readings::karmicLessons, static_cast<int16>(digit - u'0'));
+            text += Row(readings::karmicLessons.rows, static_cast<int16>(digit - u'0'));
         }
         EXPECT_EQ(store.KarmicLessonsNumber, list);
         EXPECT_EQ(store.KarmicLessonsText, text);
@@ -45,9 +45,9 @@ protected:
 TEST_F(KarmicLessons, OfOakRiverAre378) {
     Of(u"OAK", u"", u"RIVER");
     EXPECT_EQ(store.KarmicLessonsNumber, u" 3 7 8");
-    EXPECT_EQ(store.KarmicLessonsText, u"\r\n3\r\n" + Row(readings::karmicLessons, 3) +
-                                           u"\r\n7\r\n" + Row(readings::karmicLessons, 7) +
-                                           u"\r\n8\r\n" + Row(readings::karmicLessons, 8));
+    EXPECT_EQ(store.KarmicLessonsText, u"\r\n3\r\n" + Row(readings::karmicLessons.rows, 3) +
+                                           u"\r\n7\r\n" + Row(readings::karmicLessons.rows, 7) +
+                                           u"\r\n8\r\n" + Row(readings::karmicLessons.rows, 8));
     EXPECT_TRUE(store.KarmicLessonsText.starts_with(
         u"\r\n3\r\nThere are times when you are not happy with the things going on in your life."));
     EXPECT_FALSE(store.KarmicLessonsText.ends_with(u"\n"));
@@ -55,7 +55,7 @@ TEST_F(KarmicLessons, OfOakRiverAre378) {
 
 TEST_F(KarmicLessons, OpenEachInTheirOwnWords) {
     for (int16 value = 1; value <= 9; ++value)
-        EXPECT_TRUE(IsReadingOf(Row(readings::karmicLessons, value), value, "KarmicLessonsText"));
+        EXPECT_TRUE(IsReadingOf(Row(readings::karmicLessons.rows, value), value, "KarmicLessonsText"));
     EXPECT_EQ(readings::karmicLessons.size(), 9u);
 }
 
@@ -198,7 +198,7 @@ TEST_F(HiddenPassion, SelectsTheReadingOfItsNumber) {
     for (int16 value = 1; value <= 9; ++value) {
         ASSERT_EQ(Of(std::u16string(1, static_cast<char16_t>(u'A' + value - 1)), u"", u""), value);
         EXPECT_TRUE(IsReadingOf(store.HiddenPassionText, value, "HiddenPassionText"));
-        EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, value));
+        EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion.rows, value));
         EXPECT_TRUE(IsTextOf(store.HiddenPassionAbout, "HiddenPassionAbout"));
     }
     EXPECT_EQ(readings::hiddenPassion.size(), 9u);
@@ -234,15 +234,15 @@ TEST_F(HiddenPassion, OfThreePeopleKeepsANumberThatNoLetterReplaces) {
     store.HiddenPassionText = u"something else";
     store.HiddenPassionAbout.clear();
     EXPECT_EQ(Of(u"A B C", u"", u"D"), 9);
-    EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, 9)); // selected again
+    EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion.rows, 9)); // selected again
     EXPECT_TRUE(IsTextOf(store.HiddenPassionAbout, "HiddenPassionAbout"));
 
     store.HiddenPassionText = u"something else";
     EXPECT_EQ(Of(u"", u"", u""), 9);
-    EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, 9));
+    EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion.rows, 9));
 
     EXPECT_EQ(Of(u"AJS", u"", u"BB"), 2);
-    EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion, 2));
+    EXPECT_EQ(store.HiddenPassionText, Row(readings::hiddenPassion.rows, 2));
 }
 
 TEST_F(HiddenPassion, KeepsTheTextUnderANumberWithoutAReading) {

@@ -176,7 +176,7 @@ TEST_F(LifePath, SelectsTheReadingOfItsNumber) {
             day = u"9", month = u"September", year = u"4";
         ASSERT_EQ(NumberOf(day, month, year), number);
         EXPECT_TRUE(IsReadingOf(store.LifePathText, number, "LifePathText"));
-        EXPECT_EQ(store.LifePathText, Row(readings::lifePath, number));
+        EXPECT_EQ(store.LifePathText, Row(readings::lifePath.rows, number));
         EXPECT_TRUE(IsTextOf(store.LifePathAbout, "LifePathAbout"));
     }
     EXPECT_EQ(readings::lifePath.size(), std::size(numbers));
@@ -235,15 +235,15 @@ TEST_F(LifePath, FailsWhenADigitSumLeavesTheInt16Range) {
 
 TEST_F(LifePath, OfThreePeopleKeepsTheTextUnderA0) {
     Of(u"29", u"November", u"1999");
-    EXPECT_EQ(store.LifePathText, Row(readings::lifePath, 5));
+    EXPECT_EQ(store.LifePathText, Row(readings::lifePath.rows, 5));
 
     store.LifePathAbout.clear();
     EXPECT_EQ(Of(u"", u"", u""), (Result{0, 0}));
-    EXPECT_EQ(store.LifePathText, Row(readings::lifePath, 5)); // the first person's
+    EXPECT_EQ(store.LifePathText, Row(readings::lifePath.rows, 5)); // the first person's
     EXPECT_TRUE(IsTextOf(store.LifePathAbout, "LifePathAbout"));
 
     EXPECT_EQ(Of(u"9", u"September", u"1993"), (Result{22, 9}));
-    EXPECT_EQ(store.LifePathText, Row(readings::lifePath, 22));
+    EXPECT_EQ(store.LifePathText, Row(readings::lifePath.rows, 22));
 }
 
 } // namespace

@@ -87,14 +87,14 @@ TEST_F(NameNumbers, OfASingleConsonantInAFreshStore) {
     EXPECT_EQ(store.SoulUrgeRaw, 0);
     EXPECT_EQ(store.SoulUrgeNumber, 0);
     EXPECT_EQ(store.SoulUrgeText, u"");
-    EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrgeAbout);
+    EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrge.about);
     EXPECT_EQ(store.YUsedAsVowel, 0); // the second walk has met no Y
 }
 
 TEST_F(NameNumbers, OfVowelsAloneInAFreshStore) {
     EXPECT_EQ(Of(u"A", u"", u"E"), (Totals{6, 6, 6, 6, 0, 0}));
     EXPECT_EQ(store.InnerDreamsText, u"");
-    EXPECT_EQ(store.InnerDreamsAbout, readings::innerDreamsAbout);
+    EXPECT_EQ(store.InnerDreamsAbout, readings::innerDreams.about);
     EXPECT_EQ(Of(u"AEI", u"O", u"U"), (Totals{24, 6, 24, 6, 0, 0}));
 }
 
@@ -118,9 +118,9 @@ TEST_F(NameNumbers, OfNoLetterAre0WithoutAReading) {
         EXPECT_EQ(store.DestinyText, u"");
         EXPECT_EQ(store.SoulUrgeText, u"");
         EXPECT_EQ(store.InnerDreamsText, u"");
-        EXPECT_EQ(store.DestinyAbout, readings::destinyAbout);
-        EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrgeAbout);
-        EXPECT_EQ(store.InnerDreamsAbout, readings::innerDreamsAbout);
+        EXPECT_EQ(store.DestinyAbout, readings::destiny.about);
+        EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrge.about);
+        EXPECT_EQ(store.InnerDreamsAbout, readings::innerDreams.about);
         EXPECT_EQ(store.YUsedAsVowel, 0);
     }
 }
@@ -258,14 +258,14 @@ struct Topic {
 
 const Topic topics[] = {
     {"Destiny", CalcDestiny, &ReadingStore::DestinyNumber, &ReadingStore::DestinyRaw,
-     &ReadingStore::DestinyText, &ReadingStore::DestinyAbout, &readings::destiny, "DestinyText",
+     &ReadingStore::DestinyText, &ReadingStore::DestinyAbout, &readings::destiny.rows, "DestinyText",
      "DestinyAbout", u'R', u'A'},
     {"SoulUrge", CalcSoulUrge, &ReadingStore::SoulUrgeNumber, &ReadingStore::SoulUrgeRaw,
-     &ReadingStore::SoulUrgeText, &ReadingStore::SoulUrgeAbout, &readings::soulUrge, "SoulUrgeText",
+     &ReadingStore::SoulUrgeText, &ReadingStore::SoulUrgeAbout, &readings::soulUrge.rows, "SoulUrgeText",
      "SoulUrgeAbout", u'I', u'A'},
     {"InnerDreams", CalcInnerDreams, &ReadingStore::InnerDreamsNumber,
      &ReadingStore::InnerDreamsRaw, &ReadingStore::InnerDreamsText, &ReadingStore::InnerDreamsAbout,
-     &readings::innerDreams, "InnerDreamsText", "InnerDreamsAbout", u'R', u'J'},
+     &readings::innerDreams.rows, "InnerDreamsText", "InnerDreamsAbout", u'R', u'J'},
 };
 
 void PrintTo(const Topic &topic, std::ostream *out) { *out << topic.word; }

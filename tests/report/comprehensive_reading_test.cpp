@@ -153,60 +153,60 @@ TEST_F(ComprehensiveReadingBeforeAnyPass, IsTheReportOfAnEmptyProfile) {
     const std::u16string lessons = [] {
         std::u16string text;
         for (int16 value = 1; value <= 9; ++value)
-            text += u"\r\n" + DecimalText(value) + u"\r\n" + Row(readings::karmicLessons, value);
+            text += u"\r\n" + DecimalText(value) + u"\r\n" + Row(readings::karmicLessons.rows, value);
         return text;
     }();
-    const auto noChallenge = Row(readings::challenge, 0);
+    const auto noChallenge = Row(readings::challenge.rows, 0);
     const auto about = [](std::u16string_view text) { return std::u16string(text) + u"\r\n\r\n"; };
 
     std::u16string expected = u"Orravane Comprehensive Reading\r\n\r\n";
-    expected += u"Your Personal Month is: 3\r\n\r\n" + about(readings::personalMonthAbout) +
-                Row(readings::personalMonth, 3) + u"\r\n\r\n"; // 0 + 0 + 2 + 1
+    expected += u"Your Personal Month is: 3\r\n\r\n" + about(readings::personalMonth.about) +
+                Row(readings::personalMonth.rows, 3) + u"\r\n\r\n"; // 0 + 0 + 2 + 1
     expected += u"\r\n\r\n\r\n\r\n";                           // Birthday
-    expected += u"Your Hidden Passion Number is: 0\r\n\r\n" + about(readings::hiddenPassionAbout) +
+    expected += u"Your Hidden Passion Number is: 0\r\n\r\n" + about(readings::hiddenPassion.about) +
                 u"\r\n\r\n";
     // The stages of life are set before the birth year fails; About, text and lines are not.
     expected += u"Your Current LifePath Period Number is: 0\r\n\r\n\r\n\r\n\r\n\r\n";
     expected += u"\r\n" + about(readings::periodStage1) + u"\r\n" + about(readings::periodStage2) +
                 u"\r\n" + about(readings::periodStage3);
-    expected += u"Your Personal Year Number is: 1\r\n\r\n" + about(readings::personalYearAbout) +
-                Row(readings::personalYear, 1) + u"\r\n\r\n"; // 0 + 0 + 1
+    expected += u"Your Personal Year Number is: 1\r\n\r\n" + about(readings::personalYear.about) +
+                Row(readings::personalYear.rows, 1) + u"\r\n\r\n"; // 0 + 0 + 1
     expected += u"Pinnacle Phases\r\n\r\n\r\n\r\n"
                 u"\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
     expected += u"Your Subconscious Self Number is: 0\r\n\r\n" +
-                about(readings::subconsciousSelfAbout) +
+                about(readings::subconsciousSelf.about) +
                 u"This number is not valid for this name.\r\n\r\n";
     expected +=
-        u"Your Life Path Number is: 0\r\n\r\n" + about(readings::lifePathAbout) + u"\r\n\r\n";
-    expected += u"Your Destiny Or Expression Number is: 0\r\n\r\n" + about(readings::destinyAbout) +
+        u"Your Life Path Number is: 0\r\n\r\n" + about(readings::lifePath.about) + u"\r\n\r\n";
+    expected += u"Your Destiny Or Expression Number is: 0\r\n\r\n" + about(readings::destiny.about) +
                 u"\r\n\r\n";
     expected += u"Your Karmic Lessons Number is:  1 2 3 4 5 6 7 8 9\r\n\r\n" +
-                about(readings::karmicLessonsAbout) + lessons + u"\r\n\r\n";
-    expected += u"Your Challenge Number is: 0 0 0 0\r\n\r\n" + about(readings::challengeAbout) +
+                about(readings::karmicLessons.about) + lessons + u"\r\n\r\n";
+    expected += u"Your Challenge Number is: 0 0 0 0\r\n\r\n" + about(readings::challenge.about) +
                 u"First Challenge Number is 0\r\n" + noChallenge + u"\r\n\r\n" +
                 u"Second Challenge Number is 0\r\n" + noChallenge + u"\r\n\r\n" +
                 u"Third Challenge Number is 0\r\n" + noChallenge + u"\r\n\r\n" +
                 u"Fourth Challenge Number is 0\r\n" + noChallenge + u"\r\n\r\n";
     expected += u"Your Karmic Debt Number is: 0\r\n\r\n\r\n\r\n\r\n\r\n";
-    expected += u"Your Balance Number is: 0\r\n\r\n" + about(readings::balanceAbout) + u"\r\n\r\n";
-    expected += u"Your Personal Day is: 1\r\n\r\n" + about(readings::personalDayAbout) +
-                Row(readings::personalDay, 1) + u"\r\n\r\n"; // 0 + 0 + 7 + 2 + 1 = 10
+    expected += u"Your Balance Number is: 0\r\n\r\n" + about(readings::balance.about) + u"\r\n\r\n";
+    expected += u"Your Personal Day is: 1\r\n\r\n" + about(readings::personalDay.about) +
+                Row(readings::personalDay.rows, 1) + u"\r\n\r\n"; // 0 + 0 + 7 + 2 + 1 = 10
     expected += u"Your Rational Thought Number is: 0\r\n\r\n" +
-                about(readings::rationalThoughtAbout) + u"\r\n\r\n";
-    expected += u"Your HP Bridge Number is: 0\r\n\r\n" + about(readings::hpBridgeAbout) +
-                Row(readings::hpBridge, 0) + u"\r\n\r\n";
-    expected += u"Your LE Bridge Number is: 0\r\n\r\n" + about(readings::leBridgeAbout) +
-                Row(readings::leBridge, 0) + u"\r\n\r\n";
+                about(readings::rationalThought.about) + u"\r\n\r\n";
+    expected += u"Your HP Bridge Number is: 0\r\n\r\n" + about(readings::hpBridge.about) +
+                Row(readings::hpBridge.rows, 0) + u"\r\n\r\n";
+    expected += u"Your LE Bridge Number is: 0\r\n\r\n" + about(readings::leBridge.about) +
+                Row(readings::leBridge.rows, 0) + u"\r\n\r\n";
     expected += u"Your Essence Number is: 0\r\n\r\n\r\n\r\n\r\n\r\n";
     expected += u"Your Realization Or Maturity Number is: 0\r\n\r\n\r\n\r\n"
                 u"Your Maturity Number is dependent on your LifePath Number and Destiny Number. "
                 u"Please calculate these two figures first\r\n\r\n";
     expected += u"Your Inner Dreams Or Personality Number is: 0\r\n\r\n" +
-                about(readings::innerDreamsAbout) + u"\r\n\r\n";
+                about(readings::innerDreams.about) + u"\r\n\r\n";
     expected += u"Your Planes of Expression is towards \r\n\r\nYour Personal Aspects: "
                 u"\r\n\r\n\r\n\r\n";
     expected += u"Your Soul Urge Or Heart's Desire Number is: 0\r\n\r\n" +
-                about(readings::soulUrgeAbout) + u"\r\n\r\n";
+                about(readings::soulUrge.about) + u"\r\n\r\n";
 
     RunList pane;
     RenderComprehensiveReading(pane);

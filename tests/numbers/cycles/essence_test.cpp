@@ -218,9 +218,9 @@ TEST_F(Essence, LongLivesOfManyNames) {
 
 TEST_F(Essence, EveryRowIsReachedBut11And22) {
     ASSERT_EQ(readings::essence.size(), 11u);
-    EXPECT_EQ(readings::essence[9].number, 11);
-    EXPECT_EQ(readings::essence[10].number, 22);
-    for (const Reading &reading : readings::essence)
+    EXPECT_EQ(readings::essence.rows[9].number, 11);
+    EXPECT_EQ(readings::essence.rows[10].number, 22);
+    for (const Reading &reading : readings::essence.rows)
         EXPECT_TRUE(IsReadingOf(reading.text, reading.number, "EssenceText"));
 
     // At age 0 the first letters are in force: all sums from 2 to 27.

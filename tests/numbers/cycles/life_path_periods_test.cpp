@@ -195,10 +195,10 @@ TEST_F(LifePathPeriods, SumOf11Gives2AndSumOf22Gives4WhateverTheLifePathSays) {
 
 TEST_F(LifePathPeriods, RowsOf11And22HaveReadingsThatNoDateReaches) {
     ASSERT_EQ(readings::lifePathPeriods.size(), 11u);
-    for (const Reading &reading : readings::lifePathPeriods)
+    for (const Reading &reading : readings::lifePathPeriods.rows)
         EXPECT_TRUE(IsReadingOf(reading.text, reading.number, "LifePathPeriodsText"));
-    EXPECT_EQ(readings::lifePathPeriods[9].number, 11);
-    EXPECT_EQ(readings::lifePathPeriods[10].number, 22);
+    EXPECT_EQ(readings::lifePathPeriods.rows[9].number, 11);
+    EXPECT_EQ(readings::lifePathPeriods.rows[10].number, 22);
 
     std::set<int> roots;
     for (int year = 1900; year <= 2050; ++year) {

@@ -1,8 +1,4 @@
-#include "shell/save_report.h"
-
-#include "report/rtf.h"
-#include "shell/app.h"
-#include "shell/rich_text_box.h"
+#include "report/saving.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -12,17 +8,9 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include <cmath>
+using namespace Qt::StringLiterals;
 
 namespace {
-
-modReadings::RtfFont FontOf(const RichTextBox &RTB) {
-    const QFont &font = RTB.font();
-    modReadings::RtfFont rtf;
-    rtf.family = font.families().value(0).toStdString();
-    rtf.halfPoints = static_cast<int>(std::lround(font.pixelSize() * 72.0 / 96.0 * 2.0));
-    return rtf;
-}
 
 void WriteWhole(const QString &name, const std::string &content) {
     QSaveFile file(name); // writes beside the file and takes its place at the end
@@ -33,12 +21,12 @@ void WriteWhole(const QString &name, const std::string &content) {
         file.commit();
 }
 
-/// While it lives, the process stands in another folder.
-class StandingIn {
+/// While it lives, the process has another current folder.
+class CurrentFolder {
 public:
-    explicit StandingIn(const QString &folder) { QDir::setCurrent(folder); }
-    ~StandingIn() { QDir::setCurrent(before_); }
-    Q_DISABLE_COPY_MOVE(StandingIn)
+    explicit CurrentFolder(const QString &folder) { QDir::setCurrent(folder); }
+    ~CurrentFolder() { QDir::setCurrent(before_); }
+    Q_DISABLE_COPY_MOVE(CurrentFolder)
 
 private:
     const QString before_ = QDir::currentPath();
@@ -63,8 +51,7 @@ public:
     Q_DISABLE_COPY_MOVE(BorrowedSettings)
 
 private:
-    const QString original_ =
-        QSettings(QSettings::UserScope, QStringLiteral("QtProject")).fileName();
+    const QString original_ = QSettings(QSettings::UserScope, u"QtProject"_s).fileName();
     const QTemporaryDir copy_;
 };
 
@@ -74,9 +61,9 @@ public:
 
 protected:
     void accept() override {
-        // The dialog leaves a name without its ending where a folder of that name exists, and
-        // looks for one where the process stands. It has to look in the folder it shows.
-        const StandingIn folder(directory().absolutePath());
+        // The dialog adds no ending to a name that a folder has, and looks for such a folder
+        // in the current one. It has to look in the folder that it shows.
+        const CurrentFolder folder(directory().absolutePath());
         const QDir place = QFileInfo(selectedFiles().value(0)).dir();
         if (place.exists())
             QFileDialog::accept();
@@ -89,23 +76,26 @@ protected:
 
 } // namespace
 
-void SaveReport(const RichTextBox &RTB, QWidget *parent) {
+void SaveReport(const modReadings::Report &report, const modReadings::RtfFont &font,
+                const QString &title, QWidget *parent) {
     static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!QDir(folder).exists()) // the dialog would take its name for that of the file
         folder = QDir::homePath();
 
-    const BorrowedSettings borrowed; // outlives the dialog, which notes things in its end
-    SaveDialog dialog(parent, App::Title(), folder);
+    // Made before the dialog and so destroyed after it: the dialog writes its settings when
+    // it is destroyed.
+    const BorrowedSettings borrowed;
+    SaveDialog dialog(parent, title, folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setNameFilter(QStringLiteral("Rich Text Format (*.rtf)"));
+    dialog.setNameFilter(u"Rich Text Format (*.rtf)"_s);
     // A name without an ending gets ".txt" although the content is RTF. Odd, and settled.
-    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    dialog.setDefaultSuffix(u"txt"_s);
     QString name;
     QObject::connect(&dialog, &QFileDialog::fileSelected,
                      [&](const QString &file) { name = file; });
     if (dialog.exec() != QDialog::Accepted || name.isEmpty())
         return;
     folder = dialog.directory().absolutePath();
-    WriteWhole(name, modReadings::ToRtf(RTB.Runs(), FontOf(RTB)));
+    WriteWhole(name, modReadings::ToRtf(report, font));
 }

@@ -1,0 +1,27 @@
+#pragma once
+
+// Texts on their way in and out of the program.
+
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// `text` in UTF-8; a surrogate without its partner becomes U+FFFD.
+std::string ToUtf8(std::u16string_view text);
+
+/// The same without a copy, until the next call of either.
+std::string_view AsUtf8(std::u16string_view text);
+
+/// `bytes` as text, or nothing when they are not UTF-8.
+std::optional<QString> FromUtf8(std::string_view bytes);
+
+/// `text` in UTF-8 with its control characters written out ("\n", "\x1B"): a message that
+/// quotes what it was given stays one line and does nothing to a terminal.
+std::string OneLine(const QString &text);
+
+/// What a message shows of a text that it was given: all of a short one, and of a longer
+/// one the first and the last characters with "..." between, sixty in all. A surrogate pair
+/// is kept or left out whole.
+QString Excerpt(const QString &text);
