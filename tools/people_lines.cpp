@@ -93,7 +93,9 @@ PersonInput ParseJson(const std::string &line) {
                 .arg(document.GetErrorOffset() + 1));
 
     PersonInput person;
-    for (const auto &member : document.GetObject()) {
+    // By index: the library's iterators do not compare in C++20 as a range loop wants.
+    for (rapidjson::SizeType index = 0; index < document.MemberCount(); ++index) {
+        const auto &member = *(document.MemberBegin() + index);
         const std::string_view bytes(member.name.GetString(), member.name.GetStringLength());
         const QString name = Excerpt(QString::fromUtf8(bytes));
         QString PersonInput::*input = InputNamed(bytes);
