@@ -9,7 +9,7 @@ constexpr Reading rows[] = {
         u"come along. Beginnings suit you best, the first week of a job or a plan that nobody has "
         u"tried. Routine laid down by other people makes you short-tempered, so the road of your "
         u"life bends toward work in which you decide the how and the when and answer for the "
-        u"result. Asking for help with it is the hard part. An afternoon goes on a task that one "
+        u"result. Asking for help is the hard part of it. An afternoon goes on a task that one "
         u"phone call would settle, and you are proud of the afternoon. You would sooner pay for "
         u"the whole table than owe anyone a coffee. When words turn sharp at home you go straight "
         u"at the matter, and an hour later you are cheerful and hungry. The person you argued "
