@@ -61,8 +61,8 @@ constexpr Reading rows[] = {
         u"are still holding on when the excitable people have worn out. It does harm where "
         u"something ought to bend. A sheet of paper helps, with what happened on one side and "
         u"what you are afraid it means on the other; the first column is the shorter. Then, as a "
-        u"rule, one point can be given up without loss, and whoever sees you give it up remembers "
-        u"that longer than the point."},
+        u"rule, one point can be given up without loss, and whoever sees you do it remembers that "
+        u"longer than the point itself."},
     {5, u"People with 5 as their Balance number have rigid and conventional viewpoint. You would "
         u"be the last to think so, for in good times you try everything once. But when you are "
         u"hurt, out of all that variety you choose the same answer every time, which is the door. "

@@ -49,9 +49,9 @@ constexpr Reading rows[] = {
         u"friends. They have little idea how fond of them you are. You praise them warmly to "
         u"people who will never meet them, you have kept a drawing that one of them made at five, "
         u"and on the telephone with them you are brief. An invitation that made you glad lies "
-        u"unanswered because you meant to answer it well. None of it needs eloquence. At the dull "
-        u"end of a party, with your coat still on its hook, you sit down next to the bad knee, "
-        u"ask after it, and are understood."},
+        u"unanswered because you meant to answer it well. The gap needs no eloquence. At the dull "
+        u"end of a party, with your coat still on its hook, you sit down by the one with the bad "
+        u"knee, ask after it, and are understood."},
     {7, u"Spending some time in solitude would be rewarding enough for you. You fit so well into "
         u"every company, lively with the lively and grave with the grave, that your own wish gets "
         u"lost there. A friend takes up running and you buy the shoes; it is on a wet morning, "

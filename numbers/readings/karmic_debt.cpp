@@ -53,8 +53,8 @@ constexpr Reading rows[] = {
          u"offer an opinion, turns the key from the inside. Those nearest to you have learned to "
          u"bring you only finished work, because you go through it with a red pencil, and so you "
          u"miss the years in which they were trying. Your hours of silence are no part of the "
-         u"debt. And once in a while you catch yourself laughing along with the people who saw you "
-         u"fall, which is as near to free of it as anyone gets."},
+         u"debt. And once in a while you catch yourself laughing along with those who saw you "
+         u"lose, which is as near to free of it as anyone gets."},
     {19, u"You are a born leader and you have the abilities to overcome any obstacles that come in "
          u"your way. In earlier lives such strength served nobody but its owner: orders were "
          u"given, rivals were pushed aside, and the weak were told to manage. In this life you "

@@ -5,10 +5,10 @@ namespace modReadings::readings {
 namespace {
 constexpr Reading rows[] = {
     {0, u"People with this combination of Life Path/Expression Number will generally progress and "
-        u"accomplish their dreams in the work they would have picked for themselves. Most of what "
-        u"is asked of you, you can do, and friends who are still looking for their place find "
-        u"your advice too short. So good a fit can be worn half asleep, and then the harder half "
-        u"of the same work wakes you up again."},
+        u"accomplish their dreams in the work they would have picked for themselves. You can do "
+        u"most of what is asked of you, and friends who are still looking for their place find "
+        u"your advice too short. So good a fit can be worn half asleep. It is the harder half of "
+        u"the same work that wakes you up again."},
     {1, u"People with Life Path/Expression number 1 lack self-confidence. You have the ability, "
         u"and your road leads to places where someone must go first, but between the two stands a "
         u"person waiting to be told that it is time. When the group needs a head, you name two "

@@ -9,8 +9,8 @@ constexpr Reading rows[] = {
         u"improve it as you go. That a thing has always been done one way is reason enough for "
         u"you to look for another. Checking the proof bores you, and an idea seems truer if it is "
         u"your own, so the advice you fought at breakfast is back by supper as your discovery. "
-        u"Those of your plans that last are the ones somebody was allowed to attack for ten "
-        u"minutes, while you only took notes."},
+        u"The plans that last are those that somebody was allowed to attack for ten minutes, "
+        u"while you kept quiet and took notes."},
     {2, u"People of this rational number like to discuss things in detail with others before "
         u"coming to a conclusion. You think best across a table, watching a face that tells you "
         u"where your reasoning is thin. Who would be hurt counts with you as much as what is "

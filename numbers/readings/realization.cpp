@@ -26,9 +26,9 @@ constexpr Reading rows[] = {
         u"the sentence that they can all accept. Old slights lose their sting, and a remark that "
         u"would once have cost you a night's sleep makes you laugh. One thing has to be watched. "
         u"So many people come to you to be heard that you can go a month without a word on your "
-        u"own behalf. It does you good to have one friend with whom you are not fair at all. A "
-        u"bond formed or renewed in these years rests on firm ground, because you come to it as "
-        u"an equal."},
+        u"own behalf. It does you good to have one friend with whom you are unfair, and as cross "
+        u"as you please. A bond formed or renewed in these years rests on firm ground, because "
+        u"you come to it as an equal."},
     {3, u"Your confidence is at your peak at this time. The shyness or good sense that kept you "
         u"quiet in younger years falls away, and you begin to say, sing, paint or write what you "
         u"had only thought. You speak up in a full hall and sleep soundly afterward, whatever was "
@@ -69,7 +69,7 @@ constexpr Reading rows[] = {
         u"form of company."},
     {8, u"Once you set your goal, you devote your time and energy in achieving that goal. Later "
         u"the goals change size. Enough has been proved by then, or has turned out not to need "
-        u"it, and you ask what the strength is for. You give somebody a start, settle an old "
+        u"proof, and you ask what the strength is for. You give somebody a start, settle an old "
         u"family dispute in an afternoon, and do not look around to see who noticed. Idle hours "
         u"stay hard, until a child who has never heard of you wants to be taught to whistle."},
     {9, u"You are inclined towards doing social service. As the years go on your own advancement "

@@ -10,7 +10,7 @@ constexpr Reading rows[] = {
         u"you reach for the telephone first. The last train is canceled, and you have described "
         u"it to four people and not yet looked for a bus. Each of the four says something "
         u"different, and you do what the last one said. By then a friend is on the way with a "
-        u"car, a cousin has made up the sofa, and one of the two has to be called off with "
+        u"car, a cousin has made up a bed, and one of the two has to be called off with "
         u"apologies.\r\n"
         u"It is no small thing to know whom to ask, and you know it better than the sturdy ones "
         u"who would drown before they shouted. Your alarm is honest; you laugh soon afterward, "
@@ -20,7 +20,7 @@ constexpr Reading rows[] = {
         u"map, and a tongue that can ask the man at the counter.\r\n"
         u"In real danger a call for help is right, and nobody makes it sooner than you. Most "
         u"surprises are smaller. The wrong parcel arrives, the store is shut for inventory, a "
-        u"guest turns up a day early. Ten minutes with the telephone left in its pocket are as a "
+        u"guest turns up a day early. Ten minutes with the telephone left in your pocket are as a "
         u"rule enough to see what the matter is and to take one sensible step, and the step after "
         u"that is easier. You will still call your friends, but then it will be to tell them how "
         u"it went."},
