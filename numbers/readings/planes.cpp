@@ -29,8 +29,8 @@ constexpr AboutPart parts[] = {
      u"constitution. They trust what can be lifted, tasted or measured, and so do you "
      u"if this plane leads. You learn a machine by using it and leave the booklet in "
      u"the drawer. A long explanation makes your feet restless, and you believe in a "
-     u"plan only after you have walked over the ground. Bad news sends you out to chop "
-     u"wood or scrub a pot, and you feel better before you have had a thought about "
+     u"plan only after you have walked over the ground. Bad news sends you off to mop a "
+     u"floor or scrub a pot, and you feel better before you have had a thought about "
      u"it; sitting still with a worry wears you down. People like to work beside you, "
      u"because you have taken one end of the piano while the rest are still discussing "
      u"the stairs.",
@@ -38,7 +38,7 @@ constexpr AboutPart parts[] = {
     {u"You want to lead life in an unique and an innovative way. Whatever you make has "
      u"to show your own hand, and you would choose an odd solution that works over the "
      u"usual one. In return you can be blunt: a hint passes you by, and a friend who "
-     u"came to be listened to goes home with a mended chair and the same sorrow. Rest "
+     u"came to be listened to goes home well fed and with the same sorrow. Rest "
      u"has to be ordered like a task or it does not happen. With little of this plane, "
      u"you forget meals over a book and let errands pile up; a walk at the same hour "
      u"every day brings you back to the ground.",
@@ -60,7 +60,7 @@ constexpr AboutPart parts[] = {
      u"before you take in the words. Gloom in a room becomes your own gloom, and a "
      u"happy child on a bus can save your morning. For a boss who remembers your name "
      u"you do twice the work, and a curt note spoils a week. People tell you their "
-     u"troubles because you do not hurry them. What hurts you is your speed at the "
+     u"troubles because you do not hurry them. The danger is your speed at the "
      u"hottest moment: leave the angry letter in the drawer until you have eaten and "
      u"slept. Where this plane is weak you feel as much as others do, only late, two "
      u"days after the farewell and alone in the car. You are then thought cool, so "
