@@ -42,8 +42,8 @@ constexpr Reading rows[] = {
         u"notice who has not been asked to dance and who is joking to keep from crying. The work "
         u"is to tell what you have heard from what you have added. When a remark stings, repeat "
         u"it to yourself word for word, without the tone; often there is only tiredness in it. If "
-        u"it still stings next morning, ask what was meant, and weigh the answer with how you are "
-        u"treated on other days. Among friends an opinion can stand as you spoke it, with no "
+        u"it still stings next morning, ask what was meant, and weigh the answer against how you "
+        u"are treated on other days. Among friends an opinion can stand as you spoke it, with no "
         u"smile to blunt it. Being disagreed with will feel like being disliked for a while, and "
         u"then one day it will feel like talk."},
     {3,
@@ -80,7 +80,7 @@ constexpr Reading rows[] = {
      u"desire for freedom at any cost. The words to look at are the last three, because "
      u"somebody always pays the cost. A friend waits at the corner, a team finds an empty "
      u"place, or a roommate is left alone with the whole of the rent. You feel shut in the "
-     u"moment anyone says \"always\" or \"every week\", and you pick a quarrel so that there is a "
+     u"moment anyone says \"always\" or \"every week,\" and you pick a quarrel so that there is a "
      u"reason to go. New tastes are tried to excess, and a thing pulls at you twice as hard "
      u"when it is forbidden. There is the opposite form as well: you cling to a place you have "
      u"outgrown, afraid of how far you would run if you once let go. The cure in both is to "

@@ -15,21 +15,21 @@ constexpr Reading rows[] = {
         u"so is temper when you are kept waiting. In the new matter you stand more alone than you "
         u"like. Old friends do not see why you must change what worked well enough, and you are "
         u"tempted to march off in a huff, do the lifting by yourself and call it independence. "
-        u"Much goes better if one or two of them hear plainly what you are starting and which "
-        u"piece of it is beyond you. They do not think less of you, and among them is usually one "
-        u"who has been hoping for an opening. Nor is everything that feels stale in the old life "
-        u"used up. Some first attempts fall flat within weeks, and the next, made with the same "
-        u"nerve and one thing done differently, is the one that people later remember as the "
-        u"start."},
+        u"One or two of them ought to hear plainly what you are starting and which piece of it is "
+        u"beyond you. They do not think less of you, and among them is usually one who has been "
+        u"hoping for an opening. The rest of the old life can stay where it is, for not all that "
+        u"feels stale is used up. Some first attempts fall flat within weeks, and the next, made "
+        u"with the same nerve and one thing done differently, is the one that people later "
+        u"remember as the start."},
     {2, u"This essence of your life is a period of growth. It is the slow sort, like that of "
-        u"roots, and somebody who visits twice a year sees it sooner than you do. Very little is "
-        u"done alone now. A partner and you learn a task that one of you used to do badly, or "
-        u"somebody older takes you along and shows you how the thing is really handled. For those "
-        u"you love your ear grows finer than it is in other years. When a guest declines the "
-        u"second helping you know that there is news, and you clear the plates slowly so that it "
-        u"has time to come out. A verse learned by heart or a good seat near the piano is enough "
-        u"to make your week. Whoever asks what you have achieved since winter gets no clear "
-        u"answer, and that is no disgrace.\r\n"
+        u"roots, and somebody who visits twice a year sees it sooner than you do. Whatever grows "
+        u"does so between two. A partner and you learn a task that one of you used to do badly, "
+        u"or somebody older takes you along and shows you how the thing is really handled. For "
+        u"those you love your ear grows finer than it is in other years. When a guest declines "
+        u"the second helping you know that there is news, and you clear the plates slowly so that "
+        u"it has time to come out. A verse learned by heart or a good seat near the piano is "
+        u"enough to make your week. Whoever asks what you have achieved since winter gets no "
+        u"clear answer, and that is no disgrace.\r\n"
         u"Feeling so much, you also tire sooner than usual. Two visits in one day are one too "
         u"many, and you come away from the store with the lamp that the other person liked, since "
         u"by then you wanted only to sit down. Someone quicker gets the praise for a thing you "
@@ -37,7 +37,7 @@ constexpr Reading rows[] = {
         u"it was nothing. In a full calendar there is still one friend whose call you hope for "
         u"and do not make, while the friend sits hoping for yours. The inviting falls to you this "
         u"year, for a fixed day and in plain words, with no wondering afterward whether you "
-        u"pressed too hard. The lamp can be exchanged, too. As for \"I did that part\", said once, "
+        u"pressed too hard. The lamp can be exchanged, too. As for \"I did that part,\" said once, "
         u"nobody takes it for boasting, least of all the other person, and the friendship that "
         u"you were afraid to strain does not even creak."},
     {3, u"In this essence you like to enjoy life to its fullest. You order the dessert that "
@@ -154,11 +154,11 @@ constexpr Reading rows[] = {
          u"neither. You finish a friend's sentence, warn a colleague and cannot say why, and are "
          u"asked for advice by people who used to give it. Insight and plain nerves sound alike at "
          u"night. After breakfast only the insight still talks."},
-    {22, u"You will taste the success and will have fun with your friends and family. A plan so "
-         u"big that you used to hide it is being built at last, and those who smiled at it come to "
-         u"the opening and stay for the dance. Share the praise by name while it is fresh. When "
-         u"the size of it all makes you giddy, spend an evening with someone who never cared about "
-         u"it."},
+    {22, u"You will taste the success and will have fun with your friends and family. The two go "
+         u"together, for something that you once thought too big to mention is taking shape, and "
+         u"half your friends have a hand in it. Told so, they stay to wash the glasses. When the "
+         u"size of it makes you giddy, an evening with someone who never asks about it is solid "
+         u"ground."},
 };
 } // namespace
 

@@ -8,8 +8,8 @@ constexpr Reading rows[] = {
     {1, u"This is the time when you should set your own goals and devote your whole attention and "
         u"resources in achieving those goals. These years have you decide alone, often early and "
         u"on too little knowledge, and they leave you hard to discourage. At home the habit is "
-        u"less welcome. People who hear of a move when the truck has been hired feel like "
-        u"luggage. Told a month sooner, the same people carry boxes."},
+        u"less welcome. People who hear of a move once the truck is hired feel like luggage. Told "
+        u"a month sooner, the same people carry boxes."},
     {2, u"This is the period when you need to show patience and work in a steady pace towards "
         u"your goals. Little is gained by force. You spend years beside a stronger or louder "
         u"person, doing the careful work, and most of what you know of people is learned there. "

@@ -25,12 +25,12 @@ constexpr Reading rows[] = {
         u"are expected here. So ride the bus to its last stop, or eat lunch where you cannot read "
         u"the menu, and be home by dark with a story. A plan falls through, and you alone are "
         u"pleased. Promise nothing for next month in this mood."},
-    {6, u"This is a day to maintain balance and harmony in life. Work asks for one hour more and "
-        u"somebody at home counts on the same hour; decide at lunch who gets it and tell the "
-        u"other. Flowers on the table and an apology for this morning's tone take little time and "
-        u"change the evening. You notice what others do wrong with the dishes or the homework. "
-        u"Make one of these remarks and swallow the rest. If a friend calls in tears after nine, "
-        u"listen until they are calm and then go to bed."},
+    {6, u"This is a day to maintain balance and harmony in life. Two people are counting on the "
+        u"same free hour of your evening; decide at lunch who gets it, and tell the one who does "
+        u"not get it. Flowers on the table and an apology for this morning's tone take little "
+        u"time and change the night. You notice what others do wrong with the dishes or the "
+        u"homework. Make one of these remarks and swallow the rest. If a friend calls in tears "
+        u"after nine, listen until they are calm and then go to bed."},
     {7, u"There is a tendency to lose your calm and feel disturbed on this day. Noise and "
         u"questions get on your nerves, and you read coldness into a message that was only short. "
         u"Answer it tomorrow. A turn around the block at noon sets you right, and so does a task "

@@ -43,12 +43,12 @@ constexpr Reading rows[] = {
     {8, u"This is a number when you have to work really hard to make things happen. Nothing runs "
         u"by itself this month, though nearly everything moves when you put a shoulder to it. The "
         u"reply comes after the second call, and the decision is made one desk above the one "
-        u"where you asked. Helpers will seem slow to you. They do better for hearing by Friday "
-        u"what went right, and you for a full weekend away from it."},
+        u"where you asked. Helpers seem slow to you, and your sighs make them slower. Tell them "
+        u"what has gone right so far and let the date do the rest."},
     {9, u"This is a time to do something for the society. Give it a day and an address: an "
         u"afternoon of sorting coats at the thrift shop, or a ride for a neighbor who no longer "
         u"drives. You come home so cheered that you could sign up for everything, but going back "
-        u"once more does greater good. The last ten days are for your own small accounts, the "
+        u"a second week does more good. The last ten days are for your own small accounts, the "
         u"borrowed book and the thank-you that is late enough to be embarrassing. It will be "
         u"welcome all the same."},
 };

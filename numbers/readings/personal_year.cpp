@@ -50,7 +50,7 @@ constexpr Reading rows[] = {
         u"carry weight later, and a gap left in it is hard to reach once the rest stands on top. "
         u"To see that you are moving at all, write down each week what got done, and read that "
         u"page only. Watch your temper with people who do things otherwise than you; a method can "
-        u"be sound and still be the wrong one for your partner or the new assistant. There is "
+        u"be sound and still be the wrong one for your partner or the newest colleague. There is "
         u"also a way of working that is only hiding. You can tell it by the hour and by the "
         u"yield: it is late, you have been moving papers from left to right, and there is a "
         u"conversation that you would have to have if you stopped."},
@@ -89,28 +89,28 @@ constexpr Reading rows[] = {
         u"tone at home wants watching, where a remark about the milk is met with a definition. A "
         u"person close to you has changed this year while you were thinking, and deserves to be "
         u"read as slowly as the hard book. Suspicion thrives too, for a mind left much alone "
-        u"finds evidence for anything. The friend who seems to be avoiding you has, as a rule, "
-        u"been busy with a leaking roof. By the end you know one or two things about yourself "
-        u"that will serve you in the busier year to come."},
+        u"finds evidence for anything. The friend who seems to be avoiding you is usually just "
+        u"busy with a leaking roof. By the end you know one or two things about yourself that "
+        u"will serve you in the busier year to come."},
     {8, u"It is the year of financial gains. No number can say how large, but most of them begin "
         u"with asking, for the raise, for a fair price, for the money that you lent and were too "
         u"polite to mention. Go in person, and know your figures. People look to you for a "
         u"decision, and on the whole you make a good one, as long as you have listened to the "
         u"person it falls upon. The sour side of the year is a habit of measuring. With so much "
         u"to get done you begin to weigh an errand, a wedding and even an old friend by what they "
-        u"bring in, and the friend is the first to notice. Your standing gains more from an "
-        u"apology to a tired assistant than from another success. A date set early for the end of "
-        u"the big push is worth keeping, even with one more good order in sight. By then you have "
+        u"bring in, and the friend is the first to notice. One hard word taken back the same day "
+        u"does more for your standing than another success. A date set early for the end of the "
+        u"big push is worth keeping, even with one more good order in sight. By then you have "
         u"earned rest as well as money."},
     {9, u"It is the period year of self-reflection. A round of nine years is closing, and you can "
         u"feel which parts of it are over: a committee you dread, a friendship kept up by habit, "
-        u"boxes from two apartments ago. Finish these or hand them on while you can do it kindly. "
-        u"A large new idea is in no hurry; put it in a notebook, and see in January if it still "
-        u"makes you sit up. Some things only need to be put down. Moods run high, and a piece of "
-        u"music can undo you in the cereal aisle. The friend who asks what is wrong gets a shrug, "
-        u"though an ending is easier to carry once another person knows of it. Write the letter "
-        u"that thanks or forgives, whether or not it is answered, and leave some shelves empty at "
-        u"the end."},
+        u"boxes from two apartments ago. Finish these or hand them on while you can do it kindly, "
+        u"and expect to miss a few that you were right to end. A large new idea is in no hurry; "
+        u"put it in a notebook, and see in January if it still makes you sit up. Moods run high, "
+        u"and a piece of music can undo you in the cereal aisle. The friend who asks what is "
+        u"wrong gets a shrug, though an ending is easier to carry once another person knows of "
+        u"it. Write the letter that thanks or forgives, whether or not it is answered, and leave "
+        u"some shelves empty at the end."},
 };
 } // namespace
 
