@@ -17,7 +17,7 @@ constexpr Reading rows[] = {
         u"are glad there is a small sting, as if your place had been taken. You hide it well, and "
         u"wonder on the way home why so pleasant an evening should have tired you.\r\n"
         u"You rest most easily when there is something of your own to run, however small: a "
-        u"garden bed, a market stall, a recipe that nobody may alter. From there it is no "
+        u"garden bed, a stand at the fair, a recipe that nobody may alter. From there it is no "
         u"hardship to clap for others. The race goes on, but it is this year's gardener against "
         u"last year's, and nobody in it has to be beaten."},
     {2, u"People with Soul Urge number 2 want to be loved and cared for. For you a day is good "
@@ -136,8 +136,8 @@ constexpr Reading rows[] = {
         u"ones who were not reached, as if they had been counting on you.\r\n"
         u"You also want to be loved in return, more than your easy giving lets on. You wish that "
         u"someone would ask how you are and not be satisfied with the first answer. When nobody "
-        u"does, you go silent in a way that is meant to be noticed. Put up the fence yourself: "
-        u"pick two or three troubles that are yours for the season and trust that the rest have "
+        u"does, you go silent in a way that is meant to be noticed. Sleep returns when you put up "
+        u"a fence yourself, with two or three troubles inside it, and trust that the rest have "
         u"found somebody as kind. Once rested you forgive quickly and completely, and people whom "
         u"you had struck off are on the list again."},
     {11, u"Master number 11 has resemblance with number 2. You want to achieve love, peace and "
