@@ -13,10 +13,10 @@ constexpr Reading rows[] = {
         u"manners were sitting on."},
     {1,
      u"You need to be more confident and clear about your goals and desires of life. The wish "
-     u"inside you is definite enough; what comes out is a question about everybody else. You "
-     u"are hungry and ask whether anyone would like to stop, you want the solo and wonder "
-     u"aloud who might sing it. So the car drives on and a colleague gets the part, and those "
-     u"who decided are honestly surprised to learn that you had hoped. The gap is one sentence "
+     u"inside you is definite enough; what comes out is a question about the rest. You are "
+     u"hungry and ask whether anyone would like to stop, you want the solo and wonder aloud "
+     u"who might sing it. So the car drives on and a colleague gets the part, and those who "
+     u"decided are honestly surprised to learn that you had hoped. The gap is one sentence "
      u"wide. It says what you want and by when, with no \"only if\" in front and no \"never mind\" "
      u"behind."},
     {2, u"People with bridge number 2 need to show patience in their work and in their "
@@ -24,8 +24,8 @@ constexpr Reading rows[] = {
         u"acquaintance hears three private things over the first coffee, tells none in return, "
         u"and is put down as cold. Your next message goes off when the last has lain for an hour, "
         u"and what was affection when it left you arrives as a reproach. New colleagues are told "
-        u"early what could be improved. You are right, too. Yet most of them were merely a few "
-        u"steps behind, and by winter they have caught up, and remember you as the person who "
+        u"early what could be improved. You are often right, too. Yet most people are merely a "
+        u"few steps behind, and by winter they have caught up and remember you as the one who "
         u"liked them first."},
     {3, u"People with this bridge number get easily frustrated by failures. When the cake sinks "
         u"or the driving test has to be taken again, you put on a stone face and say that it "

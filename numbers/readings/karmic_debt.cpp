@@ -58,7 +58,7 @@ constexpr Reading rows[] = {
     {19, u"You are a born leader and you have the abilities to overcome any obstacles that come in "
          u"your way. In earlier lives such strength served nobody but its owner: orders were "
          u"given, rivals were pushed aside, and the weak were told to manage. In this life you "
-         u"find out how that felt. Just when the load is heaviest there is no one beside you. You "
+         u"find out how that felt. When the load is heaviest there is no one beside you, for you "
          u"have answered every offer by saying that it is nothing, and after a while people "
          u"believe it. At work the keys, the passwords and the touchy customer are all in your "
          u"care, so nobody can relieve you and nobody has had the chance to learn. The thing that "

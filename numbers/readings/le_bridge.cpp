@@ -16,7 +16,7 @@ constexpr Reading rows[] = {
         u"course, you think, and then you will be ready; the course is passed with honors and "
         u"nothing follows. Those who lead are seldom more certain than you, and have only grown "
         u"used to the feeling. With you it often begins by accident, on an outing that nobody "
-        u"else had prepared. Everyone got home, and some of them asked when the next one was."},
+        u"else had prepared. Everyone gets home, and some of them ask when the next one is."},
     {2, u"You basically have a loving and friendly nature, which however, doesn't show up easily. "
         u"Your skill is of a kind that works alone, while your road runs through other people, "
         u"and you travel it like someone on a night train, courteous and with your eyes on a "
@@ -31,8 +31,8 @@ constexpr Reading rows[] = {
         u"character; for a picnic with eight guests you draw up a schedule, and lie awake over "
         u"the one dish that failed. The result is good, and colleagues respect you for it and "
         u"take their jokes to another table. An evening on which you draw a horse that looks like "
-        u"a sofa, and hand it around, is no evening lost to your work. Talent first came to you "
-        u"when you were fooling about, and it is still frightened off by a frown."},
+        u"a sofa, and hand it around, is no evening lost to your work. The talent first came to "
+        u"you when you were fooling about, and it is still frightened off by a frown."},
     {4, u"People with this combination of Life Path/ Expression number need to be more practical "
         u"and realistic. The garden you dream of has its roses, its arbor and a bench for the "
         u"evening, and you have not yet looked where north is. Your road keeps setting you down "

@@ -15,8 +15,8 @@ constexpr Reading rows[] = {
         u"coming to a conclusion. You think best across a table, watching a face that tells you "
         u"where your reasoning is thin. Who would be hurt counts with you as much as what is "
         u"correct, and your solutions last for that reason. But every opinion sounds right while "
-        u"it is being spoken, and the fourth talk leaves you less sure than the first. The talk "
-        u"that helps is the one with the friend who merely asks."},
+        u"it is being spoken, and the fourth talk leaves you less sure than the first. A friend "
+        u"who merely asks, and has no view, sends you home with yours."},
     {3, u"People with rational thought number 3 have a creative bend of mind. Your thoughts come "
         u"as pictures and comparisons, and you often understand a problem only on hearing "
         u"yourself tell it to a friend. A talk about the leaking gutter ends in plans for a "
@@ -28,9 +28,9 @@ constexpr Reading rows[] = {
         u"off the hall. You reason step by step, and a leap in another person's argument bothers "
         u"you like a missing stair, so you are seldom taken in by well-spoken nonsense. Hurry "
         u"spoils it. A question sprung on you in a meeting gets a shrug, and two days later a "
-        u"full page, when a guess has settled it. Having once reached a conclusion, you test any "
-        u"new fact much more sternly than you tested the old ones. A plan that took ten evenings "
-        u"is hard to drop, because the evenings argue for it."},
+        u"full page, when a guess has already settled it. Having once reached a conclusion, you "
+        u"test any new fact much more sternly than you tested the old ones. A plan that took ten "
+        u"evenings is hard to drop, because the evenings argue for it."},
     {5, u"People of this rational thought number have unconventional thoughts. Asked how to widen "
         u"the road, you want to know why everybody drives at eight. You think with your hands, "
         u"and three wrong answers that were tried out teach you more than a right one in a book. "
@@ -54,7 +54,7 @@ constexpr Reading rows[] = {
         u"which the rest hangs is settled while slower readers are at the preface. Sometimes the "
         u"detail you strike out is a person's pride, or a small cost that returns every month. "
         u"Anything that cannot be counted is apt to be counted as nothing. The slowest thinker in "
-        u"the room had noticed, and was looking for words when you closed the matter."},
+        u"the room has noticed, and is looking for words as you close the matter."},
     {9, u"People with this rational thought number are more spiritually inclined. You see the "
         u"whole before the parts and judge a decision by whom it leaves worse off, strangers "
         u"included. A plan that treats somebody shabbily is to you a bad plan. In a dispute you "
@@ -74,7 +74,7 @@ constexpr Reading rows[] = {
     {22, u"People with this rational thought number like to dream about bigger things in life. "
          u"Your thinking starts at the far end: you see the street finished, with its lamps lit, "
          u"and reckon back to the first load of gravel. The way back is marked with prices and "
-         u"trades, so that your daydreams stand up well to questions. It is you who gives way. On "
+         u"trades, so that your daydreams stand up well to questions. It is you who give way. On "
          u"some nights the thing looks too large for one head, and you go back to your books for "
          u"another figure, although the figures were in order a month ago. A piece of it that two "
          u"people can finish in a week teaches you more than the books, and frightens nobody."},

@@ -40,8 +40,8 @@ constexpr Reading rows[] = {
         u"You can come to live on fresh admirers. The same six stories go round, each time a "
         u"little grander, while the old friends, who know them, are invited less. Yet those are "
         u"the ones who know how it really was, and like you all the same. One of them asks you "
-        u"some winter to show a grandchild the first three chords. You begin at the dull "
-        u"beginning, nobody claps, and you have seldom enjoyed an evening more."},
+        u"some winter to teach a grandchild what you know. You start at the dull beginning, "
+        u"nobody claps, and you have seldom enjoyed an evening more."},
     {4, u"Your hard work will pay off and your goals will be achieved. In the second half of life "
         u"the things you made piece by piece begin to carry you, a skill that sits in the hands, "
         u"a name that people trust. It is rest that has to be learned from the start. One warm "
@@ -58,7 +58,7 @@ constexpr Reading rows[] = {
         u"somebody's teenager confides in you, and the school or the clinic asks for you by name. "
         u"You have more to give by then and, oddly, less need of thanks. The old temptation "
         u"stays, which is to hand over the advice before the trouble has been told to its end. "
-        u"Those whom you let finish, and then do it their own way, come back on some fine day "
+        u"Those whom you let finish, and then decide for themselves, come back on some fine day "
         u"with nothing wrong at all. They wanted to see you."},
     {7, u"You like to be in isolation and analyze your life. With the years this wish grows "
         u"stronger, and crowded weekends that were put up with for the sake of others are "
@@ -79,7 +79,7 @@ constexpr Reading rows[] = {
         u"old enemies are let off, some without knowing they were accused.\r\n"
         u"The young who come to help find you kind and a little far away. You speak to them of "
         u"the whole when they would like to know where to put the spade. It also makes you bitter "
-        u"when a good cause is run by vain people, as good causes often are. It passes when you "
+        u"when a good cause is run by vain people, as good causes often are. That passes when you "
         u"do the part in front of you and leave on time. The young like you best on the day when "
         u"you tell them about the year in which nothing worked."},
     {11, u"You are at your spiritual best. The fine nerves of your young years do not go away, but "

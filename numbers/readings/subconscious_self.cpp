@@ -70,12 +70,12 @@ constexpr Reading rows[] = {
         u"like in slower troubles. As the noise in the room goes up, your voice goes down, and "
         u"people begin to listen to it. You take one look at what has really happened, a child "
         u"missing from the line or coffee all over the documents, and name the next two things to "
-        u"be done in the right order. So much calm is made by an effort that no one sees. "
-        u"Afterward, when the rest are laughing with relief, you are gray in the face and short "
-        u"with whoever opens your door. In the thick of it you can be scornful of tears, as "
-        u"though the person weeping were doing it badly. They would be astonished to hear that "
-        u"you were frightened too. The few who have been told do not follow you any less; they "
-        u"stop thinking that something is wrong with them."},
+        u"be done in the right order. So much calm takes an effort that no one sees. Afterward, "
+        u"when the rest are laughing with relief, you are gray in the face and short with whoever "
+        u"opens your door. In the thick of it you can be scornful of tears, as though the person "
+        u"weeping were doing it badly. They would be astonished to hear that you were frightened "
+        u"too. The few who have been told do not follow you any less; they stop thinking that "
+        u"something is wrong with them."},
     {8, u"You are confident in yourself and like to face the various challenges of life. With "
         u"eight of the nine values in the name there are few alarms that find you empty-handed. "
         u"You ask three questions, decide, and send people off in different directions, and if "
