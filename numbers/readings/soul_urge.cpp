@@ -136,8 +136,8 @@ constexpr Reading rows[] = {
         u"ones who were not reached, as if they had been counting on you.\r\n"
         u"You also want to be loved in return, more than your easy giving lets on. You wish that "
         u"someone would ask how you are and not be satisfied with the first answer. When nobody "
-        u"does, you go silent in a way that is meant to be noticed. Sleep returns when you put up "
-        u"a fence yourself, with two or three troubles inside it, and trust that the rest have "
+        u"does, you go silent in a way that is meant to be noticed. Your sleep returns when you "
+        u"put up a fence yourself, around two or three troubles, and trust that the rest have "
         u"found somebody as kind. Once rested you forgive quickly and completely, and people whom "
         u"you had struck off are on the list again."},
     {11, u"Master number 11 has resemblance with number 2. You want to achieve love, peace and "
