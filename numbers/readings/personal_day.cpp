@@ -14,9 +14,9 @@ constexpr Reading rows[] = {
         u"stings, sleep on it. By morning it has shrunk."},
     {3, u"You will get fun from some lively recreational activities on this day. A dance or a "
         u"noisy lunch with people who laugh at the same things does more for you than an early "
-        u"night. Your tongue is quick, and the thing that you have been afraid to bring up comes "
-        u"out lightly and is taken well. The same quick tongue could spend a friend's secret for "
-        u"a laugh. Go home while it is still fun, with one story untold."},
+        u"night. Your tongue is quick, and the thing you have been afraid to bring up comes out "
+        u"lightly and is mostly taken well. The same quick tongue could spend a friend's secret "
+        u"for a laugh. Go home while it is still fun, with one story untold."},
     {4, u"This is the day of maximum hard work to make a success of all your business affairs. "
         u"Start with the job you have walked around all week; the dread took longer than the "
         u"doing will. Check the total twice. Some machine will jam, and means nothing by it. Quit "

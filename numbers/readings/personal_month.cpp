@@ -5,7 +5,7 @@ namespace modReadings::readings {
 namespace {
 constexpr Reading rows[] = {
     {1, u"This is the time when you would like to start new ventures. The first step belongs in "
-        u"the first week, while you feel brave: sign up, or buy the paint. Then hold off "
+        u"the first week, while you feel brave: sign up, or buy the boots. Then hold off "
         u"announcing it. Talking about a plan feels so much like doing it that many good ones "
         u"have stopped there, well applauded."},
     {2, u"This is the time to maintain friendly and harmonious relationships with others. A cool "

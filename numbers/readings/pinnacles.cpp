@@ -9,8 +9,8 @@ constexpr Reading rows[] = {
         u"them invents the game and picks the teams, a grown person opens the shop or starts the "
         u"club, and at any age there is a morning when nobody else has come and you go in alone. "
         u"Pride is what trips you. A wrong road looks shorter to you than turning around while "
-        u"people watch, and slower companions get the sharp end of your tongue. An exit that was "
-        u"named in advance helps, since the order to turn back comes easier from yourself."},
+        u"people watch, and slower companions get the sharp end of your tongue. An exit named in "
+        u"advance helps, since turning back is easier when you gave the order yourself."},
     {2, u"Pinnacle number 2 represents a period for improving existing economic conditions. "
         u"Little is founded in it and a good deal is mended. A household that was spending in two "
         u"directions learns to spend in one. An old arrangement that was never fair is talked "
