@@ -55,8 +55,8 @@ constexpr Reading rows[] = {
         u"first cut is made. It looks slow, and it is finished before the hasty neighbor's. "
         u"Borrowed books go home without a reminder. A friend in difficulty gets a practical list "
         u"and a Saturday morning's labor, with few speeches, and tenderness takes the form of "
-        u"upkeep: a hinge that squeaked at breakfast is silent by supper. Few people praise this "
-        u"at the time. They notice later how little around you has ever broken down."},
+        u"upkeep: a drawer that stuck at breakfast glides by supper. Few people praise this at "
+        u"the time. They notice later how little around you has ever broken down."},
     {5, u"People born on the fifth day of a month are social and like the association of others. "
         u"By the time you reach the counter at the post office you know the trade of the man "
         u"ahead of you and where he grew up. Skills come to you in the same way: a sailor's knot, "
@@ -81,9 +81,9 @@ constexpr Reading rows[] = {
         u"your relatives raise their children, and the opinions get out. Having said yes to the "
         u"school fair, the choir picnic and a cousin's move, you fall asleep at the concert to "
         u"which you had looked forward since spring. At the first sigh of a visitor you jump up "
-        u"and ask what can be done about it. Mostly it was a sigh of contentment. They had come "
-        u"for the soft chair, the low voice and an hour without duties, and had all three until "
-        u"you got up."},
+        u"and ask what can be done about it. Mostly it is a sigh of contentment. They have come "
+        u"for the soft chair, the low voice and an hour without duties, and have all three until "
+        u"you get up."},
     {7, u"You value your own freedom and would like to do things according to your own way. The "
         u"way is usually a quiet one. Given a task, you shut the door, find out how it was done "
         u"before and why, and come back with an answer that nobody can easily shake. \"Everybody "
