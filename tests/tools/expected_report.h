@@ -1,20 +1,8 @@
 #pragma once
 
-// What a report has to hold: the topics as they are agreed, the runs that the rendering
-// makes of a person, and the program's JSON as a reader independent of it sees it.
-
-#include "report/person.h"
-#include "report/run_list.h"
-#include "tests/tools/program.h"
-
-#include <QJsonObject>
-#include <QString>
+// The topics as they are agreed, written down independently of the program's own table.
 
 #include <array>
-#include <chrono>
-#include <string>
-#include <string_view>
-#include <vector>
 
 /// A caption of the tree and the heading literal of its topic.
 struct Heading {
@@ -47,52 +35,3 @@ inline constexpr std::array<Heading, 22> headings{{
     {u"Planes Of Expression / Personal Aspects", u"Your Planes of Expression is towards "},
     {u"Soul Urge / Heart's Desire Number", u"Your Soul Urge Or Heart's Desire Number is: "},
 }};
-
-/// What a page is made of.
-using Runs = std::vector<modReadings::Run>;
-
-inline constexpr char16_t comprehensiveReading[] = u"Comprehensive Reading";
-
-std::string Utf8(std::u16string_view text);
-
-/// The captions of `headings`.
-std::vector<std::u16string> AllTopics();
-
-/// The runs of each caption after a pass over `person` on a fresh store, as clicks on the
-/// captions in this order write them.
-std::vector<Runs> ExpectedRuns(const modReadings::Person &person, std::chrono::year_month_day today,
-                               const std::vector<std::u16string> &captions);
-
-/// The joined text of `runs`.
-std::u16string TextOf(const Runs &runs);
-
-/// `text` with "\n" for "\r\n".
-std::u16string PlainBreaks(std::u16string_view text);
-
-/// The options that name `person`.
-Arguments PersonOptions(const modReadings::Person &person);
-
-/// The object that `bytes` are, line break behind it or not. Fails the test for anything
-/// else and gives an empty object.
-QJsonObject ParseObject(const std::string &bytes);
-
-/// A topic of a report as JSON.
-struct TopicAsJson {
-    std::u16string caption;
-    std::u16string number;
-    Runs runs; ///< without colour
-};
-
-/// The topics of `report`. Fails the test where members lack, are too many or of a wrong
-/// type.
-std::vector<TopicAsJson> TopicsOf(const QJsonObject &report);
-
-/// Compares the topics of `report` with `expected`, one list of runs for each caption.
-void ExpectTopics(const QJsonObject &report, const std::vector<std::u16string> &captions,
-                  const std::vector<Runs> &expected);
-
-/// The number of the topic with this caption.
-std::string NumberIn(const QJsonObject &report, const char *caption);
-
-/// The text of one of its runs, counted from 0.
-std::string RunIn(const QJsonObject &report, const char *caption, std::size_t index);
