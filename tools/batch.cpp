@@ -76,7 +76,8 @@ private:
     }
 
     void ReadLine() {
-        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for the check and the reading
+        const modReadings::FixedClock oneDay(
+            modReadings::Clock::Date()); // the same for the check and the reading
         std::optional<modReadings::UserProfile> person;
         try {
             person = CheckPerson(lines_.Parse(line_));

@@ -74,8 +74,9 @@ protected:
 };
 
 TEST_F(BatchMemory, DoesNotGrowWithItsPeople) {
-    for (const auto &[line, expected] :
-         {std::pair(JsonLine, ExitCode::Ok), {CsvLine, ExitCode::Ok}, {WrongLine, ExitCode::Failed}}) {
+    for (const auto &[line, expected] : {std::pair(Line(JsonLine), ExitCode::Ok),
+                                         {Line(CsvLine), ExitCode::Ok},
+                                         {Line(WrongLine), ExitCode::Failed}}) {
         const long small = After(line, few, expected);
         EXPECT_LE(After(line, many, expected) - small, mostMore) << "KiB";
     }

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <fstream>
 
 #include <sys/stat.h>
@@ -88,14 +89,11 @@ TEST(BatchStream, GoesOnHoweverManyLinesAreWrong) {
 
 // Who reads no more ends the program, as usual in a pipeline, without a word.
 TEST(BatchStream, EndsWithItsReader) {
-    Program program(conversation);
-    program.Write(Ann());
-    EXPECT_EQ(NameIn(program.ReadLine()), "ANN LEE");
-    program.CloseOutput();
-    program.Write(Ann());
-    const Finished run = program.Finish(Ann());
-    EXPECT_EQ(run.signal, SIGPIPE);
-    EXPECT_EQ(run.err, "");
+    const std::string line = Ann().substr(0, Ann().size() - 1);
+    const Finished run =
+        RunShell("yes '" + line + "' | { \"$0\" --batch -; echo $? >&2; } | head -n 1");
+    EXPECT_EQ(NamesIn(run.out), Names{"ANN LEE"});
+    EXPECT_EQ(run.err, std::to_string(128 + SIGPIPE) + '\n');
 }
 
 class BatchInput : public FolderTest {};

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-
 using modReadings::Person;
 
 namespace {
@@ -84,10 +83,9 @@ TEST_F(Batch, AnswersEachPersonAsIfAlone) {
             options);
     EXPECT_EQ(answers.code, ExitCode::Failed);
     const std::string alone = Alone(signs, Format::Json, options.topics);
-    EXPECT_EQ(answers.out,
-              Alone(mary, Format::Json, options.topics) + alone +
-                  Alone(anna, Format::Json, options.topics) +
-                  ErrorAsJson(5, "5 fields where the header has 6") + alone);
+    EXPECT_EQ(answers.out, Alone(mary, Format::Json, options.topics) + alone +
+                               Alone(anna, Format::Json, options.topics) +
+                               ErrorAsJson(5, "5 fields where the header has 6") + alone);
 }
 
 TEST_F(Batch, TakesLinesInEveryForm) {
@@ -100,18 +98,18 @@ TEST_F(Batch, TakesLinesInEveryForm) {
     const Person annLee{"Ann", {}, "Lee", "March", "7", "1990"};
     const Person bobRay{"Bob", {}, "Ray", "April", "8", "1991"};
     const std::string expected = Alone(annLee, Format::Json) + Alone(bobRay, Format::Json);
-    for (const std::string &input :
-         {ann + bob,                                              //
-          ann + bob.substr(0, bob.size() - 1),                    // no line break at the end
-          ann + " \t" + bob,                                      //
-          "  " + ann + bob,                                       //
-          mark + ann + bob,                                       // a byte order mark
-          "\n\n" + ann + "\n \n\t\n\n" + bob + "\n\n",            // blank lines
-          header + '\n' + row1 + '\n' + row2 + '\n',              //
-          header + '\n' + row1 + '\n' + row2,                     //
-          header + "\r\n" + row1 + "\r\n" + row2 + "\r\n",        //
-          mark + header + "\r\n" + row1 + "\r\n" + row2,          //
-          mark + "\r\n" + header + "\n\n" + row1 + "\n \n" + row2 //
+    for (const std::string &input : {
+             ann + bob,                                              //
+             ann + bob.substr(0, bob.size() - 1),                    // no line break at the end
+             ann + " \t" + bob,                                      //
+             "  " + ann + bob,                                       //
+             mark + ann + bob,                                       // a byte order mark
+             "\n\n" + ann + "\n \n\t\n\n" + bob + "\n\n",            // blank lines
+             header + '\n' + row1 + '\n' + row2 + '\n',              //
+             header + '\n' + row1 + '\n' + row2,                     //
+             header + "\r\n" + row1 + "\r\n" + row2 + "\r\n",        //
+             mark + header + "\r\n" + row1 + "\r\n" + row2,          //
+             mark + "\r\n" + header + "\n\n" + row1 + "\n \n" + row2 //
          }) {
         SCOPED_TRACE(testing::PrintToString(input));
         const Answers answers = Run(input);
@@ -146,9 +144,9 @@ TEST_F(Batch, AnswersAWrongLineInItsPlaceAndGoesOn) {
               {"!", "ANN LEE"},
               {{1, "CSV header"}}},
              {std::string(annLine) + "{\"first\":\"Bob\"", {"ANN LEE", "!"}, {{2, "not JSON"}}},
-             {std::string(annLine) + R"({"first":"A","last":"L","month":3,"day":"7\n","year":1990})" +
-                  "\n{}\n" + bobLine +
-                  R"({"first":"1","last":"Lee","month":3,"day":7,"year":1990})",
+             {std::string(annLine) +
+                  R"({"first":"A","last":"L","month":3,"day":"7\n","year":1990})" + "\n{}\n" +
+                  bobLine + R"({"first":"1","last":"Lee","month":3,"day":7,"year":1990})",
               {"ANN LEE", "!", "!", "BOB RAY", "!"},
               {{2, "day: \"7\\n\" is not allowed; give a number from 1 to 31"},
                {3, "first is missing"},
@@ -195,9 +193,9 @@ TEST_F(Batch, IsRefusedWhereThereIsNoFileToRead) {
     Make("people", "");
     std::filesystem::create_directory(Path("folder"));
     const FileMap before = Files();
-    for (const auto &[name, reason] :
-         {std::pair("missing\nä", "No such file"), {"folder", "directory"},
-          {"people/below", "Not a directory"}}) {
+    for (const auto &[name, reason] : {std::pair("missing\nä", "No such file"),
+                                       {"folder", "directory"},
+                                       {"people/below", "Not a directory"}}) {
         for (Options options : {ToOneFile(), ToAFolder()}) {
             options.batchFile = QString::fromStdString(Path(name));
             const std::string shown = OneLine(Excerpt(options.batchFile));
@@ -219,12 +217,11 @@ TEST_F(Batch, IntoAFolderMakesAFileAPersonNamedAfterTheLine) {
         EXPECT_EQ(answers.code, ExitCode::Failed);
         ExpectOneLine(answers.err, {"line 5: month: \"13\""});
     }
-    EXPECT_EQ(Files(Path("people.d")),
-              (FileMap{{"notes.txt", "mine"},
-                       {"person-000002.txt", Alone(anna, Format::Text)},
-                       {"person-000004.txt", Alone(mary, Format::Text)},
-                       {"person-000002.rtf", Alone(anna, Format::Rtf)},
-                       {"person-000004.rtf", Alone(mary, Format::Rtf)}}));
+    EXPECT_EQ(Files(Path("people.d")), (FileMap{{"notes.txt", "mine"},
+                                                {"person-000002.txt", Alone(anna, Format::Text)},
+                                                {"person-000004.txt", Alone(mary, Format::Text)},
+                                                {"person-000002.rtf", Alone(anna, Format::Rtf)},
+                                                {"person-000004.rtf", Alone(mary, Format::Rtf)}}));
 }
 
 TEST_F(Batch, MakesTheFolderWithThoseAboveIt) {

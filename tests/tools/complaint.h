@@ -29,8 +29,7 @@ inline void ExpectLine(const std::string &line, const std::vector<std::string> &
 
 /// The line with which `call` refuses, as the program would print it. Fails the test when it
 /// does not.
-template <typename Call>
-std::string RefusalOf(Call call, ExitCode code = ExitCode::WrongInput) {
+template <typename Call> std::string RefusalOf(Call call, ExitCode code = ExitCode::WrongInput) {
     try {
         call();
     } catch (const Refusal &refusal) {

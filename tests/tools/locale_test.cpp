@@ -62,10 +62,10 @@ TEST_F(Locales, AreReal) {
 // 1 2 9 1 3 1 1 is 18: 55, 10, 1.
 TEST_F(Locales, DoNotChangeAPerson) {
     for (const char *format : {"json", "text", "rtf"}) {
-        const Finished run = Everywhere({"--first", "ilias zoë", "--last", "strauß 😀", "--month",
-                                         "March", "--day", "7", "--year", "1990", "--today",
-                                         "2026-11-16", "--format", format, "--topic",
-                                         "Destiny / Expressions Number"});
+        const Finished run =
+            Everywhere({"--first", "ilias zoë", "--last", "strauß 😀", "--month", "March", "--day",
+                        "7", "--year", "1990", "--today", "2026-11-16", "--format", format,
+                        "--topic", "Destiny / Expressions Number"});
         ExpectGood(run);
         if (std::string_view(format) != "json")
             continue;

@@ -1,11 +1,14 @@
 #include "tools/options.h"
 
+#include "tests/support/expected_report.h"
 #include "tests/tools/complaint.h"
-#include "tests/tools/expected_report.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+
+using modReadings::ExpectedTopic;
+using modReadings::passTopics;
 
 namespace {
 
@@ -44,9 +47,8 @@ TEST(ParseOptions, OfOnePerson) {
         EXPECT_EQ(options.format, Format::Text);
         EXPECT_FALSE(options.today);
         EXPECT_EQ(options.output, "");
-        EXPECT_TRUE(std::ranges::equal(options.topics, headings, {}, {}, [](const Heading &topic) {
-            return std::u16string_view(topic.caption);
-        }));
+        EXPECT_TRUE(
+            std::ranges::equal(options.topics, passTopics, {}, {}, &ExpectedTopic::caption));
     }
 }
 
@@ -68,7 +70,7 @@ TEST(ParseOptions, TakesFormatDayTopicsAndFile) {
     EXPECT_EQ(Parsed({"--format", "json"}).format, Format::Json);
     EXPECT_EQ(Parsed({"--format", "text"}).format, Format::Text);
     EXPECT_EQ(Parsed({"--today", "2024-02-29"}).today, std::chrono::year(2024) / 2 / 29);
-    for (const Heading &topic : headings)
+    for (const ExpectedTopic &topic : passTopics)
         EXPECT_EQ(Parsed({"--topic", ToUtf8(topic.caption)}).topics,
                   std::vector<std::u16string_view>{topic.caption});
 }
@@ -104,9 +106,10 @@ TEST(ParseOptions, HelpTellsEveryOptionAndWhatIsAllowed) {
         const Options options = Parsed(arguments);
         EXPECT_EQ(options.task, Options::Task::Help);
         for (const char *part :
-             {"--first", "--middle", "--last", "--month", "--day", "--year", "--today", "--topic",
-              "--format", "--output", "--book", "--batch", "--output-dir", "--help", "--version",
-              "1 to 12", "1 to 31", "1900 to 2050", "YYYY-MM-DD", "text", "json", "rtf"})
+             {"--first",      "--middle", "--last",    "--month",  "--day",   "--year",
+              "--today",      "--topic",  "--format",  "--output", "--book",  "--batch",
+              "--output-dir", "--help",   "--version", "1 to 12",  "1 to 31", "1900 to 2050",
+              "YYYY-MM-DD",   "text",     "json",      "rtf"})
             EXPECT_TRUE(options.help.contains(part)) << part;
     }
 }
@@ -162,24 +165,24 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
         std::string allowed;
         std::vector<std::string> wrong;
     };
-    for (const auto &[option, allowed, wrong] : std::vector<Values>{
-             {"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
-             {"--topic",
-              "Comprehensive Reading",
-              {"", "Lucky Number", "personal day", "ESSENCE", "Essence ", "Ess\nence",
-               "Destiny / Expression Number", "comprehensive reading",
-               // Nodes of the tree that are no topics.
-               "Numerology", "Help", "Reset"}},
-             {"--today", "YYYY-MM-DD",
-              {"",           "2026-02-30", "2026-02-29", "2100-02-29",       "2026-04-31",
-               "2026-13-01", "2026-00-01", "2026-01-00", "2026-1-5",         "26-01-05",
-               "05-01-2026", "2026/01/05", "2026-01-05 ", "2026-01-05T00:00", "2026-01-05\n",
-               "today",      "1.1.2026",   "0000-01-01", "٢٠٢٦-٠١-٠٥"}}})
+    for (const auto &[option, allowed, wrong] :
+         std::vector<Values>{{"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
+                             {"--topic",
+                              "Comprehensive Reading",
+                              {"", "Lucky Number", "personal day", "ESSENCE", "Essence ",
+                               "Ess\nence", "Destiny / Expression Number", "comprehensive reading",
+                               // Nodes of the tree that are no topics.
+                               "Numerology", "Help", "Reset"}},
+                             {"--today",
+                              "YYYY-MM-DD",
+                              {"", "2026-02-30", "2026-02-29", "2100-02-29", "2026-04-31",
+                               "2026-13-01", "2026-00-01", "2026-01-00", "2026-1-5", "26-01-05",
+                               "05-01-2026", "2026/01/05", "2026-01-05 ", "2026-01-05T00:00",
+                               "2026-01-05\n", "today", "1.1.2026", "0000-01-01", "٢٠٢٦-٠١-٠٥"}}})
         for (const std::string &value : wrong)
-            ExpectWrong({option, value},
-                        {option + std::string(": \"") + OneLine(QString::fromStdString(value)) +
-                             "\" is not",
-                         allowed});
+            ExpectWrong({option, value}, {option + std::string(": \"") +
+                                              OneLine(QString::fromStdString(value)) + "\" is not",
+                                          allowed});
     ExpectWrong({"--topic", "Essence", "--topic", "Essences"}, {"--topic: \"Essences\""});
     ExpectWrong(ann + Arguments{"--output", ""}, {"--output is empty"});
     ExpectWrong({"--batch", ""}, {"--batch is empty"});

@@ -75,8 +75,8 @@ TEST_F(OutputFile, StandsAsItWasWhenTheDiskRunsFull) {
             EXPECT_EQ(Files(), (FileMap{{"report", "what stood here before"}}));
         }
     }
-    const Finished run = RunProgram(batch + Arguments{"--output-dir", Path("people")}, twoPeople,
-                                    surroundings);
+    const Finished run =
+        RunProgram(batch + Arguments{"--output-dir", Path("people")}, twoPeople, surroundings);
     ExpectFailed(run, {"--output-dir: ", "person-000001.txt: "});
     EXPECT_EQ(Files(), (FileMap{{"people/", ""}, {"report", "what stood here before"}}));
 }
@@ -111,8 +111,9 @@ TEST(StandardOutput, ThatIsFullOrClosedIsReported) {
              {std::pair(full, "No space left on device"), {closed, "Bad file descriptor"}}) {
             const Finished run = RunProgram(arguments, input, surroundings);
             EXPECT_EQ(run.exitCode, 1);
-            EXPECT_NE(run.err.find(std::string("orravane-report: standard output: ") + reason + '\n'),
-                      std::string::npos)
+            EXPECT_NE(
+                run.err.find(std::string("orravane-report: standard output: ") + reason + '\n'),
+                std::string::npos)
                 << run.err;
         }
     }

@@ -74,8 +74,7 @@ TEST(PeopleLines, RefuseAHeaderThatCannotBeUsed) {
              {"first,middle,last,month,day,\"year", {}},
              {"first,last,month,day,year,\"middle\"x", {}},
              {"first,\x1B[31m,last,month,day,year", {"\\x1B[31m"}},
-             {"first," + much,
-              {'"' + std::string(37, 'x') + "..." + std::string(20, 'x') + '"'}}})
+             {"first," + much, {'"' + std::string(37, 'x') + "..." + std::string(20, 'x') + '"'}}})
         ExpectLine(RefusalOf([&] { PeopleLines().Begin(line); }), parts);
 }
 
@@ -122,7 +121,8 @@ TEST(PeopleLines, RefuseWhatIsNoObjectOfTheMembers) {
              {arrays, "not JSON"},
              {objects, "not JSON"},
              {R"({"first":"é",})", "at byte 15"},
-             {R"({"first":"A","born":"here"})", "\"born\" is not allowed; allowed are first, middle"},
+             {R"({"first":"A","born":"here"})",
+              "\"born\" is not allowed; allowed are first, middle"},
              {R"({"First":"A"})", "\"First\""},
              {R"({"first":"A","error":""})", "\"error\""},
              {R"({"fir\nst":"A"})", "\"fir\\nst\""},

@@ -26,7 +26,8 @@ protected:
 };
 
 TEST_F(CheckPersonTest, CapturesThePersonAsTheWindowDoes) {
-    const UserProfile person = CheckPerson({"  Mary ann ", " o'neil", "Strauß", "2", "031", "1900"});
+    const UserProfile person =
+        CheckPerson({"  Mary ann ", " o'neil", "Strauß", "2", "031", "1900"});
     EXPECT_EQ(person.FirstName, u"MARY ANN");
     EXPECT_EQ(person.MiddleName, u"O'NEIL");
     EXPECT_EQ(person.LastName, u"STRAUSS");
@@ -63,15 +64,20 @@ TEST_F(CheckPersonTest, NamesTheInputItsValueAndWhatIsAllowed) {
     for (const Input &row : std::vector<Input>{
              {&PersonInput::first, "--first", "first name", {""}},
              {&PersonInput::last, "--last", "last name", {""}},
-             {&PersonInput::month, "--month", "English month name or a number from 1 to 12",
-              {"", "0", "13", "-1", "3.0", "Mar", "Mars", "März", "March ", "1st", "٣",
-               "Ma\nrch", "3\r", "\x1B[31mMay"}},
-             {&PersonInput::day, "--day", "a number from 1 to 31",
+             {&PersonInput::month,
+              "--month",
+              "English month name or a number from 1 to 12",
+              {"", "0", "13", "-1", "3.0", "Mar", "Mars", "März", "March ", "1st", "٣", "Ma\nrch",
+               "3\r", "\x1B[31mMay"}},
+             {&PersonInput::day,
+              "--day",
+              "a number from 1 to 31",
               {"", "0", "32", "-1", "+1", "1.0", "1 ", "seven", "0x7", "٧", "99999", "7\n",
                "4294967297", "99999999999999999999"}},
-             {&PersonInput::year, "--year", "a number from 1900 to 2050",
-              {"", "0", "1899", "2051", "90", "19900", "1990.0", "1990 1991", "MCMXC",
-               "19\n90"}}})
+             {&PersonInput::year,
+              "--year",
+              "a number from 1900 to 2050",
+              {"", "0", "1899", "2051", "90", "19900", "1990.0", "1990 1991", "MCMXC", "19\n90"}}})
         for (const std::string value : row.wrong) {
             const QString text = QString::fromStdString(value);
             ExpectLine(Refused(With(row.input, text)),
@@ -100,21 +106,21 @@ TEST_F(CheckPersonTest, RefusesNamesThatTheEssenceWouldNeverFinish) {
         QString first, middle, last;
         std::string blamed;
     };
-    for (const auto &[first, middle, last, blamed] : std::vector<Endless>{
-             {"123", "", "Lee", "--first"},
-             {"-'.", "", "Lee", "--first"},
-             {"   ", "", "Lee", "--first"},
-             {"Éé", "", "Lee", "--first"},
-             {"Анна", "", "Lee", "--first"},
-             {"😀", "", "Lee", "--first"},
-             {QString(40'000, '-'), "", "Lee", "--first"},
-             {"1", "2", "3", "--first"},
-             {"Ann", "2", "Lee", "--middle"},
-             {"Ann", "- -", "3", "--middle"},
-             {"Ann", "", "7", "--last"},
-             {"Ann", "", "  ", "--last"},
-             {"Ann", "", "f", "--last"},
-             {"Ann", "", "F-f F2", "--last"}}) {
+    for (const auto &[first, middle, last, blamed] :
+         std::vector<Endless>{{"123", "", "Lee", "--first"},
+                              {"-'.", "", "Lee", "--first"},
+                              {"   ", "", "Lee", "--first"},
+                              {"Éé", "", "Lee", "--first"},
+                              {"Анна", "", "Lee", "--first"},
+                              {"😀", "", "Lee", "--first"},
+                              {QString(40'000, '-'), "", "Lee", "--first"},
+                              {"1", "2", "3", "--first"},
+                              {"Ann", "2", "Lee", "--middle"},
+                              {"Ann", "- -", "3", "--middle"},
+                              {"Ann", "", "7", "--last"},
+                              {"Ann", "", "  ", "--last"},
+                              {"Ann", "", "f", "--last"},
+                              {"Ann", "", "F-f F2", "--last"}}) {
         SCOPED_TRACE(first.left(20).toStdString() + '|' + middle.toStdString() + '|' +
                      last.toStdString());
         for (const char *year : {"1900", "1990", "2025"}) // 2025 is age 1
@@ -129,9 +135,14 @@ TEST_F(CheckPersonTest, RefusesNamesThatTheEssenceWouldNeverFinish) {
 }
 
 TEST_F(CheckPersonTest, SparesNamesWithOneLetterThatCounts) {
-    for (const auto &[first, middle, last] : std::vector<std::array<QString, 3>>{
-             {"1A", "", "Lee"}, {"F", "", "Lee"}, {"Ann", "F", "Lee"}, {"Ann", "", "FA"},
-             {"Ann", "", "Éj"}, {"ß", "", "Lee"}, {"Ann", "   ", "Lee"}})
+    for (const auto &[first, middle, last] :
+         std::vector<std::array<QString, 3>>{{"1A", "", "Lee"},
+                                             {"F", "", "Lee"},
+                                             {"Ann", "F", "Lee"},
+                                             {"Ann", "", "FA"},
+                                             {"Ann", "", "Éj"},
+                                             {"ß", "", "Lee"},
+                                             {"Ann", "   ", "Lee"}})
         EXPECT_NO_THROW(CheckPerson({first, middle, last, "3", "7", "1900"}));
 }
 

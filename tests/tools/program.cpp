@@ -59,12 +59,14 @@ Program::Program(const Arguments &arguments, const Surroundings &surroundings) {
     if (surroundings.errorTerminal) {
         termios raw{}; // hands on every byte as it was written
         cfmakeraw(&raw);
-        ASSERT_EQ(openpty(&terminal_, &childsEnd, nullptr, &raw, nullptr), 0);
+        EXPECT_EQ(openpty(&terminal_, &childsEnd, nullptr, &raw, nullptr), 0);
         fcntl(terminal_, F_SETFD, FD_CLOEXEC);
         fcntl(terminal_, F_SETFL, O_NONBLOCK);
     }
     process_.setChildProcessModifier([=] { Prepare(surroundings, childsEnd); });
-    process_.start(ORRAVANE_REPORT, words);
+    process_.start(surroundings.program.empty() ? QString(ORRAVANE_REPORT)
+                                                : QString::fromStdString(surroundings.program),
+                   words);
     EXPECT_TRUE(process_.waitForStarted());
     if (childsEnd >= 0)
         close(childsEnd);
@@ -128,4 +130,10 @@ Finished Program::Finish(std::string_view input) {
 Finished RunProgram(const Arguments &arguments, std::string_view input,
                     const Surroundings &surroundings) {
     return Program(arguments, surroundings).Finish(input);
+}
+
+Finished RunShell(const std::string &script) {
+    Surroundings shell;
+    shell.program = "/bin/sh";
+    return RunProgram({"-c", script, ORRAVANE_REPORT}, {}, shell);
 }

@@ -42,6 +42,7 @@ struct Surroundings {
     bool noOutput = false;         ///< standard output is closed
     bool noError = false;          ///< standard error is closed
     std::optional<long> mostBytes; ///< limit on the size of files, met by an error
+    std::string program;           ///< empty for orravane-report
 };
 
 /// A child that runs until Finish, or until the destructor kills it. A child that hangs is
@@ -65,9 +66,6 @@ public:
     /// Ends the child at once.
     void Kill() { process_.kill(); }
 
-    /// Reads no more of standard output, whose pipe is broken from then on.
-    void CloseOutput() { process_.closeReadChannel(QProcess::StandardOutput); }
-
     /// Writes `input`, closes standard input, reads both outputs to their end and waits.
     Finished Finish(std::string_view input = {});
 
@@ -79,6 +77,9 @@ private:
     int terminal_ = -1;  ///< the test's end of the terminal
     std::string screen_; ///< what has come through it
 };
+
+/// A script of the shell, in which "$0" is orravane-report.
+Finished RunShell(const std::string &script);
 
 /// One run from start to end.
 Finished RunProgram(const Arguments &arguments, std::string_view input = {},

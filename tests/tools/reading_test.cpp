@@ -6,7 +6,7 @@
 #include "report/person.h"
 #include "report/rendering.h"
 #include "report/topic_tree.h"
-#include "tests/tools/expected_report.h"
+#include "tests/support/expected_report.h"
 #include "tools/text.h"
 
 #include <gtest/gtest.h>
@@ -14,11 +14,12 @@
 #include <algorithm>
 
 using modReadings::Captured;
+using modReadings::comprehensiveCaption;
+using modReadings::ExpectedTopic;
+using modReadings::passTopics;
 using modReadings::Person;
 
 namespace {
-
-constexpr std::u16string_view comprehensiveReading = u"Comprehensive Reading";
 
 const Person anna{"Anna", {}, "Smith", "December", "29", "1985"};
 const Person oak{"oak", {}, "river", "March", "7", "1990"};
@@ -26,7 +27,7 @@ const Person oak{"oak", {}, "river", "March", "7", "1990"};
 /// The captions of all topics and of the Comprehensive Reading.
 std::vector<std::u16string_view> Everything() {
     std::vector<std::u16string_view> captions = AllCaptions();
-    captions.push_back(comprehensiveReading);
+    captions.push_back(comprehensiveCaption);
     return captions;
 }
 
@@ -53,9 +54,7 @@ protected:
 };
 
 TEST(AllCaptions, AreThoseOfThePassInItsOrder) {
-    EXPECT_TRUE(std::ranges::equal(AllCaptions(), headings, {}, {}, [](const Heading &topic) {
-        return std::u16string_view(topic.caption);
-    }));
+    EXPECT_TRUE(std::ranges::equal(AllCaptions(), passTopics, {}, {}, &ExpectedTopic::caption));
 }
 
 // Of the nodes of the tree 22 are topics and one is the Comprehensive Reading. The view
@@ -70,14 +69,14 @@ TEST(KnownCaption, IsThatOfATopicOrTheComprehensiveReading) {
         EXPECT_TRUE(caption.empty() || caption == node.caption);
     }
     EXPECT_EQ(known, 23);
-    EXPECT_EQ(KnownCaption(comprehensiveReading), comprehensiveReading);
+    EXPECT_EQ(KnownCaption(comprehensiveCaption), comprehensiveCaption);
     for (const char16_t *other : {u"", u"Numerology", u"Help", u"Reset", u"essence", u"Essence "})
         EXPECT_TRUE(KnownCaption(other).empty());
 }
 
 TEST_F(Reading, HasThePersonTheDayAndTheTopicsAskedFor) {
     const std::vector<std::u16string_view> captions{u"Personal Day", u"Karmic Lessons Number",
-                                                    u"Pinnacle Phases", comprehensiveReading,
+                                                    u"Pinnacle Phases", comprehensiveCaption,
                                                     u"Personal Day"};
     const PersonReading reading = ReadPerson(Captured(anna), captions);
     EXPECT_EQ(reading.person.FirstName, u"ANNA");
@@ -94,44 +93,43 @@ TEST_F(Reading, HasThePersonTheDayAndTheTopicsAskedFor) {
 // RIVER 9 9 4 5 9 is 36, its vowels with those of OAK 21.
 TEST_F(Reading, HasTheNumbersBehindTheHeadings) {
     constexpr std::pair<const char *, const char *> numbers[]{
-        {"8", "4"},               // 2 + 3 + 2 + 1; 7 + 3 + 2 + 1 = 13
-        {"29", "7"},              //
-        {"1", "9"},               // A and N twice, A first; R twice
-        {"2", "2"},               // root 1: ages 27 to 53; 11 gives 2: ages 26 to 52
-        {"6", "2"},               // 2 + 3 + 1; 7 + 3 folds to 1, and 1
-        {"", ""},                 //
-        {"6", "6"},               // 1 2 4 5 8 9; 1 2 4 5 6 9
-        {"1", "2"},               // 2 + 3 + 5 = 10; 7 + 3 + 10 = 20
-        {"9", "9"},               // 36; 45
-        {" 3 6 7", " 3 7 8"},     //
-        {"1 3 2 2", "4 6 2 2"},   // 3-2, 5-2, 1-3, 5-3; 3-7, 1-7, 4-6, 1-3
-        {"0", "0"},               //
-        {"2", "6"},               // A 1, S 1; O 6, R 9: 15
-        {"6", "2"},               // 2 + 3 + 7 + 2 + 1 = 15; 7 + 3 + 7 + 2 + 1 = 20
-        {"5", "7"},               // 2 + 12 = 14; 7 + 9 = 16
-        {"4", "3"},               // 11 - 7; 3 - 6
-        {"8", "7"},               // 9 - 1; 9 - 2
-        {"4", "2"},               // N 5 and H 8: 13; both names end at 36: K 2 and R 9: 11
-        {"1", "2"},               // 1 + 9 = 10; 2 + 9 = 11
-        {"7", "6"},               // 36 - 11 = 25; 45 - 21 = 24
-        {"Mental", "Emotional"},  //
-        {"11", "3"}};             // A A I; 21
+        {"8", "4"},              // 2 + 3 + 2 + 1; 7 + 3 + 2 + 1 = 13
+        {"29", "7"},             //
+        {"1", "9"},              // A and N twice, A first; R twice
+        {"2", "2"},              // root 1: ages 27 to 53; 11 gives 2: ages 26 to 52
+        {"6", "2"},              // 2 + 3 + 1; 7 + 3 folds to 1, and 1
+        {"", ""},                //
+        {"6", "6"},              // 1 2 4 5 8 9; 1 2 4 5 6 9
+        {"1", "2"},              // 2 + 3 + 5 = 10; 7 + 3 + 10 = 20
+        {"9", "9"},              // 36; 45
+        {" 3 6 7", " 3 7 8"},    //
+        {"1 3 2 2", "4 6 2 2"},  // 3-2, 5-2, 1-3, 5-3; 3-7, 1-7, 4-6, 1-3
+        {"0", "0"},              //
+        {"2", "6"},              // A 1, S 1; O 6, R 9: 15
+        {"6", "2"},              // 2 + 3 + 7 + 2 + 1 = 15; 7 + 3 + 7 + 2 + 1 = 20
+        {"5", "7"},              // 2 + 12 = 14; 7 + 9 = 16
+        {"4", "3"},              // 11 - 7; 3 - 6
+        {"8", "7"},              // 9 - 1; 9 - 2
+        {"4", "2"},              // N 5 and H 8: 13; both names end at 36: K 2 and R 9: 11
+        {"1", "2"},              // 1 + 9 = 10; 2 + 9 = 11
+        {"7", "6"},              // 36 - 11 = 25; 45 - 21 = 24
+        {"Mental", "Emotional"}, //
+        {"11", "3"}};            // A A I; 21
     const PersonReading first = Read(anna);
     const PersonReading second = Read(oak);
-    for (std::size_t index = 0; index < headings.size(); ++index) {
-        SCOPED_TRACE(ToUtf8(headings[index].caption));
+    for (std::size_t index = 0; index < passTopics.size(); ++index) {
+        SCOPED_TRACE(ToUtf8(passTopics[index].caption));
         for (const auto &[topic, number] : {std::pair(first.topics[index], numbers[index].first),
                                             {second.topics[index], numbers[index].second}}) {
-            EXPECT_EQ(ToUtf8(topic.caption), ToUtf8(headings[index].caption));
+            EXPECT_EQ(ToUtf8(topic.caption), ToUtf8(passTopics[index].caption));
             EXPECT_EQ(ToUtf8(topic.number), number);
-            EXPECT_EQ(ToUtf8(topic.report[0].text),
-                      ToUtf8(headings[index].literal + topic.number + u"\r\n\r\n"));
+            EXPECT_EQ(
+                ToUtf8(topic.report[0].text),
+                ToUtf8(std::u16string(passTopics[index].heading) + topic.number + u"\r\n\r\n"));
             EXPECT_TRUE(topic.report[0].bold);
             EXPECT_FALSE(topic.report[1].bold);
         }
     }
-    EXPECT_TRUE(RunIn(first, u"Birthday Number", 2)
-                    .starts_with("People born on the 29th day of the month are highly intuitive"));
     EXPECT_EQ(RunIn(second, u"Pinnacle Phases", 8),
               "Fourth Pinnacle from age 51 & beyond is 22\r\n");
 }
@@ -159,7 +157,7 @@ TEST_F(Reading, ShowsTheTopicsAsClicksAfterThePass) {
 TEST_F(Reading, TheComprehensiveReadingHoldsAllTopicsBehindAnyOthers) {
     const PersonReading reading =
         ReadPerson(Captured(anna), std::vector{std::u16string_view(u"Essence"),
-                                               comprehensiveReading, comprehensiveReading});
+                                               comprehensiveCaption, comprehensiveCaption});
     const modReadings::Report &report = reading.topics[1].report;
     EXPECT_TRUE(report == reading.topics[2].report);
     std::vector<std::string> bold;
@@ -195,7 +193,7 @@ TEST_F(Reading, IsThatOfTheWindowRunByRunWhoeverWasReadBefore) {
         modReadings::profile = Captured(person);
         modReadings::RunAllCalculators();
         std::vector<modReadings::Report> window;
-        for (const Heading &topic : headings)
+        for (const ExpectedTopic &topic : passTopics)
             window.push_back(RunAndRenderTopic(*modReadings::FindTopic(topic.caption)));
         window.push_back(modReadings::RenderComprehensiveReading());
 
@@ -233,9 +231,9 @@ TEST_F(Reading, CountsTheLettersAToZOfAnyName) {
     for (const auto &[first, last, destiny] :
          {std::array{"José", "müller", "5"}, std::array{"Zoë", "Strauß", "5"},
           std::array{"ﬁo", "a", "22"}, std::array{"Ann😀", "Lee🎉", "6"}})
-        EXPECT_EQ(Number(Read({first, {}, last, "March", "7", "2026"}),
-                         u"Destiny / Expressions Number"),
-                  destiny)
+        EXPECT_EQ(
+            Number(Read({first, {}, last, "March", "7", "2026"}), u"Destiny / Expressions Number"),
+            destiny)
             << first;
     // Of ten units, two in each emoji, four are mental and two physical.
     EXPECT_EQ(RunIn(Read({"Ann😀", {}, "Lee🎉", "March", "7", "1990"}),
