@@ -4,6 +4,9 @@
 // wrote and which it left alone.
 
 #include "core/reading_store.h"
+#include "core/runtime_failure.h"
+
+#include <gtest/gtest.h>
 
 #include <iterator>
 #include <set>
@@ -20,45 +23,43 @@ template <typename Type> struct Slot {
 #define SLOT(name)                                                                                 \
     { #name, &ReadingStore::name }
 
-inline constexpr Slot<int16> numberSlots[] = {
-    SLOT(PersonalMonthNumber),
-    SLOT(HiddenPassionNumber),
-    SLOT(LifePathPeriodsNumber),
-    SLOT(PinnacleNumber1),
-    SLOT(PinnacleNumber2),
-    SLOT(PinnacleNumber3),
-    SLOT(PinnacleNumber4),
-    SLOT(SubconsciousSelfNumber),
-    SLOT(LifePathNumber),
-    SLOT(DestinyNumber),
-    SLOT(KarmicDebtNumber),
-    SLOT(BalanceNumber),
-    SLOT(PersonalDayNumber),
-    SLOT(RationalThoughtNumber),
-    SLOT(HPBridgeNumber),
-    SLOT(LEBridgeNumber),
-    SLOT(EssenceNumber),
-    SLOT(RealizationNumber),
-    SLOT(InnerDreamsNumber),
-    SLOT(SoulUrgeNumber),
-    SLOT(LifePathDaySum),
-    SLOT(DestinyRaw),
-    SLOT(SoulUrgeRaw),
-    SLOT(InnerDreamsRaw),
-    SLOT(BirthdayRaw),
-    SLOT(MentalPercent),
-    SLOT(PhysicalPercent),
-    SLOT(EmotionalPercent),
-    SLOT(IntuitivePercent),
-    SLOT(ScratchIndex),
-    SLOT(ScratchSum),
-    SLOT(YUsedAsVowel),
-    SLOT(BirthDayValue),
-    SLOT(PeriodNumber1),
-    SLOT(PeriodNumber2),
-    SLOT(PeriodNumber3),
-    SLOT(PeriodRoot),
-};
+inline constexpr Slot<int16> numberSlots[] = {SLOT(PersonalMonthNumber),
+                                              SLOT(HiddenPassionNumber),
+                                              SLOT(LifePathPeriodsNumber),
+                                              SLOT(PinnacleNumber1),
+                                              SLOT(PinnacleNumber2),
+                                              SLOT(PinnacleNumber3),
+                                              SLOT(PinnacleNumber4),
+                                              SLOT(SubconsciousSelfNumber),
+                                              SLOT(LifePathNumber),
+                                              SLOT(DestinyNumber),
+                                              SLOT(KarmicDebtNumber),
+                                              SLOT(BalanceNumber),
+                                              SLOT(PersonalDayNumber),
+                                              SLOT(RationalThoughtNumber),
+                                              SLOT(HPBridgeNumber),
+                                              SLOT(LEBridgeNumber),
+                                              SLOT(EssenceNumber),
+                                              SLOT(RealizationNumber),
+                                              SLOT(InnerDreamsNumber),
+                                              SLOT(SoulUrgeNumber),
+                                              SLOT(LifePathDaySum),
+                                              SLOT(DestinyRaw),
+                                              SLOT(SoulUrgeRaw),
+                                              SLOT(InnerDreamsRaw),
+                                              SLOT(BirthdayRaw),
+                                              SLOT(MentalPercent),
+                                              SLOT(PhysicalPercent),
+                                              SLOT(EmotionalPercent),
+                                              SLOT(IntuitivePercent),
+                                              SLOT(ScratchIndex),
+                                              SLOT(ScratchSum),
+                                              SLOT(YUsedAsVowel),
+                                              SLOT(BirthDayValue),
+                                              SLOT(PeriodNumber1),
+                                              SLOT(PeriodNumber2),
+                                              SLOT(PeriodNumber3),
+                                              SLOT(PeriodRoot)};
 
 inline constexpr Slot<std::u16string> textSlots[] = {
     SLOT(PersonalMonthText),     SLOT(PersonalMonthAbout),   SLOT(BirthdayText),
@@ -154,6 +155,18 @@ inline ReadingStore MarkedStore() {
         marked.*member =
             u"old " + std::u16string(name, name + std::char_traits<char>::length(name));
     return marked;
+}
+
+/// The slots that `calculate` writes in a marked store.
+template <typename Calculate> SlotNames WrittenBy(Calculate calculate) {
+    const ReadingStore marked = store = MarkedStore();
+    calculate();
+    return ChangedSince(marked);
+}
+
+/// The slots that `calculate` writes in a marked store before it fails, as it must.
+template <typename Calculate> SlotNames WrittenBeforeFailure(Calculate calculate) {
+    return WrittenBy([&] { EXPECT_THROW(calculate(), RuntimeFailure); });
 }
 
 } // namespace modReadings
