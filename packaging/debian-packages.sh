@@ -3,7 +3,7 @@
 
 build_packages="
     ca-certificates cmake g++ ninja-build
-    qt6-base-dev qt6-svg-dev rapidjson-dev libcsv-dev
+    qt6-base-dev qt6-svg-dev rapidjson-dev libcsv-dev zlib1g-dev
     fonts-dejavu-core gzip librsvg2-bin xdg-utils
 "
 

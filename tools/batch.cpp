@@ -1,20 +1,13 @@
 #include "tools/batch.h"
 
 #include "core/clock.h"
-#include "tools/output.h"
+#include "tools/batch_writer.h"
+#include "tools/line_reader.h"
 #include "tools/people_lines.h"
 #include "tools/progress.h"
-#include "tools/reading.h"
 #include "tools/text.h"
 
-#include <QDir>
-#include <QFileInfo>
-
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
-#include <fstream>
-#include <iostream>
 #include <optional>
 #include <utility>
 
@@ -27,39 +20,26 @@ bool IsBlank(const std::string &line) { return line.find_first_not_of(" \t") == 
 /// One run over a batch of people.
 class Batch {
 public:
-    Batch(const Options &options, std::istream &input, long long inputSize)
-        : options_(options), input_(input), progress_(inputSize),
-          output_(options.outputDir.isEmpty() ? options.output : QString()) {}
+    explicit Batch(const Options &options)
+        : options_(options), input_(options.batchFile), progress_(input_.Size()),
+          writer_(MakeBatchWriter(options)), number_(options.firstLine - 1) {}
 
     ExitCode Run() {
-        while (NextLine()) {
-            if (IsBlank(line_))
+        LineReader::Found found{};
+        while ((found = input_.Next(line_)) != LineReader::Found::End) {
+            ++number_;
+            if (IsBlank(line_) && found == LineReader::Found::Line)
                 continue;
             if (!std::exchange(begun_, true) && Begin())
                 continue;
-            ReadLine();
+            ReadLine(found);
+            progress_.Show(input_.Passed(), ++people_);
         }
-        if (input_.bad()) // broken off, which is not the same as having come to its end
-            throw Refusal(u"--batch: reading the input stopped before its end (%1)"_s.arg(
-                              QString::fromLocal8Bit(std::strerror(errno))),
-                          number_ == 0 ? ExitCode::WrongInput : ExitCode::Failed);
-        if (options_.outputDir.isEmpty())
-            output_.Finish();
-        return wrong_ == 0 ? ExitCode::Ok : ExitCode::Failed;
+        writer_->Finish();
+        return wrong_ == 0 ? ExitCode::Ok : ExitCode::SomeLinesWrong;
     }
 
 private:
-    bool NextLine() {
-        if (!std::getline(input_, line_))
-            return false;
-        bytes_ += static_cast<long long>(line_.size()) + 1;
-        if (++number_ == 1 && line_.starts_with("\xEF\xBB\xBF"))
-            line_.erase(0, 3);
-        if (line_.ends_with('\r'))
-            line_.pop_back();
-        return true;
-    }
-
     /// Takes the first line that is not blank. Returns true when it was a header.
     bool Begin() {
         bool header = false;
@@ -68,74 +48,56 @@ private:
         } catch (const Refusal &refusal) {
             throw Refusal(u"--batch: line %1: %2"_s.arg(number_).arg(refusal.Line()));
         }
-        // Made only now, so that a batch that is refused leaves no folder behind.
-        if (!options_.outputDir.isEmpty() && !QDir().mkpath(options_.outputDir))
-            throw Refusal(u"--output-dir: the folder \"%1\" cannot be made"_s.arg(
-                Excerpt(options_.outputDir)));
+        writer_->Begin();
         return header;
     }
 
-    void ReadLine() {
+    void ReadLine(LineReader::Found found) {
         const modReadings::FixedClock oneDay(
             modReadings::Clock::Date()); // the same for the check and the reading
+        LineFacts facts{number_, {}};
         std::optional<modReadings::UserProfile> person;
         try {
-            person = CheckPerson(lines_.Parse(line_));
+            if (found == LineReader::Found::TooLong)
+                throw Refusal(u"the line is longer than 1 MB, which no person needs"_s);
+            std::optional<PersonLine> parsed = lines_.Parse(line_);
+            if (!parsed)
+                return;
+            facts.further = std::move(parsed->further);
+            person = CheckPerson(parsed->person);
         } catch (const Refusal &refusal) {
-            ReportWrong(refusal.Line());
+            ReportWrong(facts, OneLine(refusal.Line()));
         }
-        if (person)
-            Write(ReadingAs(options_.format, ReadPerson(*person, options_.topics)));
-        progress_.Show(bytes_, ++people_);
-    }
-
-    void ReportWrong(const QString &message) {
-        ++wrong_;
-        progress_.Clear();
-        const std::string line = OneLine(message);
-        std::fprintf(stderr, "orravane-report: line %lld: %s\n", number_, line.c_str());
-        if (options_.outputDir.isEmpty())
-            output_.Write(ErrorAsJson(number_, line));
-    }
-
-    void Write(const std::string &reading) {
-        if (options_.outputDir.isEmpty()) {
-            progress_.ClearForOutput();
-            output_.Write(reading);
+        if (!person)
             return;
-        }
-        const QString name = u"person-%1.%2"_s.arg(number_, 6, 10, '0'_L1)
-                                 .arg(options_.format == Format::Rtf ? "rtf"_L1 : "txt"_L1);
-        Output file(QDir(options_.outputDir).filePath(name), Output::Kind::InFolder);
-        file.Write(reading);
-        file.Finish();
+        if (options_.outputDir.isEmpty())
+            progress_.ClearForOutput();
+        writer_->WritePerson(*person, facts);
+    }
+
+    void ReportWrong(const LineFacts &facts, const std::string &message) {
+        progress_.Clear();
+        std::fprintf(stderr, "orravane-report: line %lld: %s\n", number_, message.c_str());
+        writer_->WriteError(facts, message);
+        if (++wrong_ == options_.maxErrors)
+            throw Refusal(
+                u"--max-errors: given up at line %1, after %2 wrong lines"_s.arg(number_).arg(
+                    wrong_),
+                ExitCode::SomeLinesWrong);
     }
 
     const Options &options_;
-    std::istream &input_;
+    LineReader input_;
     Progress progress_;
-    Output output_;
+    std::unique_ptr<BatchWriter> writer_;
     PeopleLines lines_;
     std::string line_;
-    long long number_ = 0; ///< of the line, from 1
+    long long number_; ///< of the line
     bool begun_ = false;
-    long long bytes_ = 0;
     long long people_ = 0;
     long long wrong_ = 0;
 };
 
 } // namespace
 
-ExitCode RunBatch(const Options &options) {
-    if (options.batchFile == "-"_L1) {
-        std::ios::sync_with_stdio(false); // takes what a pipe has, line by line
-        return Batch(options, std::cin, 0).Run();
-    }
-    std::ifstream file(options.batchFile.toStdString());
-    const QFileInfo info(options.batchFile);
-    if (!file || info.isDir())
-        throw Refusal(u"--batch: the file \"%1\" cannot be read (%2)"_s.arg(
-            Excerpt(options.batchFile),
-            QString::fromLocal8Bit(std::strerror(file ? EISDIR : errno))));
-    return Batch(options, file, info.size()).Run();
-}
+ExitCode RunBatch(const Options &options) { return Batch(options).Run(); }

@@ -9,6 +9,7 @@
 /// Reads options.batchFile and writes one JSON object a line, or one file per person into
 /// options.outputDir. Every person starts from a fresh store. A wrong line is reported on
 /// standard error with its number and the others go on; the result is then
-/// ExitCode::Failed, and ExitCode::Ok otherwise. Throws Refusal when the input cannot be
-/// opened or read, when its header is wrong, or when the output cannot be written.
+/// ExitCode::SomeLinesWrong, and ExitCode::Ok otherwise. Throws Refusal when the input cannot
+/// be opened or read or is of a form that is not read, when there are options.maxErrors wrong
+/// lines, or when the output cannot be written.
 ExitCode RunBatch(const Options &options);

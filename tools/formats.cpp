@@ -5,6 +5,8 @@
 #include "tools/text.h"
 
 #define RAPIDJSON_SSE2
+#include "tools/json_text.h"
+
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
@@ -20,17 +22,31 @@ namespace {
 
 using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer>;
 
-template <typename Writer> void WriteString(Writer &json, std::string_view text) {
-    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
-}
-
+/// A member whose text is our own.
 template <typename Writer> void WriteMember(Writer &json, const char *name, std::string_view text) {
     json.Key(name);
-    WriteString(json, text);
+    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
 void WriteMember(JsonWriter &json, const char *name, std::u16string_view text) {
     WriteMember(json, name, AsUtf8(text));
+}
+
+/// A member whose text comes from outside.
+void WriteOutsideMember(JsonWriter &json, const char *name, std::string_view text) {
+    static OutsideBuffer buffer; // keeps its memory from one text to the next
+    buffer.Clear();
+    OutsideJson outside(buffer);
+    WriteString(outside, text);
+    json.Key(name);
+    json.RawValue(buffer.GetString(), buffer.GetSize(), rapidjson::kStringType);
+}
+
+void WriteInput(JsonWriter &json, std::string_view further) {
+    if (further.empty())
+        return;
+    json.Key("input");
+    json.RawValue(further.data(), further.size(), rapidjson::kObjectType);
 }
 
 /// What is in `buffer`, ended as a line.
@@ -66,20 +82,25 @@ std::string ReadingAsText(const PersonReading &reading) {
     return text;
 }
 
-std::string ReadingAsJson(const PersonReading &reading) {
+std::string ReadingAsJson(const PersonReading &reading, const LineFacts &line) {
     static rapidjson::StringBuffer buffer; // keeps its memory from one report to the next
     buffer.Clear();
     JsonWriter json(buffer);
     json.StartObject();
-    WriteMember(json, "first", reading.person.FirstName);
-    WriteMember(json, "middle", reading.person.MiddleName);
-    WriteMember(json, "last", reading.person.LastName);
+    WriteOutsideMember(json, "first", AsUtf8(reading.person.FirstName));
+    WriteOutsideMember(json, "middle", AsUtf8(reading.person.MiddleName));
+    WriteOutsideMember(json, "last", AsUtf8(reading.person.LastName));
     WriteMember(json, "month", reading.person.BirthMonth);
     json.Key("day");
     json.Int(modReadings::NumberFromText(reading.person.BirthDay));
     json.Key("year");
     json.Int(modReadings::NumberFromText(reading.person.BirthYear));
     WriteMember(json, "today", std::string_view(IsoDate(reading.day)));
+    if (line.number != 0) {
+        json.Key("line");
+        json.Int64(line.number);
+    }
+    WriteInput(json, line.further);
     json.Key("topics");
     json.StartArray();
     for (const TopicReading &topic : reading.topics) {
@@ -125,13 +146,14 @@ std::string ReadingAs(Format format, const PersonReading &reading) {
     return ReadingAsText(reading);
 }
 
-std::string ErrorAsJson(long long line, std::string_view message) {
+std::string ErrorAsJson(const LineFacts &line, std::string_view message) {
     rapidjson::StringBuffer buffer;
     JsonWriter json(buffer);
     json.StartObject();
     json.Key("line");
-    json.Int64(line);
-    WriteMember(json, "error", message);
+    json.Int64(line.number);
+    WriteOutsideMember(json, "error", message);
+    WriteInput(json, line.further);
     json.EndObject();
     return Line(buffer);
 }

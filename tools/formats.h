@@ -14,9 +14,16 @@ enum class Format { Text, Json, Rtf };
 /// Blocks as in the pane with plain line breaks, an empty line between topics.
 std::string ReadingAsText(const PersonReading &reading);
 
-/// One object on one line: the captured person, the day of the reading, and the topics
-/// with their runs, whose line breaks are "\r\n".
-std::string ReadingAsJson(const PersonReading &reading);
+/// What else is known of a person or an error in a batch.
+struct LineFacts {
+    long long number = 0; ///< of the line, from 1 on; 0 outside a batch
+    std::string further;  ///< the person's further members or columns, a JSON object; or empty
+};
+
+/// One object on one line: the captured person, the day of the reading, the line and the
+/// further members if there are any, and the topics with their runs, whose line breaks are
+/// "\r\n".
+std::string ReadingAsJson(const PersonReading &reading, const LineFacts &line = {});
 
 /// One document, an empty line between topics.
 std::string ReadingAsRtf(const PersonReading &reading);
@@ -25,7 +32,7 @@ std::string ReadingAsRtf(const PersonReading &reading);
 std::string ReadingAs(Format format, const PersonReading &reading);
 
 /// The object that stands in the place of a person who could not be read.
-std::string ErrorAsJson(long long line, std::string_view message);
+std::string ErrorAsJson(const LineFacts &line, std::string_view message);
 
 std::string BookAsText(std::span<const modReadings::BookEntry> book);
 std::string BookAsJson(std::span<const modReadings::BookEntry> book);

@@ -1,5 +1,6 @@
 #include "core/clock.h"
 #include "tools/batch.h"
+#include "tools/help.h"
 #include "tools/options.h"
 #include "tools/output.h"
 #include "tools/reading.h"
@@ -45,7 +46,10 @@ ExitCode Run(int argc, char *argv[]) {
 
     switch (options.task) {
     case Options::Task::Help:
-        Print({}, options.help.toStdString());
+        Print({}, HelpText());
+        break;
+    case Options::Task::ListTopics:
+        Print({}, TopicList());
         break;
     case Options::Task::Version:
         Print({}, std::string("orravane-report ") + orravaneVersion + '\n');

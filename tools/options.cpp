@@ -1,5 +1,6 @@
 #include "tools/options.h"
 
+#include "tools/option_table.h"
 #include "tools/refusal.h"
 #include "tools/text.h"
 
@@ -8,96 +9,134 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Dashed(const QCommandLineOption &option) { return u"--"_s + option.names().constFirst(); }
+QString Text(std::string_view text) { return QString::fromUtf8(text); }
 
-struct CommandLine {
-    QCommandLineParser parser;
-    QCommandLineOption first{u"first"_s, u"First name."_s, u"NAME"_s};
-    QCommandLineOption middle{u"middle"_s, u"Middle name."_s, u"NAME"_s};
-    QCommandLineOption last{u"last"_s, u"Last name."_s, u"NAME"_s};
-    QCommandLineOption month{u"month"_s, u"Birth month: an English month name or 1 to 12."_s,
-                             u"MONTH"_s};
-    QCommandLineOption day{u"day"_s, u"Birth day: 1 to 31."_s, u"N"_s};
-    QCommandLineOption year{u"year"_s, u"Birth year: 1900 to 2050."_s, u"N"_s};
-    QCommandLineOption today{u"today"_s, u"Read for this day instead of today."_s, u"YYYY-MM-DD"_s};
-    QCommandLineOption topic{u"topic"_s,
-                             u"Print this topic, a caption of the window's tree or "
-                             "\"Comprehensive Reading\"; may be given "
-                             "several times. Default: all topics."_s,
-                             u"CAPTION"_s};
-    QCommandLineOption format{u"format"_s, u"text (default), json or rtf."_s, u"FORMAT"_s};
-    QCommandLineOption output{
-        u"output"_s, u"Write to this file, whole or not at all, instead of standard output."_s,
-        u"FILE"_s};
-    QCommandLineOption book{u"book"_s,
-                            u"Print every reading and fixed text that the program holds."_s};
-    QCommandLineOption batch{
-        u"batch"_s,
-        u"Read many people, one a line: JSON Lines, or CSV with a header row "
-        "first,middle,last,month,day,year. - is standard input. Prints one JSON "
-        "object a line."_s,
-        u"FILE"_s};
-    QCommandLineOption outputDir{
-        u"output-dir"_s,
-        u"With --batch and --format text or rtf: one file a person here, named "
-        "after the line."_s,
-        u"DIR"_s};
-    QCommandLineOption help{u"help"_s, u"Show this help."_s};
-    QCommandLineOption version{u"version"_s, u"Show the version."_s};
+QString Dashed(const OptionRow &row) { return u"--"_s + Text(row.name); }
+QString Dashed(OptionId id) { return Dashed(RowOf(id)); }
 
-    CommandLine() {
-        parser.setApplicationDescription(
-            u"The Orravane numerology report without the window.\n\n"
-            "A person:  orravane-report --first NAME [--middle NAME] --last NAME "
-            "--month MONTH --day N "
-            "--year N\n"
-            "The prose: orravane-report --book\n"
-            "Many:      orravane-report --batch FILE"_s);
-        parser.addOptions({first, middle, last, month, day, year, today, topic, format, output,
-                           book, batch, outputDir, help, version});
+/// The option that `argument` is, written "--name", "--name=value" or "-n"; nullptr for
+/// anything else.
+const OptionRow *RowOf(const QString &argument) {
+    const QString word = argument.section(u'=', 0, 0);
+    const auto table = OptionTable();
+    const auto row = std::ranges::find_if(table, [&](const OptionRow &each) {
+        return word == Dashed(each) ||
+               (each.letter != 0 && word == u"-"_s + QLatin1Char(each.letter));
+    });
+    return row == table.end() ? nullptr : &*row;
+}
+
+/// Whether the word behind `argument`, which is the option `row` or none, is its value.
+bool TakesNextWord(const OptionRow *row, const QString &argument) {
+    return row != nullptr && !row->value.empty() && !argument.contains(u'=');
+}
+
+/// The parser reads the command line; the table says which options there are.
+class CommandLine {
+public:
+    /// Throws Refusal unless `arguments` are known options, each with its value.
+    explicit CommandLine(const QStringList &arguments) {
+        for (const OptionRow &row : OptionTable()) {
+            QStringList names{Text(row.name)};
+            if (row.letter != 0)
+                names << QString(QLatin1Char(row.letter));
+            parser_.addOption({names, Text(row.help), Text(row.value)});
+        }
+        RefuseUnknownAndValueless(arguments);
+        if (parser_.parse(arguments))
+            return;
+        if (!parser_.unknownOptionNames().isEmpty()) // among letters that are written together
+            throw Unknown(u"-"_s + parser_.unknownOptionNames().constFirst());
+        throw Refusal(parser_.errorText() + u" See --help for the options."_s);
     }
 
-    bool Given(const QCommandLineOption &option) const { return parser.isSet(option); }
+    bool Given(OptionId id) const { return parser_.isSet(Text(RowOf(id).name)); }
+    QString Value(OptionId id) const { return parser_.value(Text(RowOf(id).name)); }
+    QStringList Values(OptionId id) const { return parser_.values(Text(RowOf(id).name)); }
+    QStringList Words() const { return parser_.positionalArguments(); }
 
-    /// The option that `argument` is, if that takes the next word as its value; or nullptr.
-    const QCommandLineOption *OptionBefore(const QString &argument) const {
-        const std::array valued{&first, &middle, &last,   &month,  &day,   &year,
-                                &today, &topic,  &format, &output, &batch, &outputDir};
-        const auto option = std::ranges::find(
-            valued, argument, [](const QCommandLineOption *each) { return Dashed(*each); });
-        return option == valued.end() ? nullptr : *option;
+    void RefuseDoubled() const {
+        const QStringList given = parser_.optionNames();
+        for (const OptionRow &row : OptionTable()) {
+            const auto count =
+                given.count(Text(row.name)) +
+                (row.letter == 0 ? 0 : given.count(QString(QLatin1Char(row.letter))));
+            if (!row.repeatable && count > 1)
+                throw Refusal(u"%1 is given more than once; give it once."_s.arg(Dashed(row)));
+        }
     }
 
-    /// Why the parser does not take `arguments`, the last of which is `end`.
-    QString WhyNotParsed(const QString &end) const {
-        // The parser's text names the option that lacks its value, or one that has a value
-        // and takes none.
-        const QCommandLineOption *valueless = OptionBefore(end);
-        if (valueless != nullptr && parser.errorText().contains(end))
-            return u"%1: the value is missing; give %2. %3"_s.arg(end, valueless->valueName(),
-                                                                  valueless->description());
-        if (!parser.unknownOptionNames().isEmpty())
-            return u"Unknown option \"%1\"; see --help for the options."_s.arg(
-                Excerpt(parser.unknownOptionNames().constFirst()));
-        return parser.errorText() + u" See --help for the options."_s;
+    /// `task` is one of goesWith, and `named` what asked for it, unless it is a person's.
+    void RefuseWhatDoesNotGoWith(unsigned task, const QString &named) const {
+        for (const OptionRow &row : OptionTable()) {
+            if ((row.tasks & task) != 0 || !Given(row.id))
+                continue;
+            if (task == goesWith::person)
+                throw Refusal(u"%1 goes with --batch only; see --help."_s.arg(Dashed(row)));
+            throw Refusal(
+                u"%1 does not go with %2; leave one of them out."_s.arg(Dashed(row), named));
+        }
     }
+
+private:
+    static Refusal Unknown(const QString &typed) {
+        return Refusal(u"Unknown option \"%1\"; see --help for the options."_s.arg(Excerpt(typed)));
+    }
+
+    static void RefuseUnknownAndValueless(const QStringList &arguments) {
+        for (qsizetype index = 1; index < arguments.size(); ++index) {
+            const QString &argument = arguments[index];
+            if (argument == "--"_L1)
+                return;
+            const OptionRow *row = RowOf(argument);
+            const bool isOption = argument.size() > 1 && argument.startsWith(u'-');
+            const bool isLong = argument.startsWith("--"_L1);
+            if (isOption && row == nullptr && (isLong || RowOf(argument.first(2)) == nullptr))
+                throw Unknown(argument.section(u'=', 0, 0));
+            if (!TakesNextWord(row, argument))
+                continue;
+            const QString give = u"give %1. %2"_s.arg(Text(row->value), Text(row->help));
+            if (++index == arguments.size())
+                throw Refusal(u"%1 lacks its value; %2"_s.arg(argument, give));
+            if (RowOf(arguments[index]) != nullptr)
+                throw Refusal(u"%1 lacks its value, as %2 is an option too (%1=%2 makes it the "
+                              "value); %3"_s.arg(argument, Excerpt(arguments[index]), give));
+        }
+    }
+
+    QCommandLineParser parser_;
 };
 
-/// A date that exists, written YYYY-MM-DD.
-std::optional<std::chrono::year_month_day> DateFrom(const QString &text) {
+/// A date that exists, written YYYY-MM-DD. Throws Refusal for anything else.
+std::chrono::year_month_day DateFrom(const QString &text) {
     static const QRegularExpression form(u"\\A[0-9]{4}-[0-9]{2}-[0-9]{2}\\z"_s);
+    if (!form.match(text).hasMatch())
+        throw Refusal(
+            u"--today: \"%1\" is not allowed; give a date as YYYY-MM-DD."_s.arg(Excerpt(text)));
     const QDate date = QDate::fromString(text, Qt::ISODate);
-    if (!form.match(text).hasMatch() || !date.isValid())
-        return std::nullopt;
+    if (!date.isValid())
+        throw Refusal(u"--today: \"%1\" is not allowed, there is no such day; give a date that "
+                      "exists as YYYY-MM-DD."_s.arg(text));
     return std::chrono::year_month_day(std::chrono::year(date.year()),
                                        std::chrono::month(static_cast<unsigned>(date.month())),
                                        std::chrono::day(static_cast<unsigned>(date.day())));
+}
+
+/// The value of an option that is a whole number from 1 on.
+long long CountFrom(OptionId id, const QString &text) {
+    const bool digits = std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    bool fits = false;
+    const long long count = text.toLongLong(&fits);
+    if (!digits || !fits || count < 1)
+        throw Refusal(u"%1: \"%2\" is not allowed; give a whole number from 1 on."_s.arg(
+            Dashed(id), Excerpt(text)));
+    return count;
 }
 
 std::optional<Format> FormatFrom(const QString &text) {
@@ -113,118 +152,101 @@ std::optional<Format> FormatFrom(const QString &text) {
 } // namespace
 
 void RequireUtf8(int argc, const char *const *argv) {
-    const CommandLine line;
-    const QCommandLineOption *option = nullptr; // that takes the argument as its value
+    const OptionRow *option = nullptr; // that takes the argument as its value
     for (int index = 1; index < argc; ++index) {
         const std::string_view bytes = argv[index];
         const auto argument = FromUtf8(bytes);
         if (!argument) {
             if (option == nullptr)
-                option = line.OptionBefore(QString::fromUtf8(bytes.substr(0, bytes.find('='))));
+                option = RowOf(QString::fromUtf8(bytes));
+            if (option != nullptr && option->value.empty())
+                option = nullptr;
             const QString name = option == nullptr ? QString() : Dashed(*option) + u": "_s;
             throw Refusal(u"%1\"%2\" is not UTF-8; give a text in UTF-8."_s.arg(
                 name, Excerpt(QString::fromUtf8(bytes))));
         }
-        option = option == nullptr ? line.OptionBefore(*argument) : nullptr;
+        const OptionRow *const next = option == nullptr ? RowOf(*argument) : nullptr;
+        option = TakesNextWord(next, *argument) ? next : nullptr;
     }
 }
 
 Options ParseOptions(const QStringList &arguments) {
-    CommandLine line;
-    if (!line.parser.parse(arguments))
-        throw Refusal(line.WhyNotParsed(arguments.constLast()));
+    using enum OptionId;
+    if (arguments.size() < 2)
+        throw Refusal(u"Nothing to do; see --help for what is possible."_s);
+    const CommandLine line(arguments);
 
     Options options;
-    if (line.Given(line.help)) {
-        options.task = Options::Task::Help;
-        options.help = line.parser.helpText();
-        return options;
-    }
-    if (line.Given(line.version)) {
-        options.task = Options::Task::Version;
-        return options;
-    }
-    if (!line.parser.positionalArguments().isEmpty())
+    for (const auto &[id, task] : {std::pair(Help, Options::Task::Help),
+                                   {Version, Options::Task::Version},
+                                   {ListTopics, Options::Task::ListTopics}})
+        if (line.Given(id)) {
+            options.task = task;
+            return options;
+        }
+
+    if (!line.Words().isEmpty())
         throw Refusal(u"\"%1\" is not an option; see --help for what is allowed."_s.arg(
-            Excerpt(line.parser.positionalArguments().constFirst())));
-    const QStringList given = line.parser.optionNames();
-    for (const QString &name : given)
-        if (name != line.topic.names().constFirst() && given.count(name) > 1)
-            throw Refusal(u"--%1 is given more than once; give it once."_s.arg(name));
+            Excerpt(line.Words().constFirst())));
+    line.RefuseDoubled();
 
-    options.task = line.Given(line.book)    ? Options::Task::Book
-                   : line.Given(line.batch) ? Options::Task::Batch
-                                            : Options::Task::Person;
-    if (line.Given(line.book) && line.Given(line.batch))
-        throw Refusal(u"--book and --batch do not go together; give one of them."_s);
+    if (line.Given(Book)) {
+        options.task = Options::Task::Book;
+        line.RefuseWhatDoesNotGoWith(goesWith::book, Dashed(Book));
+    } else if (line.Given(Batch)) {
+        options.task = Options::Task::Batch;
+        line.RefuseWhatDoesNotGoWith(goesWith::batch, Dashed(Batch));
+    } else {
+        line.RefuseWhatDoesNotGoWith(goesWith::person, {});
+    }
 
-    const QString only =
-        options.task == Options::Task::Book ? Dashed(line.book) : Dashed(line.batch);
-    if (options.task != Options::Task::Person)
-        for (const QCommandLineOption *person :
-             {&line.first, &line.middle, &line.last, &line.month, &line.day, &line.year})
-            if (line.Given(*person))
-                throw Refusal(
-                    u"%1 does not go with %2; leave one of them out."_s.arg(Dashed(*person), only));
-    if (options.task == Options::Task::Book)
-        for (const QCommandLineOption *reading : {&line.today, &line.topic})
-            if (line.Given(*reading))
-                throw Refusal(
-                    u"%1 does not go with --book; leave one of them out."_s.arg(Dashed(*reading)));
-
-    if (line.Given(line.format)) {
-        const auto format = FormatFrom(line.parser.value(line.format));
+    if (line.Given(OptionId::Format)) {
+        const auto format = FormatFrom(line.Value(OptionId::Format));
         if (!format)
             throw Refusal(u"--format: \"%1\" is not allowed; give text, json or rtf."_s.arg(
-                Excerpt(line.parser.value(line.format))));
+                Excerpt(line.Value(OptionId::Format))));
         options.format = *format;
-    } else if (options.task == Options::Task::Batch && !line.Given(line.outputDir)) {
-        options.format = Format::Json;
+    } else if (options.task == Options::Task::Batch && !line.Given(OutputDir)) {
+        options.format = ::Format::Json;
     }
-    if (options.task == Options::Task::Book && options.format == Format::Rtf)
+    if (options.task == Options::Task::Book && options.format == ::Format::Rtf)
         throw Refusal(u"--format: \"rtf\" does not go with --book; give text or json."_s);
 
-    options.outputDir = line.parser.value(line.outputDir);
-    if (line.Given(line.outputDir) && options.task != Options::Task::Batch)
-        throw Refusal(u"--output-dir goes with --batch only; for one person give --output FILE."_s);
-    if (line.Given(line.outputDir) && options.outputDir.isEmpty())
-        throw Refusal(u"--output-dir is empty; give the name of a folder."_s);
+    for (const OptionId id : {Batch, Output, OutputDir})
+        if (line.Given(id) && line.Value(id).isEmpty())
+            throw Refusal(u"%1 is empty; give the name of a %2."_s.arg(
+                Dashed(id), id == OutputDir ? u"folder"_s : u"file, or - for the standard one"_s));
+    options.batchFile = line.Value(Batch);
+    options.output = line.Value(Output);
+    options.outputDir = line.Value(OutputDir);
     if (options.task == Options::Task::Batch) {
-        const bool files = !options.outputDir.isEmpty();
-        if (files && options.format == Format::Json)
+        const bool files = line.Given(OutputDir);
+        if (files && options.format == ::Format::Json)
             throw Refusal(u"--format: \"json\" does not go with --output-dir; give text or rtf."_s);
-        if (!files && options.format != Format::Json)
+        if (!files && options.format != ::Format::Json)
             throw Refusal(u"--format: only json goes to one output with --batch; "
                           "give --output-dir DIR for text and rtf."_s);
-        if (files && line.Given(line.output))
+        if (files && line.Given(Output))
             throw Refusal(u"--output does not go with --output-dir; leave one of them out."_s);
     }
+    if (line.Given(FirstLine))
+        options.firstLine = CountFrom(FirstLine, line.Value(FirstLine));
+    if (line.Given(MaxErrors))
+        options.maxErrors = CountFrom(MaxErrors, line.Value(MaxErrors));
 
-    if (line.Given(line.today)) {
-        options.today = DateFrom(line.parser.value(line.today));
-        if (!options.today)
-            throw Refusal(u"--today: \"%1\" is not allowed; give a date as YYYY-MM-DD."_s.arg(
-                Excerpt(line.parser.value(line.today))));
-    }
-    for (const QString &caption : line.parser.values(line.topic)) {
+    if (line.Given(Today))
+        options.today = DateFrom(line.Value(Today));
+    for (const QString &caption : line.Values(Topic)) {
         const std::u16string_view known = KnownCaption(caption.toStdU16String());
         if (known.empty())
-            throw Refusal(
-                u"--topic: \"%1\" is not a topic; give a caption of the tree, such as "
-                "\"Life Path Number\" or \"Comprehensive Reading\"."_s.arg(Excerpt(caption)));
+            throw Refusal(u"--topic: \"%1\" is not a topic; --list-topics shows what is one."_s.arg(
+                Excerpt(caption)));
         options.topics.push_back(known);
     }
     if (options.topics.empty())
         options.topics = AllCaptions();
 
-    options.batchFile = line.parser.value(line.batch);
-    if (line.Given(line.batch) && options.batchFile.isEmpty())
-        throw Refusal(u"--batch is empty; give the name of a file, or - for standard input."_s);
-    options.output = line.parser.value(line.output);
-    if (line.Given(line.output) && options.output.isEmpty())
-        throw Refusal(u"--output is empty; give the name of a file."_s);
-    options.person = {line.parser.value(line.first), line.parser.value(line.middle),
-                      line.parser.value(line.last),  line.parser.value(line.month),
-                      line.parser.value(line.day),   line.parser.value(line.year)};
+    options.person = {line.Value(First), line.Value(Middle), line.Value(Last), line.Value(Month),
+                      line.Value(Day),   line.Value(Year),   line.Value(Date)};
     return options;
 }

@@ -13,7 +13,7 @@
 #include <vector>
 
 struct Options {
-    enum class Task { Person, Book, Batch, Help, Version };
+    enum class Task { Person, Book, Batch, ListTopics, Help, Version };
 
     Task task = Task::Person;
     PersonInput person;
@@ -21,9 +21,10 @@ struct Options {
     std::optional<std::chrono::year_month_day> today;
     std::vector<std::u16string_view> topics; ///< captions, never empty
     QString batchFile;                       ///< "-" for standard input
+    long long firstLine = 1;                 ///< the number of the input's first line
+    std::optional<long long> maxErrors;      ///< at how many wrong lines a batch gives up
     QString outputDir;                       ///< empty: none
     QString output;                          ///< empty: standard output
-    QString help;                            ///< the text of --help
 };
 
 /// Throws Refusal, naming the option, unless all arguments behind the program's name are

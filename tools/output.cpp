@@ -164,7 +164,8 @@ void Output::OpenBeside(std::string place) {
 }
 
 void Output::Fail(int error) const {
-    throw Refusal(name_ + u": "_s + QString::fromLocal8Bit(std::strerror(error)), ExitCode::Failed);
+    throw Refusal(name_ + u": "_s + QString::fromLocal8Bit(std::strerror(error)),
+                  ExitCode::CannotReadOrWrite);
 }
 
 void Output::Write(std::string_view bytes) {

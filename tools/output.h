@@ -1,7 +1,7 @@
 #pragma once
 
 // Where the report tool's bytes go: standard output, or a file that is written whole or
-// not at all. What cannot be written throws Refusal with ExitCode::Failed.
+// not at all. What cannot be written throws Refusal with ExitCode::CannotReadOrWrite.
 
 #include <QString>
 

@@ -1,12 +1,16 @@
 #include "tools/people.h"
 
 #include "core/clock.h"
+#include "core/letters.h"
 #include "core/months.h"
+#include "core/runtime_failure.h"
 #include "core/text.h"
 #include "numbers/essence.h"
 #include "report/person.h"
 #include "tools/refusal.h"
 #include "tools/text.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
@@ -27,15 +31,59 @@ std::optional<int> Number(const QString &text, int least, int most) {
     return value >= least && value <= most ? std::optional(value) : std::nullopt;
 }
 
-/// The English month that `text` names or numbers; empty for none.
+/// The English month that `text` names, shortens or numbers; empty for none.
 QString MonthName(const QString &text) {
     if (const auto number = Number(text, 1, 12))
         return QStringView(modReadings::englishMonths[static_cast<std::size_t>(*number) - 1])
             .toString();
-    for (const std::u16string_view month : modReadings::englishMonths)
-        if (text.compare(QStringView(month), Qt::CaseInsensitive) == 0)
-            return QStringView(month).toString();
+    const QStringView word = text.endsWith(u'.') ? QStringView(text).chopped(1) : text;
+    for (const std::u16string_view month : modReadings::englishMonths) {
+        const QStringView name(month);
+        const bool shortened =
+            word.size() == 3 || word.compare("sept"_L1, Qt::CaseInsensitive) == 0;
+        if (text.compare(name, Qt::CaseInsensitive) == 0 ||
+            (shortened && name.startsWith(word, Qt::CaseInsensitive)))
+            return name.toString();
+    }
     return {};
+}
+
+/// `input` with its date in month, day and year, if it has one in one piece.
+PersonInput WithDateInParts(PersonInput input, const QString &prefix) {
+    if (input.date.isEmpty())
+        return input;
+    const QString name = prefix.isEmpty() ? u"birthdate"_s : prefix + "date"_L1;
+    for (const QString &part : {input.month, input.day, input.year})
+        if (!part.isEmpty())
+            throw Refusal(
+                u"%1 does not go with month, day and year; leave one of them out"_s.arg(name));
+    static const QRegularExpression form(u"\\A([0-9]{4})-([0-9]{2})-([0-9]{2})\\z"_s);
+    const QRegularExpressionMatch match = form.match(input.date);
+    if (!match.hasMatch() || !Number(match.captured(1), 1900, 2050) ||
+        !Number(match.captured(2), 1, 12) || !Number(match.captured(3), 1, 31))
+        throw Refusal(
+            u"%1: \"%2\" is not allowed; give YYYY-MM-DD with a year from 1900 to 2050, "
+            "a month from 01 to 12 and a day from 01 to 31"_s.arg(name, Excerpt(input.date)));
+    input.year = match.captured(1);
+    input.month = match.captured(2);
+    input.day = match.captured(3);
+    return input;
+}
+
+/// Refuses a name with a sum that int16 cannot hold, which would silently count 0, and one of
+/// more characters than it can count.
+void RefuseTooLong(const UserProfile &person, const QString &prefix) {
+    const std::u16string whole = person.FirstName + person.MiddleName + person.LastName;
+    try {
+        modReadings::Length(whole);
+        modReadings::NameLetterSum(whole);
+        // The Rational Thought adds the day to the first name.
+        modReadings::Add(modReadings::NameLetterSum(person.FirstName),
+                         modReadings::NumberFromText(person.BirthDay));
+    } catch (const modReadings::RuntimeFailure &) {
+        throw Refusal(u"the name is too long, its letters add up to more than 32767 or it has more "
+                      "characters; shorten %1first, %1middle or %1last"_s.arg(prefix));
+    }
 }
 
 /// The walk of the Essence repeats a name until the person's age is reached and has no
@@ -55,21 +103,22 @@ void RefuseEndlessEssence(const UserProfile &person, const QString &prefix) {
 
 } // namespace
 
-UserProfile CheckPerson(const PersonInput &input, const QString &prefix) {
+UserProfile CheckPerson(const PersonInput &given, const QString &prefix) {
     const auto refusal = [&](QLatin1StringView name, const QString &value, const QString &allowed) {
         return Refusal(value.isEmpty() ? u"%1 is missing or empty; %2"_s.arg(prefix + name, allowed)
                                        : u"%1: \"%2\" is not allowed; %3"_s.arg(
                                              prefix + name, Excerpt(value), allowed));
     };
 
-    if (input.first.isEmpty())
+    if (given.first.isEmpty())
         throw refusal("first"_L1, {}, u"give the first name"_s);
-    if (input.last.isEmpty())
+    if (given.last.isEmpty())
         throw refusal("last"_L1, {}, u"give the last name"_s);
+    const PersonInput input = WithDateInParts(given, prefix);
     const QString month = MonthName(input.month);
     if (month.isEmpty())
         throw refusal("month"_L1, input.month,
-                      u"give an English month name or a number from 1 to 12"_s);
+                      u"give an English month name, its abbreviation or a number from 1 to 12"_s);
     const auto day = Number(input.day, 1, 31);
     if (!day)
         throw refusal("day"_L1, input.day, u"give a number from 1 to 31"_s);
@@ -79,6 +128,7 @@ UserProfile CheckPerson(const PersonInput &input, const QString &prefix) {
 
     UserProfile person = modReadings::Captured({input.first, input.middle, input.last, month,
                                                 QString::number(*day), QString::number(*year)});
+    RefuseTooLong(person, prefix);
     RefuseEndlessEssence(person, prefix);
     return person;
 }

@@ -14,11 +14,13 @@ struct PersonInput {
     QString month;
     QString day;
     QString year;
+    QString date; ///< YYYY-MM-DD in place of month, day and year; empty otherwise
 };
 
 /// Checks `input` against what the window's boxes and lists allow: names not empty, an
-/// English month name or 1 to 12, a day from 1 to 31, a year from 1900 to 2050. Also
-/// refuses a name whose Essence would never come to an end in the present year. Returns
+/// English month name, its abbreviation or 1 to 12, a day from 1 to 31, a year from 1900 to
+/// 2050; whether the month has that day is not asked. Also refuses a name that is too long for
+/// its sums, and one whose Essence would never come to an end in the present year. Returns
 /// the person captured as the window does it, with the English name of the month. Throws
 /// Refusal with a line that names the input, with `prefix` in front ("--first" on the
 /// command line, "first" in a batch), and says what is allowed.

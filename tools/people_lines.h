@@ -1,26 +1,46 @@
 #pragma once
 
-// People as lines of text: JSON Lines, or CSV under a header row. Which of the two it is
-// shows in the first line that is not blank: a header has at least one of the six columns
-// among its fields. Any other line that is no JSON object is a wrong line of JSON Lines,
-// and the people behind it are read all the same.
+// People as lines of text: JSON Lines, or CSV under a header row, with commas or tabs. Which of
+// them it is shows in the first line that is not blank: a header has at least one of the known
+// columns among its fields. Any other line that is no JSON object is a wrong line of JSON
+// Lines, and the people behind it are read all the same.
 
 #include "tools/people.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
+
+struct PersonLine {
+    PersonInput person;  ///< unchecked
+    std::string further; ///< what else the line holds: a JSON object, or empty for nothing
+};
 
 class PeopleLines {
 public:
     /// Takes the first line that is not blank. Returns true when it was a header and holds
-    /// no person. Throws Refusal for a header with a wrong, doubled or missing column.
+    /// no person. Throws Refusal for a header with a doubled or missing column, and for the
+    /// beginning of an input that is recognised as something else: columns with another
+    /// separator, UTF-16, an archive, a JSON array.
     bool Begin(const std::string &line);
 
-    /// The inputs that `line` holds, unchecked. Throws Refusal for a line that holds none.
-    PersonInput Parse(const std::string &line) const;
+    /// What `line` holds. Nothing for the rest of a row that was refused before because it
+    /// goes on behind a line break. Throws Refusal for a line that is no person.
+    std::optional<PersonLine> Parse(const std::string &line);
 
 private:
-    PersonInput ParseCsv(const std::string &line) const;
+    struct Column {
+        std::string name;
+        QString PersonInput::*input; ///< nullptr for a further column
+    };
 
-    std::vector<QString PersonInput::*> columns_; ///< empty for JSON Lines
+    class CsvRow;
+
+    std::optional<PersonLine> ParseCsv(const std::string &line);
+    std::optional<PersonLine> PersonIn(const CsvRow &row) const;
+
+    std::vector<Column> columns_; ///< empty for JSON Lines
+    char separator_ = ',';
+    std::string open_; ///< the rows since one whose quotation mark is open
 };

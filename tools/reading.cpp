@@ -7,6 +7,8 @@
 #include "report/topic_tree.h"
 #include "report/topics.h"
 
+#include <QStringView>
+
 using namespace modReadings;
 
 std::vector<std::u16string_view> AllCaptions() {
@@ -18,10 +20,12 @@ std::vector<std::u16string_view> AllCaptions() {
 }
 
 std::u16string_view KnownCaption(std::u16string_view caption) {
-    if (const Topic *topic = FindTopic(caption))
-        return topic->caption;
-    return caption == captions::comprehensiveReading ? captions::comprehensiveReading
-                                                     : std::u16string_view();
+    std::vector<std::u16string_view> known = AllCaptions();
+    known.push_back(captions::comprehensiveReading);
+    for (const std::u16string_view each : known)
+        if (QStringView(each).compare(caption, Qt::CaseInsensitive) == 0)
+            return each;
+    return {};
 }
 
 PersonReading ReadPerson(const UserProfile &person, std::span<const std::u16string_view> captions) {

@@ -28,8 +28,8 @@ struct PersonReading {
 /// The captions of all topics, in the order of the pass.
 std::vector<std::u16string_view> AllCaptions();
 
-/// The caption of the tree that is exactly `caption`, a topic or the Comprehensive
-/// Reading; empty for anything else. The view lives as long as the program.
+/// The caption of the tree that is `caption` but for upper and lower case, a topic or the
+/// Comprehensive Reading; empty for anything else. The view lives as long as the program.
 std::u16string_view KnownCaption(std::u16string_view caption);
 
 /// Reads `person` for the present day, on a fresh store. Renders the topics of `captions`,

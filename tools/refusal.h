@@ -7,11 +7,12 @@
 #include <exception>
 #include <utility>
 
-/// How the program ends.
+/// How the program ends. Scripts rely on these numbers.
 enum class ExitCode {
-    Ok = 0,
-    Failed = 1,    ///< some lines of a batch were wrong, or an output could not be written
-    WrongInput = 2 ///< wrong use: options, a person's data, or a batch that cannot be read at all
+    Ok = 0,               ///< all was read and written
+    SomeLinesWrong = 1,   ///< lines of a batch could not be read; its other lines were
+    WrongUse = 2,         ///< options, a person's data, or a batch of a form that is not read
+    CannotReadOrWrite = 3 ///< the input or the output failed
 };
 
 /// Thrown with one line that says what is wrong and what is allowed. Within a batch it is
@@ -19,7 +20,7 @@ enum class ExitCode {
 /// main, where it ends the program.
 class Refusal : public std::exception {
 public:
-    explicit Refusal(QString line, ExitCode code = ExitCode::WrongInput)
+    explicit Refusal(QString line, ExitCode code = ExitCode::WrongUse)
         : line_(std::move(line)), code_(code) {}
 
     const QString &Line() const { return line_; }

@@ -29,9 +29,14 @@ std::optional<QString> FromUtf8(std::string_view bytes) {
 
 namespace {
 
+/// Whether a terminal might act on it: control characters, separators of lines, and the marks
+/// that turn the direction of what follows.
 bool IsControl(QChar character) {
-    return character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-           character == QChar::ParagraphSeparator;
+    const char16_t unit = character.unicode();
+    return character.category() == QChar::Other_Control || unit == QChar::LineSeparator ||
+           unit == QChar::ParagraphSeparator || unit == 0x061C || unit == 0x200E ||
+           unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
+           (unit >= 0x2066 && unit <= 0x2069);
 }
 
 /// How a control character is shown.

@@ -17,8 +17,9 @@ std::string_view AsUtf8(std::u16string_view text);
 /// `bytes` as text, or nothing when they are not UTF-8.
 std::optional<QString> FromUtf8(std::string_view bytes);
 
-/// `text` in UTF-8 with its control characters written out ("\n", "\x1B"): a message that
-/// quotes what it was given stays one line and does nothing to a terminal.
+/// `text` in UTF-8 with its control characters and its marks of direction written out ("\n",
+/// "\x1B", "\x202E"): a message that quotes what it was given stays one line and does nothing
+/// to a terminal.
 std::string OneLine(const QString &text);
 
 /// What a message shows of a text that it quotes: all of it up to sixty characters, and of a

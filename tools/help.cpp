@@ -1,0 +1,90 @@
+#include "tools/help.h"
+
+#include "report/topic_tree.h"
+#include "tools/option_table.h"
+#include "tools/reading.h"
+#include "tools/text.h"
+
+#include <optional>
+
+namespace {
+
+constexpr std::size_t width = 79;  ///< of a line without its break
+constexpr std::size_t column = 26; ///< where the descriptions begin
+
+/// `words` from `column` on, broken between words; the first line follows what `text` holds.
+void AppendWrapped(std::string &text, std::string_view words) {
+    std::size_t used = column;
+    bool first = true;
+    while (!words.empty()) {
+        const std::string_view word = words.substr(0, words.find(' '));
+        words.remove_prefix(std::min(words.size(), word.size() + 1));
+        if (!first && used + 1 + word.size() > width) {
+            text += '\n' + std::string(column, ' ');
+            used = column;
+            first = true;
+        }
+        if (!first) {
+            text += ' ';
+            ++used;
+        }
+        text += word;
+        used += word.size();
+        first = false;
+    }
+    text += '\n';
+}
+
+/// "  -f, --format FORMAT", filled up to the column of the description or broken before it.
+std::string Spelling(const OptionRow &row) {
+    std::string text = row.letter == 0 ? "      " : std::string("  -") + row.letter + ", ";
+    text.append("--").append(row.name);
+    if (!row.value.empty())
+        text.append(" ").append(row.value);
+    if (text.size() + 2 > column)
+        return text + '\n' + std::string(column, ' ');
+    return text + std::string(column - text.size(), ' ');
+}
+
+} // namespace
+
+std::string HelpText() {
+    std::string text = R"(Usage:
+  orravane-report --first NAME --last NAME --date YYYY-MM-DD [OPTION]...
+  orravane-report --batch FILE [OPTION]...
+  orravane-report --book [OPTION]...
+
+The Orravane numerology report without the window.
+)";
+    std::optional<OptionGroup> group;
+    for (const OptionRow &row : OptionTable()) {
+        if (group != row.group) {
+            group = row.group;
+            text.append("\n").append(HeadingOf(row.group)).append(":\n");
+        }
+        text += Spelling(row);
+        AppendWrapped(text, row.help);
+    }
+    text += R"(
+A value may also follow an equals sign: --format=json.
+
+Examples:
+  orravane-report --first Ada --last Moreau --date 1984-05-07
+  orravane-report --first Ada --last Moreau --month May --day 7 --year 1984 \
+      --topic "Comprehensive Reading" -f rtf -o ada.rtf
+  orravane-report --batch people.csv --topic "Life Path Number" > numbers.jsonl
+  orravane-report --batch people.csv.gz --output-dir reports
+
+Exit codes: 0 all well, 1 some lines of a batch were wrong, 2 wrong use,
+3 the input cannot be read or the output not be written.
+The man page orravane-report(1) has more.
+)";
+    return text;
+}
+
+std::string TopicList() {
+    std::string list;
+    for (const std::u16string_view caption : AllCaptions())
+        list += ToUtf8(caption) + '\n';
+    return list + ToUtf8(modReadings::captions::comprehensiveReading) + '\n';
+}

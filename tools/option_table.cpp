@@ -1,0 +1,82 @@
+#include "tools/option_table.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using enum OptionId;
+using enum OptionGroup;
+
+constexpr std::array table{
+    OptionRow{First, OnePerson, "first", 0, "NAME", ValueKind::Text, goesWith::person, false,
+              "First name."},
+    OptionRow{Middle, OnePerson, "middle", 0, "NAME", ValueKind::Text, goesWith::person, false,
+              "Middle name."},
+    OptionRow{Last, OnePerson, "last", 0, "NAME", ValueKind::Text, goesWith::person, false,
+              "Last name."},
+    OptionRow{Month, OnePerson, "month", 0, "MONTH", ValueKind::Month, goesWith::person, false,
+              "Birth month: an English month name, its abbreviation, or 1 to 12."},
+    OptionRow{Day, OnePerson, "day", 0, "N", ValueKind::Number, goesWith::person, false,
+              "Birth day: 1 to 31."},
+    OptionRow{Year, OnePerson, "year", 0, "N", ValueKind::Number, goesWith::person, false,
+              "Birth year: 1900 to 2050."},
+    OptionRow{Date, OnePerson, "date", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::person, false,
+              "Birth date, in place of --month, --day and --year."},
+
+    OptionRow{Batch, ManyPeople, "batch", 0, "FILE", ValueKind::File, goesWith::batch, false,
+              "Read many people, one a line: JSON Lines, or CSV with a header row. - is standard "
+              "input. Prints one JSON object a line."},
+    OptionRow{FirstLine, ManyPeople, "first-line", 0, "N", ValueKind::Number, goesWith::batch,
+              false,
+              "The number of the input's first line, where it is a piece of a longer one. "
+              "Default: 1."},
+    OptionRow{MaxErrors, ManyPeople, "max-errors", 0, "N", ValueKind::Number, goesWith::batch,
+              false, "Give up at the Nth wrong line. Default: go on to the end."},
+    OptionRow{OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch,
+              false, "Write one file a person here, text or rtf, named after the line."},
+
+    OptionRow{Today, WhatToRead, "today", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::reading,
+              false, "Read for this day instead of today."},
+    OptionRow{Topic, WhatToRead, "topic", 0, "CAPTION", ValueKind::Topic, goesWith::reading, true,
+              "Read this topic; may be given several times. --list-topics shows the captions. "
+              "Default: all topics."},
+    OptionRow{Book, WhatToRead, "book", 0, "", ValueKind::None, goesWith::book, false,
+              "Print every reading and fixed text that the program holds."},
+
+    OptionRow{OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
+              goesWith::everything, false, "text (default), json or rtf."},
+    OptionRow{Output, WhatToWrite, "output", 'o', "FILE", ValueKind::File, goesWith::everything,
+              false,
+              "Write to this file, whole or not at all, instead of standard output. - is "
+              "standard output."},
+
+    OptionRow{ListTopics, Other, "list-topics", 0, "", ValueKind::None, goesWith::everything, false,
+              "Print the captions of the topics, one a line."},
+    OptionRow{Help, Other, "help", 'h', "", ValueKind::None, goesWith::everything, false,
+              "Show this help."},
+    OptionRow{Version, Other, "version", 'V', "", ValueKind::None, goesWith::everything, false,
+              "Show the version."},
+};
+
+} // namespace
+
+std::span<const OptionRow> OptionTable() { return table; }
+
+const OptionRow &RowOf(OptionId id) { return *std::ranges::find(table, id, &OptionRow::id); }
+
+std::string_view HeadingOf(OptionGroup group) {
+    switch (group) {
+    case OnePerson:
+        return "One person";
+    case ManyPeople:
+        return "Many people";
+    case WhatToRead:
+        return "What to read";
+    case WhatToWrite:
+        return "What to write";
+    case OptionGroup::Other:
+        break;
+    }
+    return "Other";
+}
