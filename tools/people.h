@@ -14,7 +14,7 @@ struct PersonInput {
     QString month;
     QString day;
     QString year;
-    QString date; ///< YYYY-MM-DD in place of month, day and year; empty otherwise
+    QString date{}; ///< YYYY-MM-DD in place of month, day and year; empty otherwise
 };
 
 /// Checks `input` against what the window's boxes and lists allow: names not empty, an

@@ -117,10 +117,10 @@ TEST_F(BatchInput, MayBeANamedPipe) {
 TEST_F(BatchInput, ThatCannotBeReadIsReported) {
     Surroundings folder;
     folder.inputFile = Path("");
-    ExpectRefused(RunProgram(conversation, {}, folder), {"--batch", "Is a directory"});
+    ExpectFailed(RunProgram(conversation, {}, folder), {"--batch", "Is a directory"});
     Surroundings closed;
     closed.noInput = true;
-    ExpectRefused(RunProgram(conversation, {}, closed), {"--batch", "Bad file descriptor"});
+    ExpectFailed(RunProgram(conversation, {}, closed), {"--batch", "Bad file descriptor"});
 }
 
 } // namespace

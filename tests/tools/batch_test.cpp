@@ -72,6 +72,12 @@ std::string Alone(const Person &person, Format format,
     return ReadingAs(format, ReadPerson(modReadings::Captured(person), topics));
 }
 
+/// The same in JSON as the answer to a line of a batch.
+std::string Answer(const Person &person, long long line,
+                   const std::vector<std::u16string_view> &topics = {u"Personal Day"}) {
+    return ReadingAsJson(ReadPerson(modReadings::Captured(person), topics), {line, {}});
+}
+
 // People between others whose slots are full, behind a wrong line too.
 TEST_F(Batch, AnswersEachPersonAsIfAlone) {
     Options options = ToOneFile();
@@ -81,11 +87,11 @@ TEST_F(Batch, AnswersEachPersonAsIfAlone) {
         Run("first,middle,last,month,day,year\nMary Ann,van,der Wal,December,13,1950\n"
             "1 1,,- -,June,19,2050\nAnna,,Smith,12,29,1985\nAnn,,Lee,3,7\n1 1,,- -,June,19,2050\n",
             options);
-    EXPECT_EQ(answers.code, ExitCode::Failed);
-    const std::string alone = Alone(signs, Format::Json, options.topics);
-    EXPECT_EQ(answers.out, Alone(mary, Format::Json, options.topics) + alone +
-                               Alone(anna, Format::Json, options.topics) +
-                               ErrorAsJson(5, "5 fields where the header has 6") + alone);
+    EXPECT_EQ(answers.code, ExitCode::SomeLinesWrong);
+    EXPECT_EQ(answers.out, Answer(mary, 2, options.topics) + Answer(signs, 3, options.topics) +
+                               Answer(anna, 4, options.topics) +
+                               ErrorAsJson({5, {}}, "5 fields where the header has 6") +
+                               Answer(signs, 6, options.topics));
 }
 
 TEST_F(Batch, TakesLinesInEveryForm) {
@@ -97,7 +103,6 @@ TEST_F(Batch, TakesLinesInEveryForm) {
     const std::string mark = "\xEF\xBB\xBF";
     const Person annLee{"Ann", {}, "Lee", "March", "7", "1990"};
     const Person bobRay{"Bob", {}, "Ray", "April", "8", "1991"};
-    const std::string expected = Alone(annLee, Format::Json) + Alone(bobRay, Format::Json);
     for (const std::string &input : {
              ann + bob,                                              //
              ann + bob.substr(0, bob.size() - 1),                    // no line break at the end
@@ -114,8 +119,11 @@ TEST_F(Batch, TakesLinesInEveryForm) {
         SCOPED_TRACE(testing::PrintToString(input));
         const Answers answers = Run(input);
         EXPECT_EQ(answers.code, ExitCode::Ok);
-        EXPECT_EQ(answers.out, expected);
         EXPECT_EQ(answers.err, "");
+        const std::vector<std::string> lines = Lines(answers.out);
+        ASSERT_EQ(lines.size(), 2U);
+        EXPECT_EQ(lines[0] + '\n', Answer(annLee, ParseObject(lines[0])["line"].toInteger()));
+        EXPECT_EQ(lines[1] + '\n', Answer(bobRay, ParseObject(lines[1])["line"].toInteger()));
     }
 }
 
@@ -157,7 +165,7 @@ TEST_F(Batch, AnswersAWrongLineInItsPlaceAndGoesOn) {
               {{5, "4 fields"}, {7, "UTF-8"}, {8, "month: \"month\""}, {10, "\"\\x1B[3m\""}}}}) {
         SCOPED_TRACE(testing::PrintToString(input));
         const Answers answers = Run(input);
-        EXPECT_EQ(answers.code, ExitCode::Failed);
+        EXPECT_EQ(answers.code, ExitCode::SomeLinesWrong);
         EXPECT_EQ(NamesIn(answers.out), names);
         const std::vector<std::string> complaints = Lines(answers.err);
         ASSERT_EQ(complaints.size(), wrong.size());
@@ -179,11 +187,12 @@ TEST_F(Batch, AnswersAWrongLineInItsPlaceAndGoesOn) {
 // Nothing is read behind a header that cannot be used, so nothing is written.
 TEST_F(Batch, IsRefusedForAWrongHeader) {
     for (const std::string blank : {"", "\n \n"}) {
-        const std::string input = blank + "first,middle,last,month,day,born\nAnn,,Lee,3,7,1990\n";
+        const std::string input = blank + "first,middle,last,month,born,year\nAnn,,Lee,3,7,1990\n";
         for (const Options &options : {ToOneFile(), ToAFolder()}) {
             Make("answers", "before");
             const std::string line = RefusalOf([&] { Run(input, options); });
-            ExpectLine(line, {blank.empty() ? "--batch: line 1: " : "--batch: line 3: ", "born"});
+            ExpectLine(line,
+                       {blank.empty() ? "--batch: line 1: " : "--batch: line 3: ", "\"day\""});
             EXPECT_EQ(Files(), (FileMap{{"people", input}, {"answers", "before"}}));
         }
     }
@@ -199,11 +208,88 @@ TEST_F(Batch, IsRefusedWhereThereIsNoFileToRead) {
         for (Options options : {ToOneFile(), ToAFolder()}) {
             options.batchFile = QString::fromStdString(Path(name));
             const std::string shown = OneLine(Excerpt(options.batchFile));
-            ExpectLine(RefusalOf([&] { RunBatch(options); }),
+            ExpectLine(RefusalOf([&] { RunBatch(options); }, ExitCode::CannotReadOrWrite),
                        {"--batch: the file \"" + shown + "\" cannot be read (", reason});
         }
     }
     EXPECT_EQ(Files(), before);
+}
+
+// An engine that cuts the input says where its piece begins.
+TEST_F(Batch, CountsLinesFromTheFirstThatIsGiven) {
+    Options options = ToOneFile();
+    options.firstLine = 200'001;
+    const Person annLee{"Ann", {}, "Lee", "March", "7", "1990"};
+    const Answers answers = Run(std::string(annLine) + "\n{}\n" + annLine, options);
+    EXPECT_EQ(answers.out,
+              Answer(annLee, 200'001) +
+                  ErrorAsJson({200'003, {}}, "first is missing or empty; give the first name") +
+                  Answer(annLee, 200'004));
+    ExpectOneLine(answers.err, {"orravane-report: line 200003: "});
+    Options files = ToAFolder();
+    files.firstLine = 1'234'567;
+    Run(annLine, files);
+    EXPECT_EQ(Files(Path("people.d")).begin()->first, "person-1234567.txt");
+}
+
+TEST_F(Batch, CarriesFurtherMembersAndColumnsWithAnswersAndErrors) {
+    const Answers members =
+        Run(R"({"id":7.50,"first":"Ann","last":"Lee","birthdate":"1990-03-07","tags":["a"]})"
+            "\n"
+            R"({"id":8,"first":"Ann"})"
+            "\n");
+    EXPECT_NE(
+        members.out.find(R"("today":"2026-11-16","line":1,"input":{"id":7.50,"tags":["a"]},)"),
+        std::string::npos);
+    EXPECT_NE(members.out.find(R"("input":{"id":8}})"), std::string::npos);
+    const Answers columns = Run("id,first,last,birthdate\n7,Ann,Lee,1990-03-07\n8,Ann,,x\n");
+    EXPECT_NE(columns.out.find(R"("line":2,"input":{"id":"7"},)"), std::string::npos);
+    EXPECT_NE(columns.out.find(R"("input":{"id":"8"}})"), std::string::npos);
+}
+
+TEST_F(Batch, LosesOneLineToWhatCannotBeRead) {
+    const std::string longLine(2'000'000, ' ');
+    for (const auto &[wrong, part] : std::vector<std::pair<std::string, std::string>>{
+             {longLine, "longer than 1 MB"},
+             {R"({"first":")" + longLine, "longer than 1 MB"},
+             {std::string(annLine, 30) + '\0' + "x", "NUL"},
+             {R"({"first":")" + std::string(3641, 'I') +
+                  R"(","last":"Lee","birthdate":"1990-03-07"})",
+              "the name is too long"}}) {
+        const Answers answers = Run(annLine + wrong + '\n' + bobLine);
+        EXPECT_EQ(answers.code, ExitCode::SomeLinesWrong);
+        EXPECT_EQ(NamesIn(answers.out), (Names{"ANN LEE", "!", "BOB RAY"}));
+        ExpectOneLine(answers.err, {"line 2: ", part});
+    }
+    const Answers first = Run(longLine + '\n' + bobLine);
+    EXPECT_EQ(NamesIn(first.out), (Names{"!", "BOB RAY"}));
+    const Answers rows = Run("first,last,birthdate\n\"Ann\nor Anna\",Lee,1990-03-07\n"
+                             "Bob,Ray,1991-04-08\n");
+    EXPECT_EQ(NamesIn(rows.out), (Names{"!", "BOB RAY"}));
+    ExpectOneLine(rows.err, {"line 2: ", "a quotation mark is left open"});
+}
+
+TEST_F(Batch, GivesUpAtTheWrongLineThatIsOneTooMany) {
+    const std::string input = std::string("{}\n") + annLine + "{}\n" + bobLine + "{}\n";
+    Options options = ToOneFile();
+    options.maxErrors = 4;
+    EXPECT_EQ(NamesIn(Run(input, options).out), (Names{"!", "ANN LEE", "!", "BOB RAY", "!"}));
+    options.maxErrors = 2;
+    Make("answers", "before");
+    ExpectLine(RefusalOf([&] { Run(input, options); }, ExitCode::SomeLinesWrong),
+               {"--max-errors: given up at line 3, after 2 wrong lines"});
+    EXPECT_EQ(Read(Path("answers")), "before"); // not half of the answers
+}
+
+// One message in place of one for each line.
+TEST_F(Batch, IsRefusedOnceForAnInputOfAnotherKind) {
+    for (const auto &[input, part] : std::vector<std::pair<std::string, std::string>>{
+             {"first;last;birthdate\nAnn;Lee;1990-03-07\n", "line 1: the columns"},
+             {std::string("\xFF\xFE{\0\n\0", 6), "UTF-16"},
+             {"[\n" + std::string(annLine) + "]\n", "JSON array"}}) {
+        ExpectLine(RefusalOf([&] { Run(input); }), {"--batch: line 1: ", part});
+        EXPECT_FALSE(std::filesystem::exists(Path("answers")));
+    }
 }
 
 TEST_F(Batch, IntoAFolderMakesAFileAPersonNamedAfterTheLine) {
@@ -214,7 +300,7 @@ TEST_F(Batch, IntoAFolderMakesAFileAPersonNamedAfterTheLine) {
     Make("people.d/person-000002.txt", "from the last time");
     for (const Format format : {Format::Text, Format::Rtf}) {
         const Answers answers = Run(input, ToAFolder(format));
-        EXPECT_EQ(answers.code, ExitCode::Failed);
+        EXPECT_EQ(answers.code, ExitCode::SomeLinesWrong);
         ExpectOneLine(answers.err, {"line 5: month: \"13\""});
     }
     EXPECT_EQ(Files(Path("people.d")), (FileMap{{"notes.txt", "mine"},
@@ -233,7 +319,7 @@ TEST_F(Batch, MakesTheFolderWithThoseAboveIt) {
 
 TEST_F(Batch, IsRefusedWhereTheFolderCannotBeMade) {
     Make("people.d", "before");
-    ExpectLine(RefusalOf([&] { Run(annLine, ToAFolder()); }),
+    ExpectLine(RefusalOf([&] { Run(annLine, ToAFolder()); }, ExitCode::CannotReadOrWrite),
                {"--output-dir: the folder \"" + Shown(Path("people.d")) + "\" cannot be made"});
     EXPECT_EQ(Read(Path("people.d")), "before");
 }

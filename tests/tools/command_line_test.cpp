@@ -7,6 +7,7 @@
 #include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
 #include "tools/formats.h"
+#include "tools/help.h"
 #include "version.h"
 
 #include <gtest/gtest.h>
@@ -16,11 +17,11 @@
 namespace {
 
 /// What is printed for `ann`, who is a person in the options of the same name.
-std::string ExpectedOfAnn(Format format) {
+std::string ExpectedOfAnn(Format format, const LineFacts &line = {}) {
     const modReadings::FixedClock clock(std::chrono::year(2026) / 11 / 16);
-    return ReadingAs(
-        format,
-        ReadPerson(modReadings::Captured({"Ann", {}, "Lee", "March", "7", "1990"}), AllCaptions()));
+    const PersonReading reading =
+        ReadPerson(modReadings::Captured({"Ann", {}, "Lee", "March", "7", "1990"}), AllCaptions());
+    return line.number == 0 ? ReadingAs(format, reading) : ReadingAsJson(reading, line);
 }
 
 TEST(CommandLine, PrintsAPersonInEveryFormat) {
@@ -50,7 +51,8 @@ TEST(CommandLine, PrintsTheBookHelpAndVersion) {
     for (const auto &[arguments, expected] :
          {std::pair(Arguments{"--book"}, BookAsText(book)),
           {{"--book", "--format", "json"}, BookAsJson(book)},
-          {{"--version"}, "orravane-report " + std::string(orravaneVersion) + '\n'}}) {
+          {{"--version"}, "orravane-report " + std::string(orravaneVersion) + '\n'},
+          {{"--list-topics"}, TopicList()}}) {
         const Finished run = RunProgram(arguments);
         ExpectGood(run);
         EXPECT_EQ(run.out, expected);
@@ -73,8 +75,8 @@ TEST(CommandLine, PrintsABatchOfAFileOrOfStandardInput) {
         const Finished run = RunProgram(source + Arguments{"--today", "2026-11-16"}, people);
         EXPECT_EQ(run.exitCode, 1);
         ExpectOneLine(run.err, {"line 1: first"});
-        EXPECT_EQ(run.out, ErrorAsJson(1, "first is missing or empty; give the first name") +
-                               ExpectedOfAnn(Format::Json));
+        EXPECT_EQ(run.out, ErrorAsJson({1, {}}, "first is missing or empty; give the first name") +
+                               ExpectedOfAnn(Format::Json, {2, {}}));
     }
 }
 
@@ -88,9 +90,8 @@ TEST_F(RefusedCommandLine, IsOneLineAndLeavesTheOutputAlone) {
           {{"--first", "Ann", "--last", "Lee", "--month", "Ma\nrch"}, {"--month: \"Ma\\nrch\""}},
           {ann + Arguments{"--day", "8"}, {"--day is given more than once"}},
           {ann + Arguments{"--topic", "Essences"}, {"--topic: \"Essences\""}},
-          {ann + Arguments{"--größe"}, {"\"größe\""}},
+          {ann + Arguments{"--größe"}, {"\"--größe\""}},
           {{"--book", "--format", "rtf"}, {"--format"}},
-          {{"--batch", Path("missing")}, {"--batch", "No such file or directory"}},
           // The Essence of F would never end; on this day Ann is a year old.
           {{"--first", "Ann", "--last", "F", "--month", "3", "--day", "7", "--year", "2025",
             "--today", "2026-11-16"},
@@ -99,6 +100,9 @@ TEST_F(RefusedCommandLine, IsOneLineAndLeavesTheOutputAlone) {
         ExpectRefused(RunProgram(output + arguments), parts);
         EXPECT_EQ(Files(), (FileMap{{"report", "what stood here before"}}));
     }
+    ExpectFailed(RunProgram(output + Arguments{"--batch", Path("missing")}),
+                 {"--batch", "No such file or directory"});
+    ExpectRefused(RunProgram({}), {"Nothing to do; see --help"});
     ExpectRefused(RunProgram(Arguments{"--batch", "-"} + output, "first,last\n"),
                   {"--batch: line 1: "});
     EXPECT_EQ(Files(), (FileMap{{"report", "what stood here before"}}));

@@ -29,7 +29,7 @@ inline void ExpectLine(const std::string &line, const std::vector<std::string> &
 
 /// The line with which `call` refuses, as the program would print it. Fails the test when it
 /// does not.
-template <typename Call> std::string RefusalOf(Call call, ExitCode code = ExitCode::WrongInput) {
+template <typename Call> std::string RefusalOf(Call call, ExitCode code = ExitCode::WrongUse) {
     try {
         call();
     } catch (const Refusal &refusal) {
@@ -55,9 +55,9 @@ inline void ExpectRefused(const Finished &run, const std::vector<std::string> &p
     ExpectOneLine(run.err, parts);
 }
 
-/// Expects that the program could not write what it had: exit code 1, one line.
+/// Expects that the program could not read or write: exit code 3, one line.
 inline void ExpectFailed(const Finished &run, const std::vector<std::string> &parts) {
-    EXPECT_EQ(run.exitCode, 1) << "signal " << run.signal;
+    EXPECT_EQ(run.exitCode, 3) << "signal " << run.signal;
     ExpectOneLine(run.err, parts);
 }
 

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using modReadings::BookEntry;
 using modReadings::RtfReader;
 
@@ -63,6 +65,45 @@ TEST(ReadingAsJson, EscapesWhatANameMayHold) {
     EXPECT_TRUE(ReadingAsJson(reading).starts_with("{\"first\":\"AN\\\"N\\\\\\t\x7F\\u0001\\n😀\""));
 }
 
+// Every control character, with more behind it than the fast way of the library looks at once.
+TEST(ReadingAsJson, IsValidWhateverANameHolds) {
+    for (char16_t control = 0; control < 0x20; ++control) {
+        const std::u16string name =
+            std::u16string(u"A") + control + u"]0;x" + std::u16string(40, u'N');
+        PersonReading reading = TwoTopics();
+        reading.person.FirstName = reading.person.MiddleName = reading.person.LastName = name;
+        const QString text = QString::fromStdU16String(name);
+        const LineFacts line{7, {}};
+        for (const std::string &json :
+             {ReadingAsJson(reading), ErrorAsJson(line, text.toStdString())}) {
+            EXPECT_TRUE(std::ranges::none_of(json.substr(0, json.size() - 1), [](char c) {
+                return static_cast<unsigned char>(c) < 0x20;
+            })) << int(control);
+            const QJsonObject object =
+                QJsonDocument::fromJson(QByteArray::fromStdString(json)).object();
+            for (const char *member : {"first", "middle", "last", "error"})
+                if (object.contains(member)) {
+                    EXPECT_EQ(object[member].toString(), text);
+                }
+            EXPECT_TRUE(object.contains("first") || object.contains("error")) << int(control);
+        }
+    }
+}
+
+TEST(ReadingAsJson, HasTheLineAndTheFurtherMembersOfAPersonInABatch) {
+    PersonReading reading = TwoTopics();
+    reading.topics.clear();
+    EXPECT_TRUE(ReadingAsJson(reading, {12, R"({"id":1.50})"})
+                    .ends_with(R"("today":"2026-03-05","line":12,"input":{"id":1.50},"topics":[]})"
+                               "\n"));
+    EXPECT_TRUE(ReadingAsJson(reading, {3'000'000'000, {}})
+                    .ends_with(R"("today":"2026-03-05","line":3000000000,"topics":[]})"
+                               "\n"));
+    EXPECT_EQ(ErrorAsJson({12, R"({"id":[1]})"}, "no"),
+              R"({"line":12,"error":"no","input":{"id":[1]}})"
+              "\n");
+}
+
 // What an independent reader of JSON gets back is the reading.
 TEST(ReadingAsJson, ComesBackRunByRun) {
     const PersonReading reading = Everything();
@@ -102,10 +143,10 @@ TEST(ReadingAs, ChoosesAmongTheFormats) {
 }
 
 TEST(ErrorAsJson, IsAnObjectInOneLine) {
-    EXPECT_EQ(ErrorAsJson(12, "not \"this\"\nnor that"),
+    EXPECT_EQ(ErrorAsJson({12, {}}, "not \"this\"\nnor that"),
               R"({"line":12,"error":"not \"this\"\nnor that"})"
               "\n");
-    EXPECT_EQ(ErrorAsJson(3'000'000'000, "é"), "{\"line\":3000000000,\"error\":\"é\"}\n");
+    EXPECT_EQ(ErrorAsJson({3'000'000'000, {}}, "é"), "{\"line\":3000000000,\"error\":\"é\"}\n");
 }
 
 TEST(BookAsText, NamesSlotAndNumberOverEachText) {

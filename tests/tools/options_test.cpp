@@ -32,7 +32,7 @@ void ExpectWrong(const Arguments &arguments, const std::vector<std::string> &par
 
 TEST(ParseOptions, OfOnePerson) {
     for (const Arguments &arguments :
-         {Arguments{"--first", "Ann", "--middle", " M ", "--last", "--day", "--month", "March",
+         {Arguments{"--first", "Ann", "--middle", " M ", "--last=--day", "--month", "March",
                     "--day", "7", "--year", "1990"},
           Arguments{"--year=1990", "--day=7", "--month=March", "--last=--day", "--middle= M ",
                     "--first=Ann"}}) {
@@ -40,7 +40,7 @@ TEST(ParseOptions, OfOnePerson) {
         EXPECT_EQ(options.task, Options::Task::Person);
         EXPECT_EQ(options.person.first, "Ann");
         EXPECT_EQ(options.person.middle, " M ");
-        EXPECT_EQ(options.person.last, "--day"); // the next word is the value, dashes or not
+        EXPECT_EQ(options.person.last, "--day"); // behind an equals sign anything is a value
         EXPECT_EQ(options.person.month, "March");
         EXPECT_EQ(options.person.day, "7");
         EXPECT_EQ(options.person.year, "1990");
@@ -55,7 +55,8 @@ TEST(ParseOptions, OfOnePerson) {
 // What a person's inputs may be is checked where one is read, on the command line or not.
 TEST(ParseOptions, LeavesTheInputsOfAPersonUnchecked) {
     EXPECT_EQ(Parsed({"--month", "13"}).person.month, "13");
-    EXPECT_EQ(Parsed({}).person.first, "");
+    EXPECT_EQ(Parsed({"--first", ""}).person.first, "");
+    EXPECT_EQ(Parsed({"--date", "13"}).person.date, "13");
 }
 
 TEST(ParseOptions, TakesFormatDayTopicsAndFile) {
@@ -98,37 +99,70 @@ TEST(ParseOptions, OfTheBookHelpAndVersion) {
     EXPECT_EQ(Parsed({"--version"}).task, Options::Task::Version);
 }
 
-// Help comes before what else is missing or wrong.
-TEST(ParseOptions, HelpTellsEveryOptionAndWhatIsAllowed) {
+// They come before what else is missing or wrong.
+TEST(ParseOptions, OfHelpVersionAndTopicsWhateverElseIsThere) {
     for (const Arguments &arguments :
-         {Arguments{"--help"}, Arguments{"--format", "html", "--help"}, Arguments{"--help", "Ann"},
-          Arguments{"--book", "--batch", "-", "--help"}}) {
-        const Options options = Parsed(arguments);
-        EXPECT_EQ(options.task, Options::Task::Help);
-        for (const char *part :
-             {"--first",      "--middle", "--last",    "--month",  "--day",   "--year",
-              "--today",      "--topic",  "--format",  "--output", "--book",  "--batch",
-              "--output-dir", "--help",   "--version", "1 to 12",  "1 to 31", "1900 to 2050",
-              "YYYY-MM-DD",   "text",     "json",      "rtf"})
-            EXPECT_TRUE(options.help.contains(part)) << part;
+         {Arguments{"--help"}, Arguments{"-h"}, Arguments{"--format", "html", "--help"},
+          Arguments{"--help", "Ann"}, Arguments{"--book", "--batch", "-", "--help"}})
+        EXPECT_EQ(Parsed(arguments).task, Options::Task::Help);
+    EXPECT_EQ(Parsed({"-V", "--topic", "none"}).task, Options::Task::Version);
+    EXPECT_EQ(Parsed({"--list-topics", "Ann"}).task, Options::Task::ListTopics);
+}
+
+TEST(ParseOptions, TakesTheShortForms) {
+    for (const Arguments &arguments : {Arguments{"-f", "rtf", "-o", "x"}, Arguments{"-frtf", "-ox"},
+                                       Arguments{"-f=rtf", "-o=x"}}) {
+        const Options options = Parsed(ann + arguments);
+        EXPECT_EQ(options.format, Format::Rtf);
+        EXPECT_EQ(options.output, "x");
+    }
+    EXPECT_EQ(Parsed(ann + Arguments{"-o", "-"}).output, "-");
+    ExpectWrong(ann + Arguments{"-f", "json", "--format", "json"},
+                {"--format is given more than once"});
+}
+
+TEST(ParseOptions, TakesTopicsInAnyCase) {
+    EXPECT_EQ(Parsed({"--topic", "personal day", "--topic", "COMPREHENSIVE READING"}).topics,
+              (std::vector<std::u16string_view>{u"Personal Day", u"Comprehensive Reading"}));
+}
+
+TEST(ParseOptions, OfAPieceOfABatch) {
+    const Options options = Parsed({"--batch", "-", "--first-line", "200001", "--max-errors", "3"});
+    EXPECT_EQ(options.firstLine, 200'001);
+    EXPECT_EQ(options.maxErrors, 3);
+    EXPECT_EQ(Parsed({"--batch", "-"}).firstLine, 1);
+    EXPECT_EQ(Parsed({"--batch", "-"}).maxErrors, std::nullopt);
+    for (const char *option : {"--first-line", "--max-errors"}) {
+        for (const char *value :
+             {"", "0", "-1", "+1", "1.0", "1e3", "x", "٣", "9999999999999999999"})
+            ExpectWrong({"--batch", "-", option, value},
+                        {option + std::string(": \"") + value + "\"", "whole number from 1 on"});
+        ExpectWrong(ann + Arguments{option, "1"}, {option, "goes with --batch only"});
+        ExpectWrong({"--book", option, "1"}, {option, "does not go with --book"});
     }
 }
 
 /// The options that take a value, and what the help says that it is.
 constexpr std::pair<const char *, const char *> valued[]{
     {"--first", "NAME"},       {"--middle", "NAME"},
-    {"--last", "NAME"},        {"--month", "an English month name or 1 to 12"},
+    {"--last", "NAME"},        {"--month", "an English month name, its abbreviation, or 1 to 12"},
     {"--day", "1 to 31"},      {"--year", "1900 to 2050"},
     {"--today", "YYYY-MM-DD"}, {"--topic", "CAPTION"},
     {"--format", "text"},      {"--output", "FILE"},
-    {"--batch", "FILE"},       {"--output-dir", "DIR"}};
+    {"--batch", "FILE"},       {"--output-dir", "DIR"},
+    {"--date", "YYYY-MM-DD"},  {"--first-line", "N"},
+    {"--max-errors", "N"}};
 
-// Only the option that is really without one, not its name as the value of another.
 TEST(ParseOptions, TellsWhichValueIsMissing) {
     for (const auto &[option, allowed] : valued)
-        ExpectWrong({"--help", option}, {std::string(option) + ": the value is missing", allowed});
-    ExpectWrong({"--bogus", "--first", "--last"}, {"Unknown option \"bogus\""});
-    ExpectWrong({"--book=x", "--first", "--last"}, {"'--book'"});
+        ExpectWrong({"--help", option}, {std::string(option) + " lacks its value; give ", allowed});
+    ExpectWrong({"--first", "--last", "M"}, {"--first lacks its value, as --last is an option"});
+    ExpectWrong({"--batch", "-o", "x"}, {"--batch lacks its value, as -o is an option"});
+    ExpectWrong({"-o", "--book"}, {"-o lacks its value, as --book is"});
+    ExpectWrong({"--topic", "--first=A"}, {"--topic lacks its value, as --first=A is"});
+    ExpectWrong({"--bogus", "--first", "--last"}, {"Unknown option \"--bogus\""});
+    EXPECT_EQ(Parsed({"--first", "-x"}).person.first, "-x"); // no option, so a name
+    ExpectWrong({"--book=x", "--first", "--last"}, {"--first lacks"});
 }
 
 TEST(ParseOptions, TakesEveryOptionButTopicOnce) {
@@ -141,7 +175,8 @@ TEST(ParseOptions, TakesEveryOptionButTopicOnce) {
 }
 
 TEST(ParseOptions, RefusesOptionsThatDoNotGoTogether) {
-    for (const char *person : {"--first", "--middle", "--last", "--month", "--day", "--year"}) {
+    for (const char *person :
+         {"--first", "--middle", "--last", "--month", "--day", "--year", "--date"}) {
         ExpectWrong({"--book", person, "3"}, {person, "--book"});
         ExpectWrong({"--batch", "-", person, "3"}, {person, "--batch"});
     }
@@ -149,7 +184,7 @@ TEST(ParseOptions, RefusesOptionsThatDoNotGoTogether) {
     ExpectWrong({"--book", "--today", "2026-11-16"}, {"--today", "--book"});
     ExpectWrong({"--book", "--topic", "Essence"}, {"--topic", "--book"});
     ExpectWrong({"--book", "--format", "rtf"}, {"--format", "rtf", "--book"});
-    ExpectWrong({"--book", "--output-dir", "d"}, {"--output-dir", "--batch"});
+    ExpectWrong({"--book", "--output-dir", "d"}, {"--output-dir", "--book"});
     ExpectWrong(ann + Arguments{"--output-dir", "d"}, {"--output-dir", "--batch"});
     for (const char *format : {"text", "rtf"})
         ExpectWrong({"--batch", "-", "--format", format}, {"--format", "--batch", "--output-dir"});
@@ -165,24 +200,24 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
         std::string allowed;
         std::vector<std::string> wrong;
     };
-    for (const auto &[option, allowed, wrong] :
-         std::vector<Values>{{"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
-                             {"--topic",
-                              "Comprehensive Reading",
-                              {"", "Lucky Number", "personal day", "ESSENCE", "Essence ",
-                               "Ess\nence", "Destiny / Expression Number", "comprehensive reading",
-                               // Nodes of the tree that are no topics.
-                               "Numerology", "Help", "Reset"}},
-                             {"--today",
-                              "YYYY-MM-DD",
-                              {"", "2026-02-30", "2026-02-29", "2100-02-29", "2026-04-31",
-                               "2026-13-01", "2026-00-01", "2026-01-00", "2026-1-5", "26-01-05",
-                               "05-01-2026", "2026/01/05", "2026-01-05 ", "2026-01-05T00:00",
-                               "2026-01-05\n", "today", "1.1.2026", "0000-01-01", "٢٠٢٦-٠١-٠٥"}}})
+    for (const auto &[option, allowed, wrong] : std::vector<Values>{
+             {"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
+             {"--topic",
+              "--list-topics",
+              {"", "Lucky Number", "Essence ", "Ess\nence", "Destiny / Expression Number",
+               // Nodes of the tree that are no topics.
+               "Numerology", "Help", "Reset"}},
+             {"--today",
+              "YYYY-MM-DD",
+              {"", "2026-1-5", "26-01-05", "05-01-2026", "2026/01/05", "2026-01-05 ",
+               "2026-01-05T00:00", "2026-01-05\n", "today", "1.1.2026", "٢٠٢٦-٠١-٠٥"}}})
         for (const std::string &value : wrong)
             ExpectWrong({option, value}, {option + std::string(": \"") +
                                               OneLine(QString::fromStdString(value)) + "\" is not",
                                           allowed});
+    for (const std::string day : {"2027-02-30", "2026-02-29", "2100-02-29", "2026-04-31",
+                                  "2026-13-01", "2026-00-01", "2026-01-00", "0000-01-01"})
+        ExpectWrong({"--today", day}, {"--today: \"" + day + "\" is not", "there is no such day"});
     ExpectWrong({"--topic", "Essence", "--topic", "Essences"}, {"--topic: \"Essences\""});
     ExpectWrong(ann + Arguments{"--output", ""}, {"--output is empty"});
     ExpectWrong({"--batch", ""}, {"--batch is empty"});
@@ -191,12 +226,14 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
 
 TEST(ParseOptions, RefusesWhatIsNoOption) {
     for (const auto &[arguments, part] : std::vector<std::pair<Arguments, std::string>>{
-             {{"--bogus"}, "\"bogus\"; see --help"},
-             {{"--bogus=1"}, "\"bogus\""},
-             {{"--bo\ngus"}, "\"bo\\ngus\""},
-             {{"-x"}, "\"x\""},
-             {{"--FORMAT", "json"}, "\"FORMAT\""},
-             {{"--form", "json"}, "\"form\""},
+             {{"--bogus"}, "\"--bogus\"; see --help"},
+             {{"--bogus=1"}, "\"--bogus\""},
+             {{"--bo\ngus"}, "\"--bo\\ngus\""},
+             {{"-x"}, "\"-x\""},
+             {{"-hx"}, "\"-x\""},
+             {{"-topic"}, "\"-topic\""},
+             {{"--FORMAT", "json"}, "\"--FORMAT\""},
+             {{"--form", "json"}, "\"--form\""},
              {{"Ann"}, "\"Ann\" is not an option"},
              {{"A\nnn"}, "\"A\\nnn\" is not an option"},
              {{"--", "--day"}, "\"--day\" is not an option"},
@@ -212,7 +249,7 @@ TEST(ParseOptions, RefusesWhatIsNoOption) {
 
 TEST(ParseOptions, QuotesNoMoreThanAnExcerpt) {
     const std::string much(100'000, 'x');
-    const std::string shown = '"' + std::string(37, 'x') + "..." + std::string(20, 'x') + '"';
+    const std::string shown = "xxx..." + std::string(20, 'x') + '"';
     for (const Arguments &arguments :
          {Arguments{"--today", much}, Arguments{"--topic", much}, Arguments{"--format", much},
           Arguments{"--" + much}, Arguments{"--" + much + "=1"}, Arguments{much},

@@ -110,7 +110,7 @@ TEST(StandardOutput, ThatIsFullOrClosedIsReported) {
         for (const auto &[surroundings, reason] :
              {std::pair(full, "No space left on device"), {closed, "Bad file descriptor"}}) {
             const Finished run = RunProgram(arguments, input, surroundings);
-            EXPECT_EQ(run.exitCode, 1);
+            EXPECT_EQ(run.exitCode, 3);
             EXPECT_NE(
                 run.err.find(std::string("orravane-report: standard output: ") + reason + '\n'),
                 std::string::npos)

@@ -51,10 +51,11 @@ TEST_F(OutputTest, TellsOptionAndFileThatCannotBeWritten) {
     for (const auto &[name, reason] : {std::pair("no/report", ": No such file or directory"),
                                        {"folder", ": "},
                                        {"file/report", ": "}}) {
-        EXPECT_TRUE(RefusalOf([&] { Output{File(name)}; }, ExitCode::Failed)
+        EXPECT_TRUE(RefusalOf([&] { Output{File(name)}; }, ExitCode::CannotReadOrWrite)
                         .starts_with("--output: " + Shown(Path(name)) + reason));
     }
-    EXPECT_TRUE(RefusalOf([&] { Output(File("no/report"), "--output-dir"); }, ExitCode::Failed)
+    EXPECT_TRUE(RefusalOf([&] { Output(File("no/report"), Output::Kind::InFolder); },
+                          ExitCode::CannotReadOrWrite)
                     .starts_with("--output-dir: "));
     EXPECT_EQ(Files(), before);
 }
@@ -70,7 +71,7 @@ TEST_F(OutputTest, WritesADeviceAsItIs) {
             full.Write("text");
             full.Finish();
         },
-        ExitCode::Failed);
+        ExitCode::CannotReadOrWrite);
     EXPECT_EQ(line, "--output: /dev/full: No space left on device");
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }

@@ -108,7 +108,7 @@ TEST_F(ProgressBar, IsGoneBeforeTheComplaintThatEndsTheRun) {
     full.outputFile = "/dev/full";
     const Finished run =
         RunProgram(Arguments{"--batch", Make("people", People(3))} + day, {}, full);
-    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.exitCode, 3);
     const std::vector<std::string> screen = Screen(run.err);
     ASSERT_EQ(screen.size(), 2U);
     EXPECT_TRUE(screen[0].starts_with("orravane-report: standard output")) << screen[0];

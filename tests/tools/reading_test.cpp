@@ -70,7 +70,9 @@ TEST(KnownCaption, IsThatOfATopicOrTheComprehensiveReading) {
     }
     EXPECT_EQ(known, 23);
     EXPECT_EQ(KnownCaption(comprehensiveCaption), comprehensiveCaption);
-    for (const char16_t *other : {u"", u"Numerology", u"Help", u"Reset", u"essence", u"Essence "})
+    EXPECT_EQ(KnownCaption(u"comprehensive READING"), comprehensiveCaption);
+    EXPECT_EQ(KnownCaption(u"ESSENCE"), u"Essence");
+    for (const char16_t *other : {u"", u"Numerology", u"Help", u"Reset", u"essences", u"Essence "})
         EXPECT_TRUE(KnownCaption(other).empty());
 }
 

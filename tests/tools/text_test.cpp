@@ -39,6 +39,22 @@ TEST(OneLine, WritesControlCharactersOut) {
               "\\x2028\\x2029");
 }
 
+// Arabic letter mark, the marks of both directions, embeddings, overrides and isolates, which
+// turn what a terminal shows behind them. Beside each stands a character that stays.
+TEST(OneLine, WritesMarksOfDirectionOut) {
+    for (const auto &[mark, written] :
+         std::vector<std::pair<char16_t, std::string>>{{0x061C, "\\x61C"},
+                                                       {0x200E, "\\x200E"},
+                                                       {0x200F, "\\x200F"},
+                                                       {0x202A, "\\x202A"},
+                                                       {0x202E, "\\x202E"},
+                                                       {0x2066, "\\x2066"},
+                                                       {0x2069, "\\x2069"}})
+        EXPECT_EQ(OneLine(QString("a") + QChar(mark) + "b"), "a" + written + "b");
+    for (const char16_t other : {u'\u061D', u'\u200D', u'\u2010', u'\u2030', u'\u206A'})
+        EXPECT_EQ(OneLine(QString(QChar(other))), ToUtf8(std::u16string(1, other)));
+}
+
 TEST(Excerpt, LeavesSixtyCharactersAsTheyAre) {
     for (const QString &text : {QString(), QString("a"), QString("März\n😀"), Digits(60)})
         EXPECT_EQ(Excerpt(text), text);
