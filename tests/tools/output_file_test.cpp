@@ -70,14 +70,15 @@ TEST_F(OutputFile, StandsAsItWasWhenTheDiskRunsFull) {
         for (const std::string &name : {file, Path("new")}) {
             const Finished run =
                 RunProgram(arguments + Arguments{"--output", name}, input, surroundings);
-            ExpectFailed(run, {"--output: " + Shown(name)});
+            // The limit on files stands for the full disk; the reason is the system's own.
+            ExpectFailed(run, {"--output: " + Shown(name) + ": File too large"});
             EXPECT_EQ(run.out, "");
             EXPECT_EQ(Files(), (FileMap{{"report", "what stood here before"}}));
         }
     }
     const Finished run =
         RunProgram(batch + Arguments{"--output-dir", Path("people")}, twoPeople, surroundings);
-    ExpectFailed(run, {"--output-dir: ", "person-000001.txt: "});
+    ExpectFailed(run, {"--output-dir: ", "person-000001.txt: File too large"});
     EXPECT_EQ(Files(), (FileMap{{"people/", ""}, {"report", "what stood here before"}}));
 }
 
@@ -93,6 +94,33 @@ TEST_F(OutputFile, AppearsAtTheEndOfABatchAndNotBeforeNorWhenItIsKilled) {
             program.Kill();
         EXPECT_EQ(program.Finish().exitCode, killed ? -1 : 1);
         EXPECT_EQ(Read(file).starts_with(R"({"first":"ANN")"), !killed);
+    }
+}
+
+// Where a signal ends the program, nothing half remains, and the shell sees which one it was.
+TEST_F(OutputFile, LeavesNothingTemporaryBehindAfterASignal) {
+    const std::string file = Make("people", "before");
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        Program program(batch + Arguments{"--output", file});
+        program.Write(twoPeople + std::string("{\n"));
+        EXPECT_NE(program.ReadErrorLine().find("line 3"), std::string::npos);
+        EXPECT_EQ(Files().size(), 2U); // the unfinished file stands beside it
+        program.Signal(signal);
+        EXPECT_EQ(program.Finish().signal, signal);
+        EXPECT_EQ(Files(), (FileMap{{"people", "before"}}));
+    }
+}
+
+TEST_F(OutputFile, IsAppendedToThroughItsDescriptor) {
+    const std::string printed = RunProgram(ann + Arguments{"--topic", "Personal Day"}).out;
+    const std::string line =
+        "\"$0\" --first Ann --last Lee --date 1990-03-07 --today 2026-11-16 --topic 'Personal Day'";
+    for (const std::string redirected :
+         {" --output /dev/stdout >>", " --output - >>", " -o /dev/fd/3 3>>"}) {
+        const std::string file = Make("log", "before\n");
+        const Finished run = RunShell(line + redirected + "'" + file + "'");
+        EXPECT_EQ(run.exitCode, 0) << run.err;
+        EXPECT_EQ(Files(), (FileMap{{"log", "before\n" + printed}})) << redirected;
     }
 }
 

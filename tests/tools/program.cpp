@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 
 #include <fcntl.h>
 #include <pty.h>

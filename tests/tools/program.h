@@ -11,6 +11,9 @@
 #include <string_view>
 #include <vector>
 
+#include <csignal>
+#include <sys/types.h>
+
 using Arguments = std::vector<std::string>;
 
 /// The words of both, one list behind the other.
@@ -65,6 +68,8 @@ public:
 
     /// Ends the child at once.
     void Kill() { process_.kill(); }
+
+    void Signal(int signal) { kill(static_cast<pid_t>(process_.processId()), signal); }
 
     /// Writes `input`, closes standard input, reads both outputs to their end and waits.
     Finished Finish(std::string_view input = {});
