@@ -30,7 +30,7 @@ public:
             ++number_;
             if (IsBlank(line_) && found == LineReader::Found::Line)
                 continue;
-            if (!std::exchange(begun_, true) && Begin())
+            if (!std::exchange(begun_, true) && Begin(found))
                 continue;
             ReadLine(found);
             progress_.Show(input_.Passed(), ++people_);
@@ -41,10 +41,12 @@ public:
 
 private:
     /// Takes the first line that is not blank. Returns true when it was a header.
-    bool Begin() {
+    bool Begin(LineReader::Found found) {
         bool header = false;
         try {
             header = lines_.Begin(line_);
+            if (header && found == LineReader::Found::TooLong)
+                throw Refusal(u"the header is longer than 1 MB"_s);
         } catch (const Refusal &refusal) {
             throw Refusal(u"--batch: line %1: %2"_s.arg(number_).arg(refusal.Line()));
         }

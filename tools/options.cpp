@@ -128,12 +128,12 @@ std::chrono::year_month_day DateFrom(const QString &text) {
                                        std::chrono::day(static_cast<unsigned>(date.day())));
 }
 
-/// The value of an option that is a whole number from 1 on.
+/// The value of an option that is a whole number from 1 to 10^15, beyond all lines there are.
 long long CountFrom(OptionId id, const QString &text) {
     const bool digits = std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
     bool fits = false;
     const long long count = text.toLongLong(&fits);
-    if (!digits || !fits || count < 1)
+    if (!digits || !fits || count < 1 || count > 1'000'000'000'000'000)
         throw Refusal(u"%1: \"%2\" is not allowed; give a whole number from 1 on."_s.arg(
             Dashed(id), Excerpt(text)));
     return count;

@@ -168,12 +168,12 @@ public:
         const std::string_view name(text, size);
         if (depth_ > 1)
             return Copy([&] { others_.Key(text, size); });
-        name_ = Quoted(name);
+        name_ = name;
         input_ = InputNamed(name);
         const bool first = input_ == nullptr ? seenOthers_.emplace(name).second
                                              : std::ranges::find(seen_, input_) == seen_.end();
         if (!first && wrong.isEmpty())
-            wrong = u"the member \"%1\" stands there twice; give it once"_s.arg(name_);
+            wrong = u"the member \"%1\" stands there twice; give it once"_s.arg(Quoted(name_));
         if (input_ != nullptr) {
             seen_.push_back(input_);
         } else {
@@ -206,11 +206,12 @@ private:
 
     void Complain() {
         if (wrong.isEmpty())
-            wrong = u"%1 is neither a text of whole characters nor a whole number"_s.arg(name_);
+            wrong =
+                u"%1 is neither a text of whole characters nor a whole number"_s.arg(Quoted(name_));
     }
 
     int depth_ = 0;
-    QString name_;                          ///< of the member that is being read
+    std::string name_;                      ///< of the member that is being read
     QString PersonInput::*input_ = nullptr; ///< where it belongs; nullptr for a further one
     std::vector<QString PersonInput::*> seen_;
     std::unordered_set<std::string> seenOthers_;

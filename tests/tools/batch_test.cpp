@@ -286,6 +286,8 @@ TEST_F(Batch, IsRefusedOnceForAnInputOfAnotherKind) {
     for (const auto &[input, part] : std::vector<std::pair<std::string, std::string>>{
              {"first;last;birthdate\nAnn;Lee;1990-03-07\n", "line 1: the columns"},
              {std::string("\xFF\xFE{\0\n\0", 6), "UTF-16"},
+             {"first,last,birthdate," + std::string(1'000'000, 'x') + "\nAnn,Lee,1990-03-07,\n",
+              "the header is longer than 1 MB"},
              {"[\n" + std::string(annLine) + "]\n", "JSON array"}}) {
         ExpectLine(RefusalOf([&] { Run(input); }), {"--batch: line 1: ", part});
         EXPECT_FALSE(std::filesystem::exists(Path("answers")));

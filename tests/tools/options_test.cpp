@@ -133,8 +133,8 @@ TEST(ParseOptions, OfAPieceOfABatch) {
     EXPECT_EQ(Parsed({"--batch", "-"}).firstLine, 1);
     EXPECT_EQ(Parsed({"--batch", "-"}).maxErrors, std::nullopt);
     for (const char *option : {"--first-line", "--max-errors"}) {
-        for (const char *value :
-             {"", "0", "-1", "+1", "1.0", "1e3", "x", "٣", "9999999999999999999"})
+        for (const char *value : {"", "0", "-1", "+1", "1.0", "1e3", "x", "٣", "1000000000000001",
+                                  "9999999999999999999"})
             ExpectWrong({"--batch", "-", option, value},
                         {option + std::string(": \"") + value + "\"", "whole number from 1 on"});
         ExpectWrong(ann + Arguments{option, "1"}, {option, "goes with --batch only"});
