@@ -7,6 +7,7 @@
 #include <QSettings>
 
 #include <csignal>
+#include <filesystem>
 #include <optional>
 #include <sys/resource.h>
 
@@ -209,6 +210,10 @@ private slots:
         for (const QString &typed : {u"report.txt"_s, u"report"_s}) {
             const QString path = PathOf(u"report.txt"_s);
             Write(path, "an earlier report");
+            // A second name of the file sees every byte that would be written into it.
+            const QString secondName = PathOf(u"second name"_s);
+            std::filesystem::create_hard_link(path.toStdU16String(),
+                                              secondName.toStdU16String());
 
             bool wasStillOpen = false;
             QString question;
@@ -224,6 +229,8 @@ private slots:
 
             Replace(PathOf(typed));
             QVERIFY(IsTheReport(path));
+            QCOMPARE(ContentOf(secondName), QByteArray("an earlier report"));
+            QVERIFY(QFile::remove(secondName));
             QCOMPARE(Files(), QStringList{u"report.txt"_s});
         }
     }
