@@ -5,12 +5,12 @@ namespace modReadings::readings {
 namespace {
 constexpr Reading rows[] = {
     {0, u"People will feel comfortable in your company and seek your association. The reason is "
-        u"that your wishes and your face say nearly the same thing. If you are glad of a visit, "
-        u"the visitor can tell; if you would rather sleep, that shows as well. Other people have "
-        u"a wall in that place. A colleague says \"gladly\" through their teeth, you take the word "
-        u"as you would have meant it yourself, and months later you hear with astonishment that "
-        u"they minded. One more question, put in private, usually brings out what the good "
-        u"manners were sitting on."},
+        u"that what you want and what you ask for are nearly the same thing. If you ask for the "
+        u"window seat, it is the seat you want, and nobody has to look behind your yes. Other "
+        u"people have a wall in that place. A colleague says \"gladly\" through their teeth, you "
+        u"take the word as you would have meant it yourself, and months later you hear with "
+        u"astonishment that they minded. One more question, put in private, usually brings out "
+        u"what the good manners were sitting on."},
     {1,
      u"You need to be more confident and clear about your goals and desires of life. The wish "
      u"inside you is definite enough; what comes out is a question about the rest. You are "
@@ -21,7 +21,7 @@ constexpr Reading rows[] = {
      u"behind."},
     {2, u"People with bridge number 2 need to show patience in their work and in their "
         u"relationships. You wish to be close to others, and what they see of you is hurry. A new "
-        u"acquaintance hears three private things over the first coffee, tells none in return, "
+        u"acquaintance is asked three private things in the first half hour, parries them all, "
         u"and is put down as cold. Your next message goes off when the last has lain for an hour, "
         u"and what was affection when it left you arrives as a reproach. New colleagues are told "
         u"early what could be improved. You are often right, too. Yet most people are merely a "
@@ -41,10 +41,11 @@ constexpr Reading rows[] = {
         u"still thinking\" would have been a solid answer, the more so with a date to it."},
     {5, u"You should give up your attitude of being dependent on others since this is the time to "
         u"be independent and go on your own, with nobody to hold the map. Inwardly you long for "
-        u"room. What you show is a person who wants company for a haircut and reads every message "
-        u"aloud to someone before answering it. So others kindly plan for you, and you thank them "
-        u"and chafe. Spend a weekend by yourself in a place that none of them has recommended, "
-        u"and get a little lost there. Tell them afterward, when there is nothing left to advise."},
+        u"room. What shows, over small choices, is a person who takes a friend along to buy shoes "
+        u"and reads a message aloud before answering. So others kindly plan for you; you thank "
+        u"them and chafe. It changes with one free day in a place that none of them recommended, "
+        u"where you miss a turn and like it. They hear of it afterward, when there is nothing "
+        u"left to advise."},
     {6, u"You should value and strive for congenial and friendly relations with your family and "
         u"friends. They have little idea how fond of them you are. You praise them warmly to "
         u"people who will never meet them, you have kept a drawing that one of them made at five, "
@@ -60,13 +61,13 @@ constexpr Reading rows[] = {
         u"could go out, and do not. The first hour is merely restless. Then your own opinion "
         u"comes in, rather shyly, and it is often a surprise."},
     {8, u"People with bridge number 8 should avoid taking short cuts. You wish to be respected, "
-        u"and because real standing grows slowly you show it a little ahead of time. You discuss "
-        u"the book from its cover, promise for the tenth what needs until the thirtieth, and let "
-        u"a listener believe that you ran the office where you were one of four. On the first day "
-        u"it works. But the capable people whose esteem you want are the ones who can tell, and "
-        u"they begin to check your figures. A pity, since your ability goes deeper than the "
-        u"polish. The day you say \"I have not read it\" to someone important, the floor stays "
-        u"where it is. They tell you the story, gladly, and believe you about the rest."},
+        u"and because real standing grows slowly you show it to people of rank a little ahead of "
+        u"time. You discuss the book from its cover, drop a name whose owner shook your hand "
+        u"once, and let a listener believe that you ran the office where you were one of four. On "
+        u"the first day it works. But the capable people whose esteem you want are the ones who "
+        u"can tell, and they begin to check your figures. A pity, since your ability goes deeper "
+        u"than the polish. The day you say \"I have not read it\" to someone important, the floor "
+        u"stays where it is. They tell you the story, gladly, and believe you about the rest."},
 };
 } // namespace
 

@@ -11,21 +11,22 @@ constexpr Reading rows[] = {
         u"the same work that wakes you up again."},
     {1, u"People with Life Path/Expression number 1 lack self-confidence. You have the ability, "
         u"and your road leads to places where someone must go first, but between the two stands a "
-        u"person waiting to be told that it is time. When the group needs a head, you name two "
-        u"others. You know the way, and walk half a step behind the one who is guessing. One more "
-        u"course, you think, and then you will be ready; the course is passed with honors and "
-        u"nothing follows. Those who lead are seldom more certain than you, and have only grown "
-        u"used to the feeling. With you it often begins by accident, on an outing that nobody "
-        u"else had prepared. Everyone gets home, and some of them ask when the next one is."},
+        u"person waiting to be told that it is time. Where you are new and a head is needed, you "
+        u"name two others. You know the way, and walk half a step behind the one who is guessing. "
+        u"One more course, you think, and then you will be ready; the course is passed with "
+        u"honors and nothing follows. Those who lead are seldom more certain than you, and have "
+        u"only grown used to the feeling. With you it often begins by accident, on an outing that "
+        u"nobody else had prepared. Everyone gets home, and some of them ask when the next one "
+        u"is."},
     {2, u"You basically have a loving and friendly nature, which however, doesn't show up easily. "
         u"Your skill is of a kind that works alone, while your road runs through other people, "
-        u"and you travel it like someone on a night train, courteous and with your eyes on a "
-        u"page. When a colleague comes back from a funeral, you feel it for days, and what "
-        u"reaches them is a nod. So nobody thinks of you when a partner is sought. You had been "
-        u"hoping to be asked, and it did not occur to you to ask. Friendliness is paid in small "
-        u"coin, such as a good morning with the name added or a question about the sick dog. The "
-        u"first weeks of it are stiff on both sides. Then one noon somebody moves over on the "
-        u"bench to make room for you, and you find that you have left the book upstairs."},
+        u"and on working days you travel it like someone on a night train, courteous and with "
+        u"your eyes on a page. When a colleague comes back from a funeral, you feel it for days, "
+        u"and what reaches them is a nod. So nobody thinks of you when a partner is sought. You "
+        u"had been hoping to be asked, and it did not occur to you to ask. Friendliness is paid "
+        u"in small coin, such as a good morning with the name added or a question about the sick "
+        u"dog. The first weeks of it are stiff on both sides. Then one noon somebody moves over "
+        u"on the bench to make room for you, and you find that you have left the book upstairs."},
     {3, u"You should learn to take life easily. Your road has hills enough, and you carry your "
         u"gifts up them with clenched teeth. A friendly game of tennis becomes a test of "
         u"character; for a picnic with eight guests you draw up a schedule, and lie awake over "
@@ -35,8 +36,8 @@ constexpr Reading rows[] = {
         u"you when you were fooling about, and it is still frightened off by a frown."},
     {4, u"People with this combination of Life Path/ Expression number need to be more practical "
         u"and realistic. The garden you dream of has its roses, its arbor and a bench for the "
-        u"evening, and you have not yet looked where north is. Your road keeps setting you down "
-        u"before plain jobs, while your mind is already sitting on the bench. Everyone loves to "
+        u"evening, and you have not yet looked where north is. For other people you can be exact; "
+        u"before a plain job of your own, your mind is already on the bench. Everyone loves to "
         u"hear you plan, though after a few such plans they stop offering to dig. The gap closes "
         u"beside somebody who has done it before, owns a pencil, and likes you. Half of your "
         u"smallest plan is struck out, and the rest gets built."},
@@ -48,14 +49,13 @@ constexpr Reading rows[] = {
         u"be welcome at an unlikely address: a bookkeeper can do the accounts of a circus, a "
         u"careful cook can feed a ship. What you know loses nothing by the move, and to new "
         u"people it is news."},
-    {6,
-     u"People with combination number 6 need to express themselves freely. You are the one who "
-     u"sees that things get done, and you think that such a person has no right to a mood. "
-     u"Asked where to spend the holiday, you name the place the others like, and pack for "
-     u"everybody. The song, the plan for the schoolyard, the opinion on a cousin's marriage "
-     u"stay inside until you forget whose they were. \"I would rather go to the sea\" is a whole "
-     u"sentence. Those you look after have been waiting a long time for the chance to please "
-     u"you."},
+    {6, u"People with combination number 6 need to express themselves freely. You are the one who "
+        u"sees that things get done, and you think that such a person has no right to a mood. "
+        u"Asked where to spend the vacation, you name the place the others like, and pack for "
+        u"everybody. The song, the plan for the schoolyard, the opinion on a cousin's marriage "
+        u"stay inside until you forget whose they were. \"I would rather go to the coast\" is a "
+        u"whole sentence. Those you look after have been waiting a long time for the chance to "
+        u"please you."},
     {7, u"You need to spend more time in solitude and deliberate on matters in frequent "
         u"intervals. As a doer you go from one task straight into the next, and your yes is given "
         u"before the question is finished. In this way much of your talent has gone into work "
@@ -64,11 +64,11 @@ constexpr Reading rows[] = {
         u"enough. From there the tasks have another size, and two or three prove to be other "
         u"people's."},
     {8, u"People with this combination number are not very ambitious and are afraid of being very "
-        u"competitive. When a friend applies for the same post, you withdraw your letter and wish "
+        u"competitive. When a friend applies for the same job, you withdraw your name and wish "
         u"them luck. In a race you slow down near the line, because the other runner looks so "
         u"unhappy. You call the prize vulgar and nearly believe it, yet your road leads again and "
         u"again to large matters, and you have the means to manage them. Somebody less fair takes "
-        u"the post, and you work for them. Enter a contest in which little is at stake, a flower "
+        u"the job, and you work for them. Enter a contest in which little is at stake, a flower "
         u"show or a chess evening, and play to win. Then sit down beside the one you beat. They "
         u"would have been insulted by a gift."},
 };
