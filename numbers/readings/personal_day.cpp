@@ -5,13 +5,13 @@ namespace modReadings::readings {
 namespace {
 constexpr Reading rows[] = {
     {1, u"This is the day when your primary concern is about yourself, your personal goals and "
-        u"desires. For one day that is quite in order. See to your own matter ahead of the "
+        u"desires. For one day that is as it should be. See to your own matter ahead of the "
         u"messages, because by noon other people will have found uses for you. A bold request is "
         u"well timed. Your voice has an edge today that you do not hear, and the clerk on the "
         u"phone does; a well-placed please gets you further than being right."},
     {2, u"This is the day to be social and develop friendly relationship with others. Sit by the "
-        u"person you know least, and ask one question more than manners require. If a remark "
-        u"stings, sleep on it. By morning it has shrunk."},
+        u"person you know least, and ask one question more than manners require. Anyone who "
+        u"forgets to greet you is looking for their keys."},
     {3, u"You will get fun from some lively recreational activities on this day. A dance or a "
         u"noisy lunch with people who laugh at the same things does more for you than an early "
         u"night. Your tongue is quick, and the thing you have been afraid to bring up comes out "

@@ -15,8 +15,8 @@ constexpr Reading rows[] = {
         u"feelings would. A job for two goes better shared. Should your name be missing from some "
         u"list, it was most likely an oversight, and one question clears it up."},
     {3, u"This is the month to explore your creative side. Four weeks are enough for something "
-        u"short, such as a birthday song with the right names in it or a wall painted as you "
-        u"always wanted. Show it around while it is still a bit rough. Whole afternoons go into "
+        u"short, such as a birthday song with the right names in it or the first three pages of a "
+        u"comic book. Show it around while it is still a bit rough. Whole afternoons go into "
         u"pleasant talk, and by the last week the dull mail has formed a pile. Two mornings with "
         u"the radio on take care of it."},
     {4, u"This is a time to plan and organize your work carefully. Count the working days left in "
@@ -26,9 +26,9 @@ constexpr Reading rows[] = {
         u"good reason, give in; that is what the pencil is for."},
     {5, u"This is the time to forget about past mistakes and start afresh. Last month's blunder "
         u"interests hardly anyone now except you. It probably came of doing the usual thing half "
-        u"asleep, so do it otherwise: trade tasks with a colleague, take a different road, keep "
-        u"one weekend blank and see what fills it. The likely new mistake is to say yes twice for "
-        u"the same evening. Write the first yes down."},
+        u"asleep, so do it otherwise: trade chores with a friend, take a different road, keep one "
+        u"weekend blank and see what fills it. The likely new mistake is to change what was "
+        u"working as well; by the 20th it is missed."},
     {6, u"This is the period to give importance to your personal life. A person you love has been "
         u"getting the tired end of your day for some weeks and has stopped mentioning it. Leave "
         u"work on time for a while, sit down to eat together, see to the lamp or the lock that "
@@ -46,10 +46,10 @@ constexpr Reading rows[] = {
         u"where you asked. Helpers seem slow to you, and your sighs make them slower. Tell them "
         u"what has gone right so far and let the date do the rest."},
     {9, u"This is a time to do something for the society. Give it a day and an address: an "
-        u"afternoon of sorting coats at the thrift shop, or a ride for a neighbor who no longer "
-        u"drives. You come home so cheered that you could sign up for everything, but going back "
-        u"a second week does more good. The last ten days are for your own small accounts, the "
-        u"borrowed book and the thank-you that is late enough to be embarrassing. It will be "
+        u"afternoon of sorting coats at the thrift shop, or an hour with a neighbor who no longer "
+        u"gets out. You come home so cheered that you could sign up for everything, but going "
+        u"back a second week does more good. The last ten days are for your own small accounts, "
+        u"the borrowed book and the thank-you that is late enough to be embarrassing. It will be "
         u"welcome all the same."},
 };
 } // namespace
