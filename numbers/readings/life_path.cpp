@@ -198,7 +198,7 @@ constexpr Reading rows[] = {
          u"see standing, with a roof on it and people going in and out. Your mind holds the whole "
          u"and also the bolts that keep it together: when a dreamer describes a vision, you ask "
          u"who will unload the trucks. Undertakings that reach past your own house and your own "
-         u"years draw you, such as a school, a firm, a law or a bridge. In a small post you are "
+         u"years draw you, such as a school, a firm, a law or a bridge. In a small job you are "
          u"restless and clumsy, and many a middling employee of this number would make an "
          u"excellent founder. Until a task of the right size appears you take up lesser ones and "
          u"outgrow them, and those at home wonder when you are going to settle.\r\n"
