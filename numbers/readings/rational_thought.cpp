@@ -20,9 +20,9 @@ constexpr Reading rows[] = {
     {3, u"People with rational thought number 3 have a creative bend of mind. Your thoughts come "
         u"as pictures and comparisons, and you often understand a problem only on hearing "
         u"yourself tell it to a friend. A talk about the leaking gutter ends in plans for a "
-        u"puppet theater, while the gutter goes on dripping. You persuade easily, and the first "
-        u"to be persuaded is you, since a thing well said sounds true to you. Where the joke is "
-        u"best, a fact has usually been left out to make room for it."},
+        u"puppet theater, while the gutter goes on dripping. You persuade easily, and while you "
+        u"talk the first to be persuaded is you, since a thing well said sounds true. Alone "
+        u"again, you find the fact that was left out to make room for the joke."},
     {4, u"People of this rational thought number are full of different ideas. Yours arrive with "
         u"measurements attached: before you agree to move, you have counted the boxes and paced "
         u"off the hall. You reason step by step, and a leap in another person's argument bothers "

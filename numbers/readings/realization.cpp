@@ -37,7 +37,7 @@ constexpr Reading rows[] = {
         u"you do not lecture. An old talent that was put aside for the sake of a living asks to "
         u"be taken out again, and it is less rusty than you feared. With a date set it comes back "
         u"faster still.\r\n"
-        u"You can come to live on fresh admirers. The same six stories go round, each time a "
+        u"You can come to live on fresh admirers. The same six stories are told, each time a "
         u"little grander, while the old friends, who know them, are invited less. Yet those are "
         u"the ones who know how it really was, and like you all the same. One of them asks you "
         u"some winter to teach a grandchild what you know. You start at the dull beginning, "
@@ -65,8 +65,8 @@ constexpr Reading rows[] = {
         u"politely refused. A question that had to wait, in science, faith, history or your own "
         u"past, begins to claim your evenings. Only your own mistakes are studied too long, like "
         u"the map of a town that one has left. Rather late comes the discovery that two or three "
-        u"people care about the same question, and that being contradicted by them over soup is a "
-        u"form of company."},
+        u"people care about the same question, and that being contradicted by them over supper is "
+        u"a form of company."},
     {8, u"Once you set your goal, you devote your time and energy in achieving that goal. Later "
         u"the goals change size. Enough has been proved by then, or has turned out not to need "
         u"proof, and you ask what the strength is for. You give somebody a start, settle an old "
