@@ -86,7 +86,7 @@ constexpr Reading rows[] = {
         u"usually give it. Take up the subject you broke off, read the hard book slowly, copy out "
         u"what you disagree with and let a thought run to its end. Forcing matters outside goes "
         u"badly just now; a deal that has to be talked into life tends to lie down again. Your "
-        u"tone at home wants watching, where a remark about the milk is met with a definition. A "
+        u"tone at home needs watching, where a remark about the milk is met with a definition. A "
         u"person close to you has changed this year while you were thinking, and deserves to be "
         u"read as slowly as the hard book. Suspicion thrives too, for a mind left much alone "
         u"finds evidence for anything. The friend who seems to be avoiding you is usually just "

@@ -130,7 +130,7 @@ constexpr Reading rows[] = {
     {9, u"In this period you receive great satisfaction in doing something for others, as well as "
         u"for yourself. The others are often strangers. You see the newcomer who does not know "
         u"the rules and the odd one out on the playground or the ward, and you are on your feet "
-        u"already. Whether they deserve it you seldom ask, so that now and then you are taken in, "
+        u"already. You seldom ask whether they deserve it, so that now and then you are taken in, "
         u"which troubles you less than having walked by. Your view widens until the quarrels of "
         u"your own street look small.\r\n"
         u"These years also finish things. A friendship that has done its work, an old plan or a "
