@@ -7,7 +7,7 @@ namespace {
 constexpr Reading rows[] = {
     {1, u"People with Soul Urge number 1 are satisfied when they succeed in any type of "
         u"competition. You look quite calm at the card table, yet inwardly you are counting, and "
-        u"the count goes on in traffic, in conversation and over who telephoned whom. What you "
+        u"the count goes on in traffic, in conversation and over who called whom first. What you "
         u"long for is to be first in something and to have got there by your own strength. A "
         u"prize won by the team is pleasant; a prize with your name on it can be looked at on bad "
         u"days. The wish is often well hidden, since pushing is thought rude, and you satisfy it "
@@ -92,7 +92,7 @@ constexpr Reading rows[] = {
         u"Afterward comes the waiting, which is harder. You say that it was nothing, and you "
         u"remember who took you at your word. A forgotten thank-you can live in you for a season, "
         u"coming out as a sigh over the sink or a remark about how easy some people have it. You "
-        u"also love by suggestion, and feel rejected yourself when someone keeps the sofa you "
+        u"also love by suggestion, and feel rejected yourself when someone keeps the rug you "
         u"spoke against.\r\n"
         u"The favors that leave no soreness behind are those you would have done for a person who "
         u"would never find out. You know which they are, for with the others you have already "
