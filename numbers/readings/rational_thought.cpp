@@ -8,7 +8,7 @@ constexpr Reading rows[] = {
         u"a first sketch lies on the table before the question has been fully stated, and you "
         u"improve it as you go. That a thing has always been done one way is reason enough for "
         u"you to look for another. Checking the proof bores you, and an idea seems truer if it is "
-        u"your own, so the advice you fought at breakfast is back by supper as your discovery. "
+        u"your own, so the advice you let pass at breakfast is back by supper as your discovery. "
         u"The plans that last are those that somebody was allowed to attack for ten minutes, "
         u"while you kept quiet and took notes."},
     {2, u"People of this rational number like to discuss things in detail with others before "
@@ -35,8 +35,8 @@ constexpr Reading rows[] = {
         u"the road, you want to know why everybody drives at eight. You think with your hands, "
         u"and three wrong answers that were tried out teach you more than a right one in a book. "
         u"The next attempt would be nearly right, and is therefore dull, so it stays on your desk "
-        u"with a step missing. Beside a friend who is fond of last steps, you are half of a "
-        u"first-rate mind."},
+        u"with a step missing. In other people's puzzles, oddly, the missing step is the first "
+        u"thing you see."},
     {6, u"People with rational thought number 6 tend to go into great details regarding any "
         u"matter. You think a vacation through as far as who sits next to whom in the car. Care "
         u"makes you thorough and also partial: the same argument weighs more coming from a friend "
