@@ -9,7 +9,7 @@ constexpr Reading rows[] = {
         u"hear a tune without trying another ending. Starting is the talent you use most. The "
         u"blank page that frightens others is a holiday for you, and you have a better name for a "
         u"shop before buying anything in it. So well used a talent does not always wait to be "
-        u"asked. It takes the pencil from a slower hand and does over a present that somebody "
+        u"asked. It takes the scissors from a slower hand and does over a present that somebody "
         u"else has wrapped. \"This one is mine,\" says the slower hand at last, and you fold your "
         u"arms, suffer a bit, and see it arrive by another road."},
     {2, u"You are a selfless individual. Your talent is so quiet that you scarcely count it as "
@@ -42,7 +42,7 @@ constexpr Reading rows[] = {
         u"several ways home and you take them by mood. In a foreign town you are bargaining in "
         u"bad grammar, with both hands, while your companions are still searching the phrase "
         u"book. Trying is your habit, and one clumsy attempt teaches you more than a course of "
-        u"lessons. At times it overshoots: a method that worked goes out with the dull one, and "
+        u"lessons. At times it overshoots: a recipe that worked goes out with the dull one, and "
         u"the bread machine gathers dust behind the paints. Years later you dig it out to give "
         u"away, try it once for fun, and find it new enough the second time."},
     {6, u"You like to be with your near and dear ones and would do anything for them. Looking "
@@ -70,13 +70,13 @@ constexpr Reading rows[] = {
         u"day you come as a plain guest they forget the ice, and a dog gets a steak. It is the "
         u"cookout that everybody remembers, you included, since you sat down for it."},
     {9, u"You are born with the inborn trait of serving mankind. When somebody absent is being "
-        u"picked to pieces, you are the one who speaks up for them. On a train you end up holding "
-        u"somebody's baby, or reading out a form to a man who has forgotten his glasses. You "
-        u"grasp quickly how a thing looks from far off, and can pity even the one who has wronged "
-        u"you. So quick a habit does not stop to look, and people have been helped across a "
-        u"street that they did not mean to cross. Most forgive you while they wait for the light "
-        u"to change back. There is one party for whom you never put in a word, and friends have "
-        u"begun to do it for you, having learned it from you."},
+        u"picked to pieces, you are the one who speaks up for them. On a train you end up "
+        u"guarding somebody's bags, or reading out a form to a man who has forgotten his glasses. "
+        u"You grasp quickly how a thing looks from far off, and can pity even the one who has "
+        u"wronged you. So quick a habit does not stop to look, and people have been helped across "
+        u"a street that they did not mean to cross. Most forgive you while they wait for the "
+        u"light to change back. There is one party for whom you never put in a word, and friends "
+        u"have begun to do it for you, having learned it from you."},
 };
 } // namespace
 

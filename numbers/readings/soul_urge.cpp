@@ -91,8 +91,8 @@ constexpr Reading rows[] = {
         u"your own, which will have to be returned and so means another visit.\r\n"
         u"Afterward comes the waiting, which is harder. You say that it was nothing, and you "
         u"remember who took you at your word. A forgotten thank-you can live in you for a season, "
-        u"coming out as a sigh over the sink or a remark about how easy some people have it. You "
-        u"also love by suggestion, and feel rejected yourself when someone keeps the rug you "
+        u"coming out as a sigh over the laundry or a remark about how easy some people have it. "
+        u"You also love by suggestion, and feel rejected yourself when someone keeps the rug you "
         u"spoke against.\r\n"
         u"The favors that leave no soreness behind are those you would have done for a person who "
         u"would never find out. You know which they are, for with the others you have already "
@@ -111,9 +111,8 @@ constexpr Reading rows[] = {
         u"the liking until it is cold.\r\n"
         u"Being seen in the middle of not knowing is what you are afraid of, and it is also the "
         u"only way that anyone gets in. One friend and one unfinished thought would be enough. "
-        u"The great questions like to reply when you have stopped asking, through music, a hill "
-        u"or a sleeping animal. Some of what you are looking for does not come in the form of "
-        u"proof."},
+        u"The great questions open when you have stopped asking, over music, on a hill or beside "
+        u"a sleeping animal. Some of what you are looking for does not come in the form of proof."},
     {8, u"People with destiny number 8 tend to get satisfaction from financial and material "
         u"achievements. As an inner wish it is about having an effect: you want your signature to "
         u"change what happens, and you want to see the result standing there.\r\n"
@@ -138,8 +137,8 @@ constexpr Reading rows[] = {
         u"someone would ask how you are and not be satisfied with the first answer. When nobody "
         u"does, you go silent in a way that is meant to be noticed. Your sleep returns when you "
         u"put up a fence yourself, around two or three troubles, and trust that the rest have "
-        u"found somebody as kind. Once rested you forgive quickly and completely, and people whom "
-        u"you had struck off are on the list again."},
+        u"found somebody as kind. Once rested you forgive nearly everything, and people whom you "
+        u"had struck off are on the list again."},
     {11, u"Master number 11 has resemblance with number 2. You want to achieve love, peace and "
          u"harmony in life. Resolving troubles by means of mediation and tact produces a warm "
          u"sense of accomplishment. You are a visionary and peacemaker by birth. You are "
