@@ -56,9 +56,9 @@ constexpr Reading rows[] = {
         u"bad knee, ask after it, and are understood."},
     {7, u"Spending some time in solitude would be rewarding enough for you. You fit so well into "
         u"every company, lively with the lively and grave with the grave, that your own wish gets "
-        u"lost there. A friend takes up running and you buy the shoes; it is on a wet morning, "
-        u"two miles out, that you notice how bored you are. Afterward, over the pancakes, they "
-        u"all say that they never saw anyone enjoy it more. Suppose that you have a free evening, "
+        u"lost there. A friend takes up hiking and you buy the boots; it is on a wet morning, two "
+        u"miles out, that you notice how bored you are. Afterward, over the pancakes, they all "
+        u"say that they never saw anyone enjoy it more. Suppose that you have a free evening, "
         u"could go out, and do not. The first hour is merely restless. Then your own opinion "
         u"comes in, rather shyly, and it is often a surprise."},
     {8, u"People with bridge number 8 should avoid taking short cuts. You wish to be respected, "
