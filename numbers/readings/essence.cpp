@@ -148,8 +148,8 @@ constexpr Reading rows[] = {
         u"It leaves once it is named, best of all in company, and the place may then stay empty "
         u"for a while. Other strong feelings press in to fill it at once, and most of them "
         u"deserve a night's wait before they are acted out. Promises are the other risk. In the "
-        u"warmth of such a moment you offer a stranger the spare room for the summer, and it is a "
-        u"good impulse, but the stranger goes home and believes it."},
+        u"warmth of such a moment you offer to teach a stranger's child to ride a bicycle, and it "
+        u"is a good impulse, but the child goes home and believes it."},
     {11, u"This is a period of deeper mysticism and possibly even leadership. It feels like "
          u"neither. You finish a friend's sentence, warn a colleague and cannot say why, and are "
          u"asked for advice by people who used to give it. Insight and plain nerves sound alike at "
