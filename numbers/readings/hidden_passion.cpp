@@ -5,7 +5,7 @@ namespace modReadings::readings {
 namespace {
 constexpr Reading rows[] = {
     {1, u"People of this number are very creative and artistic. Whatever passes through your "
-        u"hands comes out as yours: you change a recipe the first time you cook it, and cannot "
+        u"hands comes out as yours: you improve a game the first time you play it, and cannot "
         u"hear a tune without trying another ending. Starting is the talent you use most. The "
         u"blank page that frightens others is a holiday for you, and you have a better name for a "
         u"shop before buying anything in it. So well used a talent does not always wait to be "
@@ -40,11 +40,11 @@ constexpr Reading rows[] = {
         u"would not be without you, since nobody else knows where the tickets are."},
     {5, u"You are unconventional and would like to do things in new and different ways. There are "
         u"several ways home and you take them by mood. In a foreign town you are bargaining in "
-        u"bad grammar, with both hands, while your companions are still searching the phrase "
-        u"book. Trying is your habit, and one clumsy attempt teaches you more than a course of "
-        u"lessons. At times it overshoots: a recipe that worked goes out with the dull one, and "
-        u"the bread machine gathers dust behind the paints. Years later you dig it out to give "
-        u"away, try it once for fun, and find it new enough the second time."},
+        u"bad grammar and good humor while your companions are still searching the phrase book. "
+        u"Trying is your habit, and one clumsy attempt teaches you more than a course of lessons. "
+        u"At times it overshoots: a recipe that worked goes out with the dull one, and the bread "
+        u"machine gathers dust behind the paints. Years later you dig it out to give away, try it "
+        u"once for fun, and find it new enough the second time."},
     {6, u"You like to be with your near and dear ones and would do anything for them. Looking "
         u"after them is second nature: you drive an uncle to the station at five, teach the "
         u"neighbor's boy fractions, carry soup across the street. Unluckily you also decide who "
