@@ -41,10 +41,10 @@ constexpr Reading rows[] = {
      u"to be. \"I am still thinking\" would have been a solid answer, the more so with a date to "
      u"it."},
     {5, u"You should give up your attitude of being dependent on others since this is the time to "
-        u"be independent and go on your own, by a road that nobody has tried out for you. "
-        u"Inwardly you are always half on the way to somewhere. What people see sits in the back, "
-        u"asks where everyone is going and comes along. They plan for you; you thank them and "
-        u"look out at the exits. One afternoon on a train with no friend in it is enough to learn "
+        u"be independent and go on your own, by a road nobody has tried out for you. Inwardly you "
+        u"are always half on the way to somewhere. What people see on a free day sits in the "
+        u"back, asks where everyone is going and comes along. They plan for you; you thank them "
+        u"and look out at the exits. One afternoon on a train with no friend in it teaches you "
         u"that you get lost rather well. You come home with wet shoes, and are not easily put in "
         u"the back again."},
     {6, u"You should value and strive for congenial and friendly relations with your family and "
