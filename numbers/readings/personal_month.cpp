@@ -12,8 +12,8 @@ constexpr Reading rows[] = {
         u"spell between you and a colleague or a cousin can be ended this month by a visit that "
         u"has no purpose. Return the borrowed dish with something in it, and remember the "
         u"birthdays that fall in these weeks; such trifles do more now than a long talk about "
-        u"feelings would. A dull job goes faster with a helper. If your name is left off some "
-        u"list, ask before you brood; it was most likely an oversight."},
+        u"feelings would. A dull job is better shared, if only for the talk. If your name is left "
+        u"off some list, ask before you brood; it was most likely an oversight."},
     {3, u"This is the month to explore your creative side. Four weeks are enough for something "
         u"short, such as a birthday song with the right names in it or the first three pages of a "
         u"comic book. Show it around while it is still a bit rough. Whole afternoons go into "
