@@ -41,10 +41,10 @@ constexpr Reading rows[] = {
         u"plan, carried out to the place itself, loses half its roses to the shade. You start on "
         u"the rest, and somebody fetches a second spade."},
     {5, u"People with the combination number 5 are very conventional. You do the work you trained "
-        u"for as you were shown it, in the kind of place where it was always used, and the result "
+        u"for as you were shown it, in the kind of place where it was always done, and the result "
         u"is sound. The road takes a turn every few years. A new method comes in, and you keep "
-        u"the old one going beside it, and everything is done twice. \"We never did it that way\" "
-        u"is a sentence that those around you can say in your voice. The same skill would be "
+        u"the old one going beside it, so that everything is done twice. \"We never did it that "
+        u"way\" is a sentence that those around you can say in your voice. The same skill would be "
         u"welcome at an unlikely address: a bookkeeper can do the accounts of a circus, a careful "
         u"cook can feed a ship. What you know loses nothing by the move, and to new people it is "
         u"news."},
