@@ -30,9 +30,9 @@ constexpr Reading rows[] = {
         u"your gift uphill with clenched teeth. A puppet show for six children is rehearsed until "
         u"nobody dares to giggle, and one verse that limps costs you a night. The result is "
         u"excellent, and people admire it with folded hands. Your road would take you by way of "
-        u"laughter, with the thing passed around warm and half done. The talent first came when "
-        u"you were fooling about. It still does: you draw a horse that looks like a bus, hold it "
-        u"up, and while they howl you see how the real picture has to go."},
+        u"laughter, with drafts passed around while they are still warm. The talent first came "
+        u"when you were fooling about. It still does: you draw a horse that looks like a bus, "
+        u"hold it up, and while they howl you see how the real picture has to go."},
     {4, u"People with this combination of Life Path/ Expression number need to be more practical "
         u"and realistic. The garden you dream of has its roses, its arbor and a bench for the "
         u"evening, and you have not yet looked where north is. For other people you can be exact; "
