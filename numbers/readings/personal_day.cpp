@@ -40,7 +40,7 @@ constexpr Reading rows[] = {
         u"by three, and say who does what. By supper you outrank nobody; the movie and other "
         u"people's hair are decided elsewhere."},
     {9, u"This is a day to cherish the companionship of others. Those you fell out with count, "
-        u"too: an old quarrel looks small from here. You are inclined to give a stranger your "
+        u"too: an old quarrel looks rather small today. You are inclined to give a stranger your "
         u"coat and your lunch money; keep the bus fare. At the goodbye, say the warm thing that "
         u"you usually save for cards."},
 };
