@@ -98,9 +98,9 @@ constexpr Reading rows[] = {
         u"a sharp knife and good intentions is steered out of the kitchen. Little by little the "
         u"others live in your house as guests do, politely and never quite at ease. You are "
         u"tired, they are idle, and neither side is happy about it. The air clears on the day "
-        u"when you give up one job that you do better than anybody, for good, and along with it "
-        u"your opinion of how it is done. The next birthday is kept under another roof. You turn "
-        u"out to be welcome there with empty hands."},
+        u"when you give up for good the one job that you do better than anybody, along with your "
+        u"opinion of how it is done. The next birthday is kept under another roof. You turn out "
+        u"to be welcome there with empty hands."},
     {7, u"In this essence period you may need to remain in isolation and study in solitude. It "
         u"comes over you gradually, and in a busy year it takes the hours after dark. One evening "
         u"you open a box of old letters to look up a name, and at midnight you are still sitting "

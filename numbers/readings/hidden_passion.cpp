@@ -9,8 +9,8 @@ constexpr Reading rows[] = {
         u"hear a tune without trying another ending. Starting is the talent you use most. The "
         u"blank page that frightens others is a holiday for you, and you have a better name for a "
         u"shop before buying anything in it. So well used a talent does not always wait to be "
-        u"asked. It takes the scissors from a slower hand and does over a present that somebody "
-        u"else has wrapped. \"This one is mine,\" says the slower hand at last, and you fold your "
+        u"asked. It takes the scissors from a slower hand and does over a poster that somebody "
+        u"else has begun. \"This one is mine,\" says the slower hand at last, and you fold your "
         u"arms, suffer a bit, and see it arrive by another road."},
     {2, u"You are a selfless individual. Your talent is so quiet that you scarcely count it as "
         u"one: you feel the temperature of a household as the door opens, and you know which two "

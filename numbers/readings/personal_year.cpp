@@ -91,8 +91,8 @@ constexpr Reading rows[] = {
         u"person close to you has changed this year while you were thinking, and deserves to be "
         u"read as slowly as the hard book. Suspicion thrives too, for a mind left much alone "
         u"finds evidence for anything. The friend who seems to be avoiding you is usually just "
-        u"busy with a leaking roof. By the end you know one or two things about yourself that "
-        u"will serve you in the busier year to come."},
+        u"nursing a bad tooth. By the end you know one or two things about yourself that will "
+        u"serve you in the busier year to come."},
     {8, u"It is the year of financial gains. No number can say how large, but most of them begin "
         u"with asking, for the raise, for a fair price, for the money that you lent and were too "
         u"polite to mention. Go in person, and know your figures. People look to you for a "
@@ -104,14 +104,14 @@ constexpr Reading rows[] = {
         u"big push is worth keeping, even with one more good order in sight. By then you have "
         u"earned rest as well as money."},
     {9, u"It is the period year of self-reflection. A round of nine years is closing, and you can "
-        u"feel which parts of it are over: a committee you dread, a friendship kept up by habit, "
-        u"a drawer of keys that fit nothing. Finish these or hand them on while you can do it "
+        u"feel which parts of it are over: a meeting you dread, a friendship kept up by habit, a "
+        u"drawer of keys that fit nothing. Finish these or hand them on while you can do it "
         u"kindly, and expect to miss a few that you were right to end. A large new idea is in no "
-        u"hurry; put it in a notebook, and see in January if it still makes you sit up. Moods run "
-        u"high, and a piece of music can undo you in the cereal aisle. The friend who asks what "
-        u"is wrong gets a shrug, though an ending is easier to carry once another person knows of "
-        u"it. Write the letter that thanks or forgives, whether or not it is answered, and leave "
-        u"some shelves empty at the end."},
+        u"hurry; put it in an envelope, and see in January if it still makes you sit up. Moods "
+        u"run high, and a piece of music can undo you in the cereal aisle. The friend who asks "
+        u"what is wrong gets a shrug, though an ending is easier to carry once another person "
+        u"knows of it. Write the letter that thanks or forgives, whether or not it is answered, "
+        u"and leave some shelves empty at the end."},
 };
 } // namespace
 

@@ -72,7 +72,7 @@ constexpr Reading rows[] = {
         u"because either can tell you which leap you are making for the second time. And there is "
         u"a good way to leave a place. You say face to face why you are going, even where the "
         u"reason does not flatter you. Sometimes you hear yourself, notice that you were merely "
-        u"bored that week, and unpack. At other times you go, and a bed is kept for you when you "
+        u"bored that week, and stay. At other times you go, and a bed is kept for you when you "
         u"pass through."},
     {6, u"This is a period in which one's personal life gains more importance than one's "
         u"professional life for the person. Your mind is at home even when your body sits "
