@@ -12,7 +12,7 @@ constexpr Reading rows[] = {
         u"Told a month sooner, the same people carry boxes."},
     {2, u"This is the period when you need to show patience and work in a steady pace towards "
         u"your goals. Few of the goals are yours alone, for these years go by in twos. You are "
-        u"the half that listens, and what neither could force, the pair of you get by waiting. "
+        u"the half that listens, and the pair of you get by waiting what neither could force. "
         u"Waiting can also become a habit: an answer that was ready in spring is still ready in "
         u"the fall, because nobody asked. You do best beside a person who turns around and wants "
         u"to know."},
