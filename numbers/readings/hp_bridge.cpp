@@ -22,8 +22,8 @@ constexpr Reading rows[] = {
         u"relationships. You wish to be one of two, and with the person you have picked for it "
         u"you cannot wait. Your second message goes off when the first has lain for an hour, and "
         u"what was affection when it left you arrives as a reproach. If they take a day to think, "
-        u"you hear a no, and are cool to them before they have said yes. A partner at work is "
-        u"reminded while the paint is still wet. Two people seldom arrive at the same minute. The "
+        u"you hear a no, and are cool to them before they have said yes. At noon you remind a "
+        u"partner of what was settled at ten. Two people seldom arrive at the same minute. The "
         u"first one there has the better part of it, a low wall in the sun and somebody to look "
         u"out for who is coming on purpose."},
     {3, u"People with this bridge number get easily frustrated by failures. You long to play, to "
