@@ -59,10 +59,10 @@ constexpr Reading rows[] = {
         u"whole before the parts and judge a decision by whom it leaves worse off, strangers "
         u"included. A plan that treats somebody shabbily is to you a bad plan. In a dispute you "
         u"can tell how it will look in ten years, which cools the hotheads. From that height, "
-        u"though, the choice between two paints hardly seems to want an answer, and somebody is "
-        u"standing there with a brush. Your mood has a vote as well. A cause that was hopeless in "
-        u"the rain is possible in sunshine, and your verdicts on the whole human race are mostly "
-        u"passed on an empty stomach."},
+        u"though, the choice between two doorknobs hardly seems to want an answer, and somebody "
+        u"is standing there holding both. Your mood has a vote as well. A cause that was hopeless "
+        u"in the rain is possible in sunshine, and your verdicts on the whole human race are "
+        u"mostly passed on an empty stomach."},
     {11, u"People with this rational thought number are spiritually inclined as well as dynamic in "
          u"nature but they may not be well able to explain how they came by an answer. It reaches "
          u"you whole, in the bath or in the middle of another person's sentence, and you collect "
