@@ -59,7 +59,7 @@ constexpr Reading rows[] = {
         u"intervals. As a doer you go from one task straight into the next, and what is put on "
         u"your desk is done, asked for or not. In this way much of your talent has gone into work "
         u"that happened to lie on top. You notice it now and then at a red light, as a wish to "
-        u"know what it is all for; then the light changes. A bench out of its reach is solitude "
+        u"know what it is all for; then the light changes. A bench out of earshot is solitude "
         u"enough. From there the tasks have another size, and two or three prove to be other "
         u"people's."},
     {8, u"People with this combination number are not very ambitious and are afraid of being very "
