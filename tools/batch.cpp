@@ -106,7 +106,7 @@ private:
         }
         const QString name = u"person-%1.%2"_s.arg(number_, 6, 10, '0'_L1)
                                  .arg(options_.format == Format::Rtf ? "rtf"_L1 : "txt"_L1);
-        Output file(QDir(options_.outputDir).filePath(name), u"--output-dir"_s);
+        Output file(QDir(options_.outputDir).filePath(name), Output::Kind::InFolder);
         file.Write(reading);
         file.Finish();
     }
