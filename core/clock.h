@@ -1,9 +1,9 @@
 #pragma once
 
-// The local clock, with year, month and day as calls of their own: each is read at the
-// moment it is needed, so within one run they may even come from different sides of
-// midnight. Everything that depends on today asks here, and a test or the report
-// tool's --today can put another clock in place.
+// The local clock. Year, month and day are separate calls, and each reads the time at the
+// moment of the call: around midnight they can belong to different days. Everything that
+// depends on today asks here. A test, or the report tool's --today, can put another clock
+// in place.
 
 #include "core/int16.h"
 

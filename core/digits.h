@@ -1,8 +1,8 @@
 #pragma once
 
-// Reduction of numbers by their digits. The functions look alike and are not: which
-// sums come down to one digit and which survive as 11 or 22 is decided here, in each
-// function differently, and the readings hang on these differences.
+// Reduction of numbers by their digits. The functions look alike, but they differ in which
+// sums they reduce to one digit and which they keep as 11 or 22, and the readings depend
+// on these differences.
 //
 // A digit sum adds all the digits of a text. A fold adds the first digit and the last
 // and forgets what stands between them: 123 has the digit sum 6 and folds to 4.

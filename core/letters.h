@@ -1,8 +1,7 @@
 #pragma once
 
 // The Pythagorean letter chart, the only copy of it, and the sums over a name.
-// Only the capitals A to Z have a value; every other character has none and disturbs
-// nothing.
+// Only the capitals A to Z have a value; every other character counts 0.
 
 #include "core/int16.h"
 
@@ -40,8 +39,8 @@ constexpr int16 LetterValue(std::u16string_view letter) {
     return letter.size() == 1 ? ChartValue(letter.front()) : int16{0};
 }
 
-/// Which of the values 1 to 9 the characters of `name` stand for, however often. Bit 0
-/// tells of characters without a value. Never fails.
+/// Which of the values 1 to 9 the characters of `name` have, however often: bit 5 is set
+/// when one has the value 5. Bit 0 is set when a character has no value. Never fails.
 inline std::bitset<10> PresentValues(std::u16string_view name) {
     std::bitset<10> present;
     for (const char16_t character : name)

@@ -29,13 +29,14 @@ constexpr int16 EnglishMonthValue(std::u16string_view monthName) {
     return 0;
 }
 
-/// The value of a month name, 0 to 9, by a chain of twelve tests, each of which also
-/// holds when ScratchLetter equals the month's number as text. Never fails.
+/// The value of a month name, 0 to 9. Twelve tests are made in calendar order, and each
+/// holds when the name is that month's or when ScratchLetter is the month's number as text.
+/// Never fails.
 ///
-/// ScratchLetter keeps the last character of the name walked last. That is a letter
-/// and matches nothing, unless the name ended in a digit: after a name that ends in 3,
-/// January and February still win by their earlier place and every later month counts
-/// 3. This is how the month has always been read and it stays.
+/// ScratchLetter is the last character of the name that was walked last. It is a letter and
+/// matches nothing, unless that name ended in a digit. After a name that ends in 3, January
+/// and February are still found first, and every later month counts 3. This is how the
+/// month has always been read and it stays.
 int16 MonthNumber(std::u16string_view monthName);
 
 } // namespace modReadings

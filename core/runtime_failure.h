@@ -1,7 +1,6 @@
 #pragma once
 
-// The one failure of the arithmetic and the calculators, and the one place that
-// swallows it.
+// The one failure of the arithmetic and the calculators, and the one place that catches it.
 //
 // A calculator that fails is abandoned where it stands: what it has written stays
 // written. The event procedure that called it goes on with its next statement, so

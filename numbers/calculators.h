@@ -60,16 +60,17 @@ void CalcPersonalMonth();
 void CalcPersonalDay();
 
 /// The three periods of a life, each with a number from 0 to 9, and the index of the one
-/// now running, 1 to 3. A negative age leaves the index alone. Fails on a character that
-/// is no digit: in the birth day with PeriodNumber1 new, in the year with PeriodNumber2
-/// new as well. A year of digits that is no number in int16, the empty one among them,
-/// fails at the age, with all three numbers and the three stages new.
+/// now running, 1 to 3. A negative age leaves the index alone. Fails on a character of the
+/// birth day that is no digit, when PeriodNumber1 is written, and on one of the year, when
+/// PeriodNumber2 is written too. Fails on a year that is empty or over int16, when all
+/// three numbers and the three stages are written.
 void CalcLifePathPeriods();
 
 /// Four pinnacles, 1 to 9, 11 or 22, each with a line of ages and a reading. A 0, which
 /// no date of the lists makes, has neither and leaves both alone. Fails on a day or year
-/// that is no number, before it writes anything; a sum over int16 or below 0 leaves the
-/// numbers of the pinnacles before it new and everything else as it was.
+/// that is no number, before it writes anything. Where the sum of one pinnacle is over
+/// int16 or below 0, the numbers of the pinnacles before it are already written, and
+/// everything else is as it was.
 void CalcPinnacles();
 
 /// Four challenges, 0 to 8, each with a line and a reading. A 9, which takes an unknown
@@ -111,8 +112,9 @@ void CalcLEBridge();
 void CalcRealization();
 
 /// The shares of the four planes in the name, rated, and the plane that dominates.
-/// Fails with the labels written on an empty name and on a length over int16, and with
-/// the shares of the planes before it written too on more than 327 letters of one plane.
+/// Fails on an empty name and on a length over int16; the four labels are written then.
+/// Fails on more than 327 letters of one plane; the shares of the planes before that one
+/// are written then too.
 void CalcPlanes();
 
 } // namespace modReadings

@@ -17,7 +17,6 @@ LDFLAGS=$(dpkg-buildflags --get LDFLAGS)
 SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
 export CXXFLAGS LDFLAGS SOURCE_DATE_EPOCH
 
-cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
-    -DORRAVANE_TESTS=OFF >/dev/null
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr >/dev/null
 cmake --build "$build"
 (cd "$build" && cpack -G DEB)

@@ -17,50 +17,13 @@ pictures=$(realpath "${PICTURES:-$(dirname "$package")}")
 kept=${ROOT:-}
 root=$(realpath -m "${ROOT:-$(mktemp -d)}")
 
-step() { printf '\n== %s\n' "$*"; }
-fail() {
-    printf 'FAILED: %s\n' "$*" >&2
-    exit 1
-}
-cleanup() {
-    if mountpoint -q "$root/proc"; then
-        umount "$root/proc"
-    fi
-    if [ -z "$kept" ]; then
-        rm -rf --one-file-system "$root"
-    fi
-}
+. "$(dirname "$0")/bare-root.sh"
 
-[ "$(id -u)" -eq 0 ] || fail "only root can make a system and enter it"
-[ -z "$(ls -A "$root" 2>/dev/null)" ] || fail "$root is not empty"
-trap cleanup EXIT
-mkdir -p "$root"
-chmod 755 "$root" # an ordinary user walks through it
-
-in_root() { # COMMAND...: as root of the bare system
-    chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/root \
-        DEBIAN_FRONTEND=noninteractive DEBCONF_NOWARNINGS=yes "$@"
-}
-as_user() { # COMMAND...: as its ordinary user, in the home folder
-    chroot --userspec=reader:reader "$root" env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 \
-        HOME=/home/reader sh -c 'cd && exec "$@"' sh "$@"
-}
 install() { in_root apt-get -qq -y --no-install-recommends install "$@" >/dev/null; }
-files() { (cd "$root" && find . -xdev \( -path ./proc -o -path ./tmp \) -prune -o -print | sort); }
+files() { (cd "$root" && find . -xdev \( -path ./proc -o -path ./dev -o -path ./tmp \) -prune -o -print | sort); }
 
 step "A bare Debian 12 from $mirror"
-debootstrap --variant=minbase bookworm "$root" "$mirror" >"$pictures/debootstrap.log" ||
-    fail "see $pictures/debootstrap.log"
-rm "$pictures/debootstrap.log"
-mount -t proc proc "$root/proc"
-printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d" # starts no services
-chmod +x "$root/usr/sbin/policy-rc.d"
-cat >"$root/etc/apt/apt.conf.d/00try" <<'APT'
-Dpkg::Use-Pty "false";
-APT::AutoRemove::RecommendsImportant "false";
-APT
-in_root useradd --create-home reader
-in_root apt-get -qq update
+enter_root bookworm "$mirror"
 files >"$root/tmp/files-before"
 
 step "Install, with what it depends on and nothing it only recommends"

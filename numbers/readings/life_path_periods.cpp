@@ -6,65 +6,66 @@ namespace {
 // No date reduces to 11 or 22; their rows stay all the same.
 constexpr Reading rows[] = {
     {1, u"This is the time when you should set your own goals and devote your whole attention and "
-        u"resources in achieving those goals. Help is scarce in these years, so you learn to "
-        u"decide alone and to stand by a choice that proves costly. You do your best work where "
-        u"nobody stands behind your chair. Deciding so becomes a habit, and those at home hear of "
-        u"a plan when it is past changing. Show it to them raw."},
+        u"resources in achieving those goals. These years have you decide alone, often early and "
+        u"on too little knowledge, and they leave you hard to discourage. At home the habit is "
+        u"less welcome. People who hear of a move once the truck is rented feel like luggage. "
+        u"Told a month sooner, the same people carry boxes."},
     {2, u"This is the period when you need to show patience and work in a steady pace towards "
-        u"your goals. Little is gained by force. You spend years beside somebody stronger or "
-        u"louder, doing the careful work, and what you know of people is learned there. So much "
-        u"giving way leaves its mark, and you go on working to that person's taste after they "
-        u"have left. Do a piece in your own manner, and let it be seen. Others can bear more "
-        u"frankness than you think."},
+        u"your goals. Few of the goals are yours alone, for these years go by in twos. You are "
+        u"the half that listens, and the pair of you get by waiting what neither could force. "
+        u"Waiting can also become a habit: an answer that was ready in spring is still ready in "
+        u"the fall, because nobody asked. You do best beside a person who turns around and wants "
+        u"to know."},
     {3, u"This is the time when you work and think in a mature manner and achieve success in your "
         u"different ventures. Nearly all of them pass through your mouth, your pen or your hands: "
-        u"you persuade, entertain, teach a room, make things that people like to look at. The "
-        u"loss shows late: what comes easily you give away easily, for a dinner or a round of "
-        u"laughter, and others build on it under their own name. Sign what you make and keep a "
-        u"copy. A room that laughs, besides, has not yet agreed to anything, so have the answer "
-        u"in writing before you celebrate."},
-    {4, u"It's a time to set goals for the future and work hard to realize the goals. Progress "
-        u"comes by the inch in these years and stays where you put it. Habit hardens along with "
-        u"it, and a moved chair can annoy you; once in a while change a rule that still works."},
+        u"you persuade, entertain, teach a room, make things that people like to look at. It "
+        u"comes so easily that you give it away for a dinner or a round of laughter, and one day "
+        u"meet your own idea under another name. Maturity here is to sign what you make and to "
+        u"remember that a room that laughs has not yet agreed to anything. The party after the "
+        u"signature is the better one."},
+    {4, u"It's a time to set goals for the future and work hard to realize the goals. The work "
+        u"goes brick by brick, and each stays where you laid it. What gets put off until the wall "
+        u"is done is play. Those who drag you to the lake anyway are remembered longest."},
     {5, u"This is a time when you will face many changes in your life and adapt to them. Towns, "
         u"trades and circles of friends follow each other, and you are at home in the new one "
-        u"within a month. Depth is what these years do not give by themselves: you know forty "
-        u"people by their first names and none by their troubles. Take one skill along from place "
-        u"to place, and let it ripen on the road. Keep a friend from every place, by letter if "
-        u"need be, or nobody will remember you whole."},
+        u"within a month. Depth is not included: you know forty people by their first names and "
+        u"none by their troubles. A skill that goes along from place to place can ripen on the "
+        u"road. So can one friendship from each town, kept up by mail if need be. Without those "
+        u"friends nobody would remember you whole."},
     {6, u"This is the time to realize the duties and responsibilities that you have towards your "
-        u"family. They come in all sizes: children, parents who grow old, pupils, and neighbors "
-        u"who come for an egg and stay to be asked what is wrong. You are good at it, and being "
-        u"needed gives the whole period its warmth. It also gives you a say in everything, which "
-        u"you carry too far with those old enough to choose a partner or a trade. When they go "
-        u"their own way you count up what you did for them. Stop the count; they love you better "
-        u"without it. Reserve one room for yourself."},
-    {7, u"You will be attracted towards various fields. Underneath is always the same search: you "
-        u"want to know how a thing works and whether what is said about it is true. You listen "
-        u"gladly to anyone who knows something, and badly to anyone who merely wants company. A "
-        u"gift is examined and its fault pointed out, and the giver does not try again. Thank "
-        u"first. And carry what you find in one field over into the next, where nobody has "
-        u"thought of it."},
+        u"family. They come in all sizes, from parents who grow old to the neighbor who borrows "
+        u"an egg and stays to be asked what is wrong. You are good at it, and being needed gives "
+        u"the whole period its warmth. It also gives you a say in everything, which you carry too "
+        u"far with those old enough to choose a partner or a trade. Later you count up what you "
+        u"did for them, and they hear the counting over the phone. They visit more gladly when "
+        u"you are busy with a pleasure of your own."},
+    {7, u"You will be attracted towards various fields. Underneath is a single search: you want "
+        u"to know how a thing works and if what is said about it is true. An hour with an expert "
+        u"flies, an afternoon of small talk drags, and those who came just for you look at the "
+        u"back of your head. A few stay for the whole explanation and become friends for life. "
+        u"Late in the period the fields begin to meet, and you see in one what its own experts "
+        u"missed."},
     {8, u"This is the right time to learn from the mistakes you have made and start things on a "
-        u"new way. Most were mistakes of judgment: you trusted the wrong partner, or pressed a "
-        u"good one until they left. In these years you are handed a department or the affairs of "
-        u"a family, and you find that you can run it. What has to change is the hour after a "
-        u"mistake. Say at once that it was yours, pay what it cost, and do not spend the evening "
-        u"proving that anyone would have made it."},
+        u"new way. Most are mistakes of command, since these years sooner or later put you over "
+        u"something, a team, a budget, the affairs of a family. You back the wrong person, or "
+        u"press a good one until they leave, and the figures show it. They show as well that you "
+        u"can run it. People will follow a hard judge a long way, once they have seen the first "
+        u"verdict fall on the judge."},
     {9, u"This is the time to devote yourself to the service of others. You are drawn into causes "
-        u"that will outlast your part in them, and some of your work goes on under other people's "
-        u"names. Places and friendships pass, and you find that you can bear it. Strangers call "
-        u"you kind. You can also hide among the needy, where nobody inquires after you; keep one "
-        u"friend who does."},
-    {11, u"You have gone through many experiences in life and learnt from them. They went deeper "
-         u"with you than with the people beside you, and when you speak of them a noisy table "
-         u"falls quiet. Then come weeks when you doubt the whole of it and cannot open a bill "
-         u"without getting worked up. In such weeks tell people simply what happened to you, and "
-         u"leave the meaning of it to them. Begin with the ideal that needs nobody's permission."},
+        u"that outlast your part in them, and some of your work goes on under other people's "
+        u"names. Places and friendships pass, and you find that you can bear it. Other people's "
+        u"troubles are also a fine place to hide your own. Good friends know the place, and knock "
+        u"from time to time."},
+    {11, u"You have gone through many experiences in life and learnt from them. They went in "
+         u"deeper than with the people beside you; a look between two strangers has taught you "
+         u"more than a move abroad teaches some. So you have a sense for what is true, and others "
+         u"begin to steer by it. You utter half a thought and somebody changes course, which is "
+         u"hard on the nerves. Told merely as your own story, it leaves them free and lets you "
+         u"sleep."},
     {22, u"People with this Life Path period have their whole concentration on the task at hand "
-         u"and the different ways to achieve it. With you the task is large, meant for many people "
-         u"and many years. Its size frightens you at night, so by day you drive your helpers. Let "
-         u"them see the fear."},
+         u"and the different ways to achieve it. The task is the size of a town, and you see it "
+         u"built, down to the drains. The room you sit in has given up asking. Sound plans can "
+         u"spend a Sunday rolled up."},
 };
 } // namespace
 

@@ -22,29 +22,24 @@ constinit const std::u16string_view planesAbout =
     u"nearly even, you will know the dispute between them from many an evening of "
     u"wanting two things at once. Read all four parts, for what you lack explains as "
     u"much as what you have.\r\n\r\n"
-
     u"Plane of expression: Physical (body):\r\n"
-
     u"People with a dominant physical plane of expression have a basic strong "
     u"constitution. They trust what can be lifted, tasted or measured, and so do you "
     u"if this plane leads. You learn a machine by using it and leave the booklet in "
     u"the drawer. A long explanation makes your feet restless, and you believe in a "
-    u"plan only after you have walked over the ground. Bad news sends you out to chop "
-    u"wood or scrub a pot, and you feel better before you have had a thought about "
+    u"plan only after you have walked over the ground. Bad news sends you off to mop a "
+    u"floor or scrub a pot, and you feel better before you have had a thought about "
     u"it; sitting still with a worry wears you down. People like to work beside you, "
     u"because you have taken one end of the piano while the rest are still discussing "
     u"the stairs.\r\n"
-
     u"You want to lead life in an unique and an innovative way. Whatever you make has "
     u"to show your own hand, and you would choose an odd solution that works over the "
     u"usual one. In return you can be blunt: a hint passes you by, and a friend who "
-    u"came to be listened to goes home with a mended chair and the same sorrow. Rest "
+    u"came to be listened to goes home well fed and with the same sorrow. Rest "
     u"has to be ordered like a task or it does not happen. With little of this plane, "
     u"you forget meals over a book and let errands pile up; a walk at the same hour "
     u"every day brings you back to the ground.\r\n\r\n"
-
     u"Planes of expression: Mental (mind): \r\n"
-
     u"The Mental Plane of Expression describes your thought process and how your mind "
     u"works in different situations. With much of it you want the reason before the "
     u"instruction, and you keep asking until it comes. You compare, look ahead, and "
@@ -53,23 +48,19 @@ constinit const std::u16string_view planesAbout =
     u"and a decision that was sound at noon is taken apart again at midnight. With "
     u"little of it you learn from example, decide fast, and defend good decisions "
     u"poorly; three points on a slip of paper carry you through a hard talk.\r\n\r\n"
-
     u"Plane of Expression: Emotional (heart): \r\n"
-
     u"People with dominant Emotional plane of expression have their heart rule their "
     u"emotional senses. A choice is right for you when it feels right, and it changes "
     u"as the feeling changes. You hear the coolness in a voice on the telephone "
     u"before you take in the words. Gloom in a room becomes your own gloom, and a "
     u"happy child on a bus can save your morning. For a boss who remembers your name "
     u"you do twice the work, and a curt note spoils a week. People tell you their "
-    u"troubles because you do not hurry them. What hurts you is your speed at the "
+    u"troubles because you do not hurry them. The danger is your speed at the "
     u"hottest moment: leave the angry letter in the drawer until you have eaten and "
     u"slept. Where this plane is weak you feel as much as others do, only late, two "
     u"days after the farewell and alone in the car. You are then thought cool, so "
     u"write the few lines that you could not say on the day.\r\n\r\n"
-
     u"Plane of Expression: Intuitive (spirit):\r\n"
-
     u"People with a dominant Spiritual Plane of Expression are highly sensitive. You "
     u"know things that nobody told you: that the guest is unhappy, that the bargain "
     u"has a hook in it. Pressed for grounds you have none, and too often you give way "
