@@ -8,9 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <initializer_list>
 #include <iterator>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace modReadings {
@@ -133,6 +136,15 @@ inline SlotNames Changed(const ReadingStore &a, const ReadingStore &b) {
 /// The names of the slots that are alike in both stores.
 inline SlotNames Kept(const ReadingStore &a, const ReadingStore &b) {
     return SlotsWhere(a, b, [](const auto &left, const auto &right) { return left == right; });
+}
+
+/// The slots whose names begin with one of these.
+inline SlotNames SlotsOf(std::initializer_list<std::string_view> beginnings) {
+    SlotNames all = SlotsWhere(store, store, [](const auto &, const auto &) { return true; });
+    std::erase_if(all, [&](const std::string &name) {
+        return std::ranges::none_of(beginnings, [&](auto part) { return name.starts_with(part); });
+    });
+    return all;
 }
 
 /// The slots in which the store differs from `before`. ScratchIndex is left out: it is the
