@@ -1,7 +1,6 @@
 #include "tools/people_lines.h"
 
 #include "tools/json_text.h"
-#include "tools/line_reader.h"
 #include "tools/refusal.h"
 #include "tools/text.h"
 
@@ -340,6 +339,14 @@ std::optional<PersonLine> PeopleLines::Parse(const std::string &line) {
     return columns_.empty() ? ParseJson(line) : ParseCsv(line);
 }
 
+namespace {
+
+/// How far the end of a row with an open quotation mark is looked for. Each further line reads
+/// the whole again, so without a limit many of them would take for ever.
+constexpr std::size_t longestOpenRow = 16'384;
+
+} // namespace
+
 std::optional<PersonLine> PeopleLines::ParseCsv(const std::string &line) {
     const CsvRow row(line, separator_);
     const auto fits = [&](const CsvRow &each) {
@@ -351,7 +358,7 @@ std::optional<PersonLine> PeopleLines::ParseCsv(const std::string &line) {
         const CsvRow joined(whole, separator_);
         if (fits(joined))
             return std::nullopt;
-        if (joined.leftOpen && whole.size() <= LineReader::longestLine)
+        if (joined.leftOpen && whole.size() <= longestOpenRow)
             open_ = std::move(whole);
     } else {
         open_.clear();

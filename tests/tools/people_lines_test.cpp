@@ -271,6 +271,15 @@ TEST(PeopleLines, LoseOneRowToALineBreakInAField) {
     ExpectLine(reader.Refused("Dan,Ray"), {"2 fields"}); // never silently
     EXPECT_EQ(reader.Parse("Ann,Lee,1984-05-07,"), good);
     ExpectLine(reader.Refused("two\""), {"out of place"});
+    // Of a field over more than two lines each but the last is refused, as it might be a row.
+    ExpectLine(reader.Refused("Bob,Ray,1990-01-01,\"one"), {"left open"});
+    ExpectLine(reader.Refused("two"), {"1 fields"});
+    EXPECT_EQ(reader.Parse("three\""), "-");
+    ExpectLine(reader.Refused("four\""), {"out of place"});
+    // Nor is the end looked for without end.
+    ExpectLine(reader.Refused("Bob,Ray,1990-01-01,\"one"), {"left open"});
+    ExpectLine(reader.Refused(std::string(20'000, 'x')), {"1 fields"});
+    ExpectLine(reader.Refused("three\""), {"out of place"});
 }
 
 } // namespace
