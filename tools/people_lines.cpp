@@ -165,9 +165,12 @@ public:
     }
     bool Key(const char *text, rapidjson::SizeType size, bool) {
         const std::string_view name(text, size);
+        if (depth_ == 1)
+            name_ = name;
+        if (!FromUtf8(name))
+            Complain();
         if (depth_ > 1)
             return Copy([&] { others_.Key(text, size); });
-        name_ = name;
         input_ = InputNamed(name);
         const bool first = input_ == nullptr ? seenOthers_.emplace(name).second
                                              : std::ranges::find(seen_, input_) == seen_.end();
@@ -176,8 +179,6 @@ public:
         if (input_ != nullptr) {
             seen_.push_back(input_);
         } else {
-            if (!FromUtf8(name))
-                Complain();
             if (first && seenOthers_.size() == 1)
                 others_.StartObject();
             others_.Key(text, size);

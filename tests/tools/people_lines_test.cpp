@@ -194,6 +194,7 @@ TEST(PeopleLines, RefuseWhatIsNoObjectOfTheMembers) {
              {R"({"id":"\ude00"})", "id is neither"},
              {R"({"id":[{"x":"\ude00"}]})", "id is neither"},
              {R"({"\ude00":1})", "is neither"},
+             {R"({"id":[{"\ude00":1}]})", "id is neither"},
              {R"({"first":"A","first":"A"})", "\"first\" stands there twice"},
              {R"({"middle":"","middle":""})", "\"middle\" stands there twice"},
              {R"({"first":true})", "first is neither"},
