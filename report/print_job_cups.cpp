@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int connectMilliseconds = 3000;
-constexpr double silenceSeconds = 10; // a server that says nothing for longer is given up
+constexpr double silenceSeconds = 5; // a server that says nothing for longer is given up
 
 // Lengths are in hundredths of a millimetre, as the library has them.
 
