@@ -121,17 +121,23 @@ private:
 
     void Form_Unload();
     void UnloadAllForms();
+    /// Runs Form_Unload and hides the window. Does so once, however often it is called.
     void Unload();
     void CentreOnScreen();
 
+    /// Shows one of the three pages, which covers the other two.
     void BringToFront(QWidget *page);
+    /// False for a control on a page that is covered.
     bool IsReachable(const QWidget *control) const;
 
     /// False when a required input is missing; the message has then been shown and the
     /// focus is on that input.
     bool ValidateInputs();
+    /// One of its checks: where `text` is empty, shows the message, moves the focus to
+    /// `control` and returns false.
     bool RequireInput(const QString &text, const QString &message, QWidget *control);
     void ResetInputs();
+    /// Writes the report into RTB, then shows its page.
     void ShowReport(modReadings::Report report);
 
     SingleInstance instance_;

@@ -133,7 +133,7 @@ bool frmMain::RequireInput(const QString &text, const QString &message, QWidget 
 }
 
 bool frmMain::ValidateInputs() {
-    // The lists always stand on an entry, so their checks never fire; they stay.
+    // A list always has an entry selected, so the last three checks never fire. Required.
     return RequireInput(Picture1->txtFirstName->text(), tr("Please Enter Your First Name"),
                         Picture1->txtFirstName) &&
            RequireInput(Picture1->txtLastName->text(), tr("Please Enter Your Last Name"),
@@ -223,8 +223,8 @@ void frmMain::BringToFront(QWidget *page) {
     cmdNext->setShortcut(page == Picture2 ? QKeySequence() : alt_P);
     cmdPrint->setShortcut(page == Picture2 ? alt_P : QKeySequence());
 
-    // Neither the focus nor the mouse must stay behind on a page that nobody sees. The mouse
-    // could: the page may change by the keyboard while it rests on a button.
+    // Nothing on a covered page may keep the focus or the mouse. A button there can have
+    // captured the mouse: the keyboard may change the page while the mouse rests on it.
     for (ImageButton *button : findChildren<ImageButton *>())
         if (!IsReachable(button))
             button->TurnPlain();
@@ -240,7 +240,7 @@ bool frmMain::IsReachable(const QWidget *control) const {
     return true;
 }
 
-/// The pages are never hidden, so Tab would also reach the controls of the covered ones.
+/// Covered pages are not hidden, so without this Tab would reach their controls too.
 bool frmMain::focusNextPrevChild(bool next) {
     QWidget *start = focusWidget() != nullptr ? focusWidget() : this;
     for (QWidget *candidate = next ? start->nextInFocusChain() : start->previousInFocusChain();
@@ -277,7 +277,7 @@ void frmMain::picPrint_Click() { cmdPrint_Click(); }
 
 void frmMain::cmdSave_Click() {
     const QFont &font = Picture2->RTB->font();
-    const double points = font.pixelSize() * 72.0 / 96.0;
+    const double points = font.pixelSize() * 72.0 / 96.0; // 72 points or 96 pixels to the inch
     SaveReport(Picture2->RTB->ShownReport(),
                {font.families().value(0).toStdString(), static_cast<int>(std::lround(points * 2))},
                App::Title(), this);

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Some platforms let no client have the mouse outside its window. There the button
-/// makes do with being told that the mouse has left it.
+/// Whether the platform lets a program capture the mouse. Wayland, for one, does not; there
+/// a button turns plain as soon as the mouse leaves it.
 bool CanGrabMouse() {
     static const bool can = QGuiApplication::platformName() == QLatin1StringView("xcb") ||
                             QGuiApplication::platformName() == QLatin1StringView("windows");
@@ -65,15 +65,15 @@ void ImageButton::mouseMoveEvent(QMouseEvent *event) {
 }
 
 void ImageButton::mouseReleaseEvent(QMouseEvent *event) {
-    // What the click opens must have the mouse to itself. The image stays as it is until
-    // the next move.
+    // Released first, so that a window that the click opens gets the mouse. The image stays
+    // as it is until the next move.
     ReleaseCapture();
     QAbstractButton::mouseReleaseEvent(event);
 }
 
 void ImageButton::leaveEvent(QEvent *event) {
     QAbstractButton::leaveEvent(event);
-    // With the mouse captured the moves outside tell more exactly.
+    // While the mouse is captured, the next move outside turns the button plain.
     if (QWidget::mouseGrabber() != this)
         TurnPlain();
 }

@@ -7,16 +7,6 @@
 #include <QLocale>
 #include <QStyledItemDelegate>
 
-namespace {
-
-/// A caption, and the control that it names.
-QLabel *Buddy(QLabel *label, QWidget *control) {
-    label->setBuddy(control);
-    return label;
-}
-
-} // namespace
-
 InputPage::InputPage(QWidget *parent) : Page(parent) {
     Frame1 = Placed(new QGroupBox(tr("Note: "), this), At("Frame1"));
     Label2 = Placed(
@@ -46,12 +36,13 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
 
     picProceed = Placed(new ImageButton(7, tr("Proceed"), this), At("picProceed"));
 
-    Buddy(Label1, txtFirstName);
-    Buddy(Label4, txtMiddleName);
-    Buddy(Label5, txtLastName);
-    Buddy(Label6, cboMonth);
-    Buddy(Label3, cboDate);
-    Buddy(Label7, cboYear);
+    // Tells assistive technology which label belongs to which control.
+    Label1->setBuddy(txtFirstName);
+    Label4->setBuddy(txtMiddleName);
+    Label5->setBuddy(txtLastName);
+    Label6->setBuddy(cboMonth);
+    Label3->setBuddy(cboDate);
+    Label7->setBuddy(cboYear);
     txtFirstName->setAccessibleName(tr("First Name, required"));
     txtMiddleName->setAccessibleName(tr("Middle Name"));
     txtLastName->setAccessibleName(tr("Last Name, required"));
@@ -63,7 +54,7 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
 void InputPage::FillLists() {
     for (QComboBox *list : {cboMonth, cboDate, cboYear}) {
         list->setMaxVisibleItems(12);
-        list->setItemDelegate(new QStyledItemDelegate(list)); // the one that heeds the style sheet
+        list->setItemDelegate(new QStyledItemDelegate(list)); // draws by the style sheet
     }
     for (int day = 1; day <= 31; ++day)
         cboDate->addItem(QString::number(day));

@@ -65,12 +65,12 @@ void LinkLabel::keyPressEvent(QKeyEvent *event) {
 
 void LinkLabel::paintEvent(QPaintEvent *event) {
     QLabel::paintEvent(event);
-    if (text().isEmpty()) { // a hot area over a text of the picture below
+    if (text().isEmpty()) { // lblHyperlink: the text is part of the picture below
         if (hasFocus()) {
             QPainter painter(this);
             DrawFocusFrame(painter, rect(), 4);
         }
-    } else if (hasFocus() || underMouse()) { // no room for a frame around the letters
+    } else if (hasFocus() || underMouse()) { // a line, as the label has no room for a frame
         QPainter painter(this);
         painter.fillRect(QRect(0, height() - 1, sizeHint().width(), 1),
                          palette().color(foregroundRole()));

@@ -28,7 +28,7 @@ void RichTextBox::ShowReport(modReadings::Report report) {
     QTextCharFormat format;
     format.setForeground(
         QColor(modReadings::TopicInk.red, modReadings::TopicInk.green, modReadings::TopicInk.blue));
-    caret.setBlockCharFormat(format); // for a first line without a character
+    caret.setBlockCharFormat(format); // the colour of the first line where it is empty
     for (const modReadings::Run &run : report_) {
         format.setFontWeight(run.bold ? QFont::Bold : QFont::Normal);
         caret.insertText(QStringView(run.text).toString(), format); // "\r\n" ends a paragraph
@@ -41,8 +41,8 @@ void RichTextBox::ShowReport(modReadings::Report report) {
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent *event) {
-    // The caret stands at the end while the reader is at the beginning, so plain keys scroll
-    // and leave the caret alone; with Shift they select as usual.
+    // The caret stands at the end of the report, but reading starts at its beginning. So plain
+    // keys scroll the view and leave the caret alone; with Shift they select as usual.
     if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
         QScrollBar *bar = verticalScrollBar();
         switch (event->key()) {

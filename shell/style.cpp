@@ -12,7 +12,8 @@ QFont WindowFont() {
 }
 
 QString PageStyle() {
-    // A control that a style sheet touches no longer inherits its font, so it is said here too.
+    // A control that a style sheet touches no longer inherits its font, so the font is repeated
+    // here.
     QString style = uR"(
         #picMain, #picMain * { font-family: "Verdana", "DejaVu Sans"; font-size: 11px; }
         #Picture1 QLabel, #Picture3 QLabel { color: white; background: transparent; }
@@ -59,7 +60,7 @@ QString PageStyle() {
         #picMain QScrollBar::add-line, #picMain QScrollBar::sub-line { height: 0; width: 0; }
         #picMain QScrollBar::add-page, #picMain QScrollBar::sub-page { background: none; }
     )"_s;
-    // The names that a style sheet says with an at sign in front.
+    // The sheet above names a colour with an at sign in front.
     constexpr std::pair<QLatin1StringView, QColor> colors[] = {
         {"@violet"_L1, Colors::violet},     {"@gold"_L1, Colors::gold},
         {"@paleGold"_L1, Colors::paleGold}, {"@night"_L1, Colors::night},

@@ -68,7 +68,7 @@ private:
         } catch (const Refusal &refusal) {
             throw Refusal(u"--batch: line %1: %2"_s.arg(number_).arg(refusal.Line()));
         }
-        // Not before it is known that there is something to read.
+        // Made only now, so that a batch that is refused leaves no folder behind.
         if (!options_.outputDir.isEmpty() && !QDir().mkpath(options_.outputDir))
             throw Refusal(u"--output-dir: the folder \"%1\" cannot be made"_s.arg(
                 Excerpt(options_.outputDir)));
@@ -76,7 +76,8 @@ private:
     }
 
     void ReadLine() {
-        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // for check and reading
+        const modReadings::FixedClock oneDay(
+            modReadings::Clock::Date()); // the same for the check and the reading
         std::optional<modReadings::UserProfile> person;
         try {
             person = CheckPerson(lines_.Parse(line_));
@@ -99,13 +100,13 @@ private:
 
     void Write(const std::string &reading) {
         if (options_.outputDir.isEmpty()) {
-            progress_.MakeRoomForOutput();
+            progress_.ClearForOutput();
             output_.Write(reading);
             return;
         }
         const QString name = u"person-%1.%2"_s.arg(number_, 6, 10, '0'_L1)
                                  .arg(options_.format == Format::Rtf ? "rtf"_L1 : "txt"_L1);
-        Output file(QDir(options_.outputDir).filePath(name), u"--output-dir"_s);
+        Output file(QDir(options_.outputDir).filePath(name), Output::Kind::InFolder);
         file.Write(reading);
         file.Finish();
     }

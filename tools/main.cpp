@@ -58,7 +58,7 @@ ExitCode Run(int argc, char *argv[]) {
     case Options::Task::Batch:
         return RunBatch(options);
     case Options::Task::Person: {
-        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // for check and reading
+        const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
         const auto person = CheckPerson(options.person, u"--"_s);
         Print(options.output, ReadingAs(options.format, ReadPerson(person, options.topics)));
         break;

@@ -65,7 +65,7 @@ struct CommandLine {
 
     bool Given(const QCommandLineOption &option) const { return parser.isSet(option); }
 
-    /// The option that takes the word behind `argument` as its value, or nullptr.
+    /// The option that `argument` is, if that takes the next word as its value; or nullptr.
     const QCommandLineOption *OptionBefore(const QString &argument) const {
         const std::array valued{&first, &middle, &last,   &month,  &day,   &year,
                                 &today, &topic,  &format, &output, &batch, &outputDir};
@@ -78,10 +78,10 @@ struct CommandLine {
     QString WhyNotParsed(const QString &end) const {
         // The parser's text names the option that lacks its value, or one that has a value
         // and takes none.
-        const QCommandLineOption *open = OptionBefore(end);
-        if (open != nullptr && parser.errorText().contains(end))
-            return u"%1: the value is missing; give %2. %3"_s.arg(end, open->valueName(),
-                                                                  open->description());
+        const QCommandLineOption *valueless = OptionBefore(end);
+        if (valueless != nullptr && parser.errorText().contains(end))
+            return u"%1: the value is missing; give %2. %3"_s.arg(end, valueless->valueName(),
+                                                                  valueless->description());
         if (!parser.unknownOptionNames().isEmpty())
             return u"Unknown option \"%1\"; see --help for the options."_s.arg(
                 Excerpt(parser.unknownOptionNames().constFirst()));
@@ -147,11 +147,10 @@ Options ParseOptions(const QStringList &arguments) {
     if (!line.parser.positionalArguments().isEmpty())
         throw Refusal(u"\"%1\" is not an option; see --help for what is allowed."_s.arg(
             Excerpt(line.parser.positionalArguments().constFirst())));
-    for (const QCommandLineOption *once :
-         {&line.first, &line.middle, &line.last, &line.month, &line.day, &line.year, &line.today,
-          &line.format, &line.output, &line.batch, &line.outputDir})
-        if (line.parser.values(*once).size() > 1)
-            throw Refusal(u"%1 is given more than once; give it once."_s.arg(Dashed(*once)));
+    const QStringList given = line.parser.optionNames();
+    for (const QString &name : given)
+        if (name != line.topic.names().constFirst() && given.count(name) > 1)
+            throw Refusal(u"--%1 is given more than once; give it once."_s.arg(name));
 
     options.task = line.Given(line.book)    ? Options::Task::Book
                    : line.Given(line.batch) ? Options::Task::Batch

@@ -27,7 +27,8 @@ struct Options {
 };
 
 /// Throws Refusal, naming the option, unless all arguments behind the program's name are
-/// UTF-8. Their decoded form no longer tells.
+/// UTF-8. It has to look at the bytes: once decoded, a wrong byte looks like a character
+/// that somebody typed.
 void RequireUtf8(int argc, const char *const *argv);
 
 /// The options of `arguments`, the program's name first. Throws Refusal with a line that

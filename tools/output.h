@@ -3,26 +3,54 @@
 // Where the report tool's bytes go: standard output, or a file that is written whole or
 // not at all. What cannot be written throws Refusal with ExitCode::Failed.
 
-#include <QSaveFile>
+#include <QString>
 
-#include <memory>
+#include <string>
 #include <string_view>
+#include <utility>
 
 class Output {
 public:
-    /// To the file of this name, which came with `option`, or to standard output for an
-    /// empty one. A device or a pipe is written as it is, since it cannot be replaced.
-    explicit Output(const QString &fileName, const QString &option = QStringLiteral("--output"));
+    enum class Kind {
+        /// What the option --output names. Empty or "-" is standard output. "/dev/stdout",
+        /// "/dev/stderr", "/dev/fd/N" and "/proc/self/fd/N" are the open descriptor, written
+        /// from where it stands. A device or a pipe is written as it is. Anything else is a
+        /// file; a link to one is followed, and the file behind it replaced.
+        Named,
+        /// A file in the folder of --output-dir. What stands there is replaced, whatever it
+        /// is but a folder: a link is not followed, a pipe not waited for. The file is not
+        /// forced to the disk, since a batch makes many.
+        InFolder
+    };
 
-    /// Appends `bytes`; on standard output they are on their way when this returns.
+    /// A file is written under another name beside its place and takes that place in
+    /// Finish, so that a file that stands there is whole all the time. SIGINT, SIGTERM and
+    /// SIGHUP remove the unfinished file before they end the program.
+    explicit Output(const QString &path, Kind kind = Kind::Named);
+
+    /// Gives up what Finish has not put in place.
+    ~Output();
+    Output(const Output &) = delete;
+    Output &operator=(const Output &) = delete;
+
+    /// Appends `bytes`; on anything but a file they are on their way when this returns.
     void Write(std::string_view bytes);
 
-    /// Makes the file appear under its name. Without this call no file appears.
+    /// Puts the file in its place. Without this call no file appears.
     void Finish();
 
 private:
-    [[noreturn]] void Fail(const QString &reason) const;
+    /// The members alone: once this has run, the destructor runs too when the rest fails.
+    Output(QString shownName, bool durable) : name_(std::move(shownName)), durable_(durable) {}
 
-    QString name_;                      ///< in messages
-    std::unique_ptr<QFileDevice> file_; ///< none for standard output
+    void OpenNamed(const std::string &name);
+    void OpenBeside(std::string place);
+    [[noreturn]] void Fail(int error) const;
+
+    QString name_;          ///< in messages
+    int descriptor_ = -1;   ///< -1 once nothing is left to do
+    bool owned_ = false;    ///< whether the descriptor is closed in the end
+    bool durable_ = true;   ///< whether the file is forced to the disk
+    std::string place_;     ///< where the file goes; empty for anything but a file
+    std::string temporary_; ///< under which name it is written
 };

@@ -66,7 +66,7 @@ std::optional<QString> Value(const rapidjson::Value &value) {
     return std::nullopt;
 }
 
-/// Whether `line` is an object if it is JSON at all.
+/// Whether `line` begins as a JSON object does.
 bool BeginsObject(const std::string &line) {
     const std::size_t begin = line.find_first_not_of(" \t\r");
     return begin != std::string::npos && line[begin] == '{';
@@ -83,16 +83,17 @@ PersonInput ParseJson(const std::string &line) {
         throw Refusal(u"not a JSON object, and the first line is no CSV header; "_s +
                       allowedMembers);
     rapidjson::Document document;
-    // Iteratively: a line nested without measure must not exhaust the stack.
+    // Iteratively, because a line of a million brackets must not exhaust the stack.
     document.Parse<rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag>(
         line.data(), line.size());
     if (document.HasParseError())
         throw Refusal(
-            u"not JSON: %1 (at character %2)"_s
+            u"not JSON: %1 (at byte %2)"_s
                 .arg(QString::fromUtf8(rapidjson::GetParseError_En(document.GetParseError())))
                 .arg(document.GetErrorOffset() + 1));
 
     PersonInput person;
+    std::vector<QString PersonInput::*> given;
     // By index: the library's iterators do not compare in C++20 as a range loop wants.
     for (rapidjson::SizeType index = 0; index < document.MemberCount(); ++index) {
         const auto &member = *(document.MemberBegin() + index);
@@ -101,6 +102,9 @@ PersonInput ParseJson(const std::string &line) {
         QString PersonInput::*input = InputNamed(bytes);
         if (input == nullptr)
             throw Refusal(u"the member \"%1\" is not allowed; %2"_s.arg(name, allowedMembers));
+        if (std::ranges::find(given, input) != given.end())
+            throw Refusal(u"the member \"%1\" stands there twice; give it once"_s.arg(name));
+        given.push_back(input);
         const auto value = Value(member.value);
         if (!value)
             throw Refusal(

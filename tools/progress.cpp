@@ -36,7 +36,7 @@ void Progress::Clear() {
     drawn_ = false;
 }
 
-void Progress::MakeRoomForOutput() {
+void Progress::ClearForOutput() {
     if (outputIsTerminal_)
         Clear();
 }

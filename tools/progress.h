@@ -15,11 +15,13 @@ public:
     /// Shows that `bytes` of the input and `people` are done; draws a few times a second.
     void Show(long long bytes, long long people);
 
-    /// Takes the bar away, so that a message can be written in its place.
+    /// Takes the bar away. To be called before a message on standard error, which would
+    /// otherwise stand behind the bar on the same line.
     void Clear();
 
-    /// The same before a line on standard output, if that is the terminal too.
-    void MakeRoomForOutput();
+    /// Takes the bar away if standard output goes to a terminal too. To be called before a
+    /// line is written there.
+    void ClearForOutput();
 
 private:
     const long long total_;

@@ -32,7 +32,8 @@ std::vector<std::u16string_view> AllCaptions();
 /// Reading; empty for anything else. The view lives as long as the program.
 std::u16string_view KnownCaption(std::u16string_view caption);
 
-/// Reads `person` for the present day, which stands still meanwhile, on a fresh store. Renders
-/// the topics of `captions`, which are known ones, in their order.
+/// Reads `person` for the present day, on a fresh store. Renders the topics of `captions`,
+/// which KnownCaption or AllCaptions gave, in their order. One day holds for all of them, even
+/// when midnight passes meanwhile.
 PersonReading ReadPerson(const modReadings::UserProfile &person,
                          std::span<const std::u16string_view> captions);

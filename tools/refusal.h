@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <exception>
+#include <utility>
 
 /// How the program ends.
 enum class ExitCode {

@@ -11,7 +11,7 @@
 /// `text` in UTF-8; a surrogate without its partner becomes U+FFFD.
 std::string ToUtf8(std::u16string_view text);
 
-/// The same without a copy, until the next call of either.
+/// The same as a view into a buffer, which the next call of this or ToUtf8 overwrites.
 std::string_view AsUtf8(std::u16string_view text);
 
 /// `bytes` as text, or nothing when they are not UTF-8.
@@ -21,7 +21,7 @@ std::optional<QString> FromUtf8(std::string_view bytes);
 /// quotes what it was given stays one line and does nothing to a terminal.
 std::string OneLine(const QString &text);
 
-/// What a message shows of a text that it was given: all of a short one, and of a longer
-/// one the first and the last characters with "..." between, sixty in all. A surrogate pair
-/// is kept or left out whole.
+/// What a message shows of a text that it quotes: all of it up to sixty characters, and of a
+/// longer one the beginning and the end with "..." between, sixty in all. A surrogate pair is
+/// kept or left out whole.
 QString Excerpt(const QString &text);

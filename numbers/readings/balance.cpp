@@ -7,7 +7,7 @@ constexpr Reading rows[] = {
     {1,
      u"Though you have the confidence and capability to handle a situation in an effective "
      u"manner, you should give value to the opinion of those who have to live with your "
-     u"decision. When something goes wrong you say \"leave it to me\", and between the chair and "
+     u"decision. When something goes wrong you say \"leave it to me,\" and between the chair and "
      u"the door your mind is made up. For the first hour this is a blessing to everybody. Then "
      u"it turns out that a fact was missing, and the person who had it was told not to "
      u"interrupt. Hurt, in your case, comes out as anger: the voice rises, the sentences get "
@@ -17,8 +17,8 @@ constexpr Reading rows[] = {
      u"who is not afraid of you, and ask what you have left out. Listen until they stop, and "
      u"do not correct them on the way there. You remain free to do exactly as you planned, and "
      u"one time in three you no longer want to. If you have already charged ahead and were "
-     u"wrong, five words on the same day will mend most of it. They cost you a red face, and "
-     u"they spare everyone the labor of pretending not to have noticed."},
+     u"wrong, go back the same day and say so in five words. It costs you a red face, and it "
+     u"spares everyone the labor of pretending not to have noticed."},
     {2, u"You let others influence and lead you in difficult times. Whoever comes through the "
         u"door first with a firm voice takes the trouble into their own hands, and you let them "
         u"have it with a sigh of relief. By evening you have agreed to a step that suits their "
@@ -40,7 +40,7 @@ constexpr Reading rows[] = {
         u"five friends have had the performance, with voices and gestures, and the villain of the "
         u"piece has heard nothing. Face to face you go off in all directions. You start with the "
         u"forgotten ticket, pass on to last New Year, to a rude uncle, to the words \"always\" and "
-        u"\"never\", and your opponent picks the weakest of them and wins. Or else you take flight "
+        u"\"never,\" and your opponent picks the weakest of them and wins. Or else you take flight "
         u"into some amusement, turn the music up, call everyone you know, and are the merriest of "
         u"the company with a lump in your throat. Choose the one complaint that would still "
         u"matter a week from now. Say it without a funny face, in a sentence too short for "
@@ -50,8 +50,8 @@ constexpr Reading rows[] = {
         u"stand to see you cross or tired, and some of them have been hoping for a turn to cheer "
         u"you up."},
     {4, u"You are emotional and fail to view situations and solve problems in a practical way. On "
-        u"good days nobody would guess it. But after a harsh word, or when a plan collapses on "
-        u"which you had counted, all the feeling goes into your arms: the garage is swept, the "
+        u"good days nobody would guess it. But after a harsh word, or when somebody you counted "
+        u"on has let you down, all the feeling goes into your arms: the garage is swept, the "
         u"tools are hung in order of size, and the trouble itself lies where it fell. When you do "
         u"turn to it, you fasten on the exact words that were used and on what was agreed in the "
         u"beginning. About these you are usually right, and you go on being right, with a "
@@ -88,7 +88,7 @@ constexpr Reading rows[] = {
      u"all at the same time.\r\n"
      u"Being loved does not rid you of anger, which comes late and sideways. The stairs are "
      u"climbed with a heavy tread, you say \"never mind me\" in a voice that can be heard "
-     u"upstairs, and at last, over some trifle, out comes \"after all I have done for you\". The "
+     u"upstairs, and at last, over some trifle, out comes \"after all I have done for you.\" The "
      u"list that follows is long and correct. But nobody knew it was being kept, and those who "
      u"would gladly have done their share feel tricked into a debt. Every offer of help has "
      u"been waved away, and you think poorly of whoever believed you. When somebody has hurt "
@@ -115,7 +115,7 @@ constexpr Reading rows[] = {
         u"know, which is that it hurt. That much needs no evidence. The next thing to find out is "
         u"which of your explanations is right. As a rule it is one you had not thought of, and "
         u"your curiosity gets the better of your pride."},
-    {8, u"People with balance number 8 lack patience. As one of them you take pressure for a "
+    {8, u"People with balance number 8 lack patience. As one of them you take trouble for a "
         u"signal to grip harder: you cut into the explanation, tell everyone what to do, and do "
         u"two of the jobs yourself before they have found a pen. In an emergency that is just "
         u"what is wanted, and you are thanked for it. With a grieving friend or a sulking child "

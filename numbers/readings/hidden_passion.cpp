@@ -5,12 +5,12 @@ namespace modReadings::readings {
 namespace {
 constexpr Reading rows[] = {
     {1, u"People of this number are very creative and artistic. Whatever passes through your "
-        u"hands comes out as yours: you change a recipe the first time you cook it, and cannot "
+        u"hands comes out as yours: you improve a game the first time you play it, and cannot "
         u"hear a tune without trying another ending. Starting is the talent you use most. The "
         u"blank page that frightens others is a holiday for you, and you have a better name for a "
         u"shop before buying anything in it. So well used a talent does not always wait to be "
-        u"asked. It takes the pencil from a slower hand and does over a present that somebody "
-        u"else has wrapped. \"This one is mine,\" says the slower hand at last, and you fold your "
+        u"asked. It takes the scissors from a slower hand and does over a poster that somebody "
+        u"else has begun. \"This one is mine,\" says the slower hand at last, and you fold your "
         u"arms, suffer a bit, and see it arrive by another road."},
     {2, u"You are a selfless individual. Your talent is so quiet that you scarcely count it as "
         u"one: you feel the temperature of a household as the door opens, and you know which two "
@@ -40,11 +40,11 @@ constexpr Reading rows[] = {
         u"would not be without you, since nobody else knows where the tickets are."},
     {5, u"You are unconventional and would like to do things in new and different ways. There are "
         u"several ways home and you take them by mood. In a foreign town you are bargaining in "
-        u"bad grammar, with both hands, while your companions are still searching the phrase "
-        u"book. Trying is your habit, and one clumsy attempt teaches you more than a course of "
-        u"lessons. At times it overshoots: a method that worked goes out with the dull one, and "
-        u"the bread machine gathers dust behind the paints. Years later you dig it out to give "
-        u"away, try it once for fun, and find it new enough the second time."},
+        u"bad grammar and good humor while your companions are still searching the phrase book. "
+        u"Trying is your habit, and one clumsy attempt teaches you more than a course of lessons. "
+        u"At times it overshoots: a recipe that worked goes out with the dull one, and the bread "
+        u"machine gathers dust behind the paints. Years later you dig it out to give away, try it "
+        u"once for fun, and find it new enough the second time."},
     {6, u"You like to be with your near and dear ones and would do anything for them. Looking "
         u"after them is second nature: you drive an uncle to the station at five, teach the "
         u"neighbor's boy fractions, carry soup across the street. Unluckily you also decide who "
@@ -55,28 +55,28 @@ constexpr Reading rows[] = {
      u"You are a very curious person. \"It just is\" has never satisfied you; as soon as a thing "
      u"is explained you want to look behind it. You ask the guide about the room that is not "
      u"shown, and go on looking things up until it is one in the morning and the subject is "
-     u"the history of salt. Colleagues bring you the fault that nobody can trace. Where "
-     u"something has to be booked, the habit is too thorough, since no room is taken while one "
-     u"more opinion is unread, and by then the rooms are gone. It is also hard to be loved by "
-     u"an examiner. After three whys about a remark at breakfast a partner feels put on the "
-     u"witness stand, though you were merely interested. Set a limit for the search ahead of "
-     u"time and keep to it. At home, trade: for every question that you put, tell something "
-     u"about yourself that nobody has dug for."},
-    {8, u"People of this number are born leaders. Ten minutes after you reach a picnic one guest "
+     u"the history of salt. Colleagues bring you the fault that nobody can trace. The habit "
+     u"has cost you a vacation or two, since no room is booked while one more opinion is "
+     u"unread, and by then the rooms are gone. It is also hard to be loved by an examiner. A "
+     u"partner who mentions an old friend gets three whys in a row and feels put on the "
+     u"witness stand, though you were merely interested. At home a trade works better, for "
+     u"each question one thing about yourself that nobody has dug for. Then it is one in the "
+     u"morning again, and this time there are two of you."},
+    {8, u"People of this number are born leaders. Ten minutes after you reach a cookout one guest "
         u"is fetching ice, another is at the grill, and everything is ready on time. You count "
         u"heads at every table, and a shy guest is given a task before the shyness has time to "
         u"set in. All this is so habitual that you do it on your day off. Friends begin to feel "
         u"employed, and you lie stiffly in a hammock, as if someone were paying you for it. The "
         u"day you come as a plain guest they forget the ice, and a dog gets a steak. It is the "
-        u"picnic that everybody remembers, you included, since you sat down for it."},
+        u"cookout that everybody remembers, you included, since you sat down for it."},
     {9, u"You are born with the inborn trait of serving mankind. When somebody absent is being "
-        u"picked to pieces, you are the one who speaks up for them. On a train you end up holding "
-        u"somebody's baby, or reading out a form to a man who has forgotten his glasses. You "
-        u"grasp quickly how a thing looks from far off, and can pity even the one who has wronged "
-        u"you. So quick a habit does not stop to look, and people have been helped across a "
-        u"street that they did not mean to cross. Most forgive you while they wait for the light "
-        u"to change back. There is one party for whom you never put in a word, and friends have "
-        u"begun to do it for you, having learned it from you."},
+        u"picked to pieces, you are the one who speaks up for them. On a train you end up "
+        u"guarding somebody's bags, or reading out a form to a man who has forgotten his glasses. "
+        u"You grasp quickly how a thing looks from far off, and can pity even the one who has "
+        u"wronged you. So quick a habit does not stop to look, and people have been helped across "
+        u"a street that they did not mean to cross. Most forgive you while they wait for the "
+        u"light to change back. There is one party for whom you never put in a word, and friends "
+        u"have begun to do it for you, having learned it from you."},
 };
 } // namespace
 

@@ -8,14 +8,14 @@ constexpr Reading rows[] = {
     {1, u"This is the time when you should set your own goals and devote your whole attention and "
         u"resources in achieving those goals. These years have you decide alone, often early and "
         u"on too little knowledge, and they leave you hard to discourage. At home the habit is "
-        u"less welcome. People who hear of a move once the truck is hired feel like luggage. Told "
-        u"a month sooner, the same people carry boxes."},
+        u"less welcome. People who hear of a move once the truck is rented feel like luggage. "
+        u"Told a month sooner, the same people carry boxes."},
     {2, u"This is the period when you need to show patience and work in a steady pace towards "
-        u"your goals. Little is gained by force. You spend years beside a stronger or louder "
-        u"person, doing the careful work, and most of what you know of people is learned there. "
-        u"So much giving way leaves its mark, and you go on working to that person's taste after "
-        u"they have left. The day comes when you pick a color or a phrase because it is yours, "
-        u"and nobody minds."},
+        u"your goals. Few of the goals are yours alone, for these years go by in twos. You are "
+        u"the half that listens, and the pair of you get by waiting what neither could force. "
+        u"Waiting can also become a habit: an answer that was ready in spring is still ready in "
+        u"the fall, because nobody asked. You do best beside a person who turns around and wants "
+        u"to know."},
     {3, u"This is the time when you work and think in a mature manner and achieve success in your "
         u"different ventures. Nearly all of them pass through your mouth, your pen or your hands: "
         u"you persuade, entertain, teach a room, make things that people like to look at. It "
@@ -23,9 +23,9 @@ constexpr Reading rows[] = {
         u"meet your own idea under another name. Maturity here is to sign what you make and to "
         u"remember that a room that laughs has not yet agreed to anything. The party after the "
         u"signature is the better one."},
-    {4, u"It's a time to set goals for the future and work hard to realize the goals. Progress "
-        u"comes by the inch and stays where you put it. What goes missing is play, since a game "
-        u"can always wait. Those who drag you to the lake anyway are remembered longest."},
+    {4, u"It's a time to set goals for the future and work hard to realize the goals. The work "
+        u"goes brick by brick, and each stays where you laid it. What gets put off until the wall "
+        u"is done is play. Those who drag you to the lake anyway are remembered longest."},
     {5, u"This is a time when you will face many changes in your life and adapt to them. Towns, "
         u"trades and circles of friends follow each other, and you are at home in the new one "
         u"within a month. Depth is not included: you know forty people by their first names and "
@@ -41,29 +41,31 @@ constexpr Reading rows[] = {
         u"you are busy with a pleasure of your own."},
     {7, u"You will be attracted towards various fields. Underneath is a single search: you want "
         u"to know how a thing works and if what is said about it is true. An hour with an expert "
-        u"flies, an afternoon of mere company drags, and people who came just to see you go home "
-        u"feeling graded. A few stay for the whole explanation and become friends for life. Late "
-        u"in the period the fields begin to meet, and you see in one what its own experts missed."},
+        u"flies, an afternoon of small talk drags, and those who came just for you look at the "
+        u"back of your head. A few stay for the whole explanation and become friends for life. "
+        u"Late in the period the fields begin to meet, and you see in one what its own experts "
+        u"missed."},
     {8, u"This is the right time to learn from the mistakes you have made and start things on a "
-        u"new way. Most were mistakes of judgment: you trusted the wrong person, or pressed a "
-        u"good one too hard. Then you are given charge of a team or of the affairs of a family, "
-        u"and find that you can run it. The change shows in the hour after a mistake. It used to "
-        u"go into proving that anyone would have made it. Now \"that was mine\" takes a minute and "
-        u"leaves the rest for repairs."},
+        u"new way. Most are mistakes of command, since these years sooner or later put you over "
+        u"something, a team, a budget, the affairs of a family. You back the wrong person, or "
+        u"press a good one until they leave, and the figures show it. They show as well that you "
+        u"can run it. People will follow a hard judge a long way, once they have seen the first "
+        u"verdict fall on the judge."},
     {9, u"This is the time to devote yourself to the service of others. You are drawn into causes "
         u"that outlast your part in them, and some of your work goes on under other people's "
         u"names. Places and friendships pass, and you find that you can bear it. Other people's "
-        u"troubles are also a fine place to hide your own. A friend who asks twice how you are is "
-        u"worth a whole committee."},
+        u"troubles are also a fine place to hide your own. Good friends know the place, and knock "
+        u"from time to time."},
     {11, u"You have gone through many experiences in life and learnt from them. They went in "
-         u"deeper than they did with the people beside you, and you are still finding out what "
-         u"some of them meant. It makes you good company for anyone in the same spot: you say what "
-         u"it was like, and they sleep better. They sleep less well when you draw a rule from it "
-         u"for everybody. Told plainly, the story does its work, whatever it proves or does not."},
+         u"deeper than with the people beside you; a look between two strangers has taught you "
+         u"more than a move abroad teaches some. So you have a sense for what is true, and others "
+         u"begin to steer by it. You utter half a thought and somebody changes course, which is "
+         u"hard on the nerves. Told merely as your own story, it leaves them free and lets you "
+         u"sleep."},
     {22, u"People with this Life Path period have their whole concentration on the task at hand "
-         u"and the different ways to achieve it. With you the task is large and serves people you "
-         u"will never meet. It can deafen you to the ones in the room. A sound plan survives being "
-         u"put down for a meal."},
+         u"and the different ways to achieve it. The task is the size of a town, and you see it "
+         u"built, down to the drains. The room you sit in has given up asking. Sound plans can "
+         u"spend a Sunday rolled up."},
 };
 } // namespace
 

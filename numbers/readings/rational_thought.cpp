@@ -8,7 +8,7 @@ constexpr Reading rows[] = {
         u"a first sketch lies on the table before the question has been fully stated, and you "
         u"improve it as you go. That a thing has always been done one way is reason enough for "
         u"you to look for another. Checking the proof bores you, and an idea seems truer if it is "
-        u"your own, so the advice you fought at breakfast is back by supper as your discovery. "
+        u"your own, so the advice you let pass at breakfast is back by supper as your discovery. "
         u"The plans that last are those that somebody was allowed to attack for ten minutes, "
         u"while you kept quiet and took notes."},
     {2, u"People of this rational number like to discuss things in detail with others before "
@@ -20,9 +20,9 @@ constexpr Reading rows[] = {
     {3, u"People with rational thought number 3 have a creative bend of mind. Your thoughts come "
         u"as pictures and comparisons, and you often understand a problem only on hearing "
         u"yourself tell it to a friend. A talk about the leaking gutter ends in plans for a "
-        u"puppet theater, while the gutter goes on dripping. You persuade easily, and the first "
-        u"to be persuaded is you, since a thing well said sounds true to you. Where the joke is "
-        u"best, a fact has usually been left out to make room for it."},
+        u"puppet theater, while the gutter goes on dripping. You persuade easily, and while you "
+        u"talk the first to be persuaded is you, since a thing well said sounds true. Alone "
+        u"again, you find the fact that was left out to make room for the joke."},
     {4, u"People of this rational thought number are full of different ideas. Yours arrive with "
         u"measurements attached: before you agree to move, you have counted the boxes and paced "
         u"off the hall. You reason step by step, and a leap in another person's argument bothers "
@@ -35,8 +35,8 @@ constexpr Reading rows[] = {
         u"the road, you want to know why everybody drives at eight. You think with your hands, "
         u"and three wrong answers that were tried out teach you more than a right one in a book. "
         u"The next attempt would be nearly right, and is therefore dull, so it stays on your desk "
-        u"with a step missing. Beside a friend who is fond of last steps, you are half of a "
-        u"first-rate mind."},
+        u"with a step missing. In other people's puzzles, oddly, the missing step is the first "
+        u"thing you see."},
     {6, u"People with rational thought number 6 tend to go into great details regarding any "
         u"matter. You think a vacation through as far as who sits next to whom in the car. Care "
         u"makes you thorough and also partial: the same argument weighs more coming from a friend "
@@ -59,10 +59,10 @@ constexpr Reading rows[] = {
         u"whole before the parts and judge a decision by whom it leaves worse off, strangers "
         u"included. A plan that treats somebody shabbily is to you a bad plan. In a dispute you "
         u"can tell how it will look in ten years, which cools the hotheads. From that height, "
-        u"though, the choice between two paints hardly seems to want an answer, and somebody is "
-        u"standing there with a brush. Your mood has a vote as well. A cause that was hopeless in "
-        u"the rain is possible in sunshine, and your verdicts on the whole human race are mostly "
-        u"passed on an empty stomach."},
+        u"though, the choice between two doorknobs hardly seems to want an answer, and somebody "
+        u"is standing there holding both. Your mood has a vote as well. A cause that was hopeless "
+        u"in the rain is possible in sunshine, and your verdicts on the whole human race are "
+        u"mostly passed on an empty stomach."},
     {11, u"People with this rational thought number are spiritually inclined as well as dynamic in "
          u"nature but they may not be well able to explain how they came by an answer. It reaches "
          u"you whole, in the bath or in the middle of another person's sentence, and you collect "

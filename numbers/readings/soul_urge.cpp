@@ -7,7 +7,7 @@ namespace {
 constexpr Reading rows[] = {
     {1, u"People with Soul Urge number 1 are satisfied when they succeed in any type of "
         u"competition. You look quite calm at the card table, yet inwardly you are counting, and "
-        u"the count goes on in traffic, in conversation and over who telephoned whom. What you "
+        u"the count goes on in traffic, in conversation and over who called whom first. What you "
         u"long for is to be first in something and to have got there by your own strength. A "
         u"prize won by the team is pleasant; a prize with your name on it can be looked at on bad "
         u"days. The wish is often well hidden, since pushing is thought rude, and you satisfy it "
@@ -40,7 +40,7 @@ constexpr Reading rows[] = {
      u"pleasure: to see a face light up at something you made and to know that you caused it.\r\n"
      u"You need lightness as a plant needs a window. Gloomy people weigh on you like a wet "
      u"coat, and a house where meals are eaten in silence drives you to the telephone. Should "
-     u"life have put you into a serious post, the wish comes out sideways, in bright socks or "
+     u"life have put you into a serious job, the wish comes out sideways, in bright socks or "
      u"in singing when the building is empty. It has its dark corner too. To be overlooked "
      u"hurts you more than to be criticized, and in order to be looked at you sometimes "
      u"interrupt, or give another person's story a better ending than it had. Nor does the "
@@ -91,8 +91,8 @@ constexpr Reading rows[] = {
         u"your own, which will have to be returned and so means another visit.\r\n"
         u"Afterward comes the waiting, which is harder. You say that it was nothing, and you "
         u"remember who took you at your word. A forgotten thank-you can live in you for a season, "
-        u"coming out as a sigh over the sink or a remark about how easy some people have it. You "
-        u"also love by suggestion, and feel rejected yourself when someone keeps the sofa you "
+        u"coming out as a sigh over the laundry or a remark about how easy some people have it. "
+        u"You also love by suggestion, and feel rejected yourself when someone keeps the rug you "
         u"spoke against.\r\n"
         u"The favors that leave no soreness behind are those you would have done for a person who "
         u"would never find out. You know which they are, for with the others you have already "
@@ -111,9 +111,8 @@ constexpr Reading rows[] = {
         u"the liking until it is cold.\r\n"
         u"Being seen in the middle of not knowing is what you are afraid of, and it is also the "
         u"only way that anyone gets in. One friend and one unfinished thought would be enough. "
-        u"The great questions like to reply when you have stopped asking, through music, a hill "
-        u"or a sleeping animal. Some of what you are looking for does not come in the form of "
-        u"proof."},
+        u"The great questions open when you have stopped asking, over music, on a hill or beside "
+        u"a sleeping animal. Some of what you are looking for does not come in the form of proof."},
     {8, u"People with destiny number 8 tend to get satisfaction from financial and material "
         u"achievements. As an inner wish it is about having an effect: you want your signature to "
         u"change what happens, and you want to see the result standing there.\r\n"
@@ -123,8 +122,8 @@ constexpr Reading rows[] = {
         u"find it hard to be given to, and a present that is too large makes you uneasy until it "
         u"has been matched. At rest on a beach, you estimate what the ice cream stand takes in a "
         u"day. Nothing is wrong with that, but your partner meanwhile would like to be looked at "
-        u"without being appraised. When you feel small, you grow loud over a waiter or a late "
-        u"delivery, and are ashamed by the time the coffee comes.\r\n"
+        u"without being appraised. When you feel small, you are cutting to a waiter or over a "
+        u"late delivery, and are ashamed of it by dessert.\r\n"
         u"Accept the large present and say only thank you. For one evening you are in debt, and "
         u"all that you have built still stands in the morning."},
     {9, u"People with Soul Urge number 9 get satisfaction by helping others in their problems. "
@@ -138,8 +137,8 @@ constexpr Reading rows[] = {
         u"someone would ask how you are and not be satisfied with the first answer. When nobody "
         u"does, you go silent in a way that is meant to be noticed. Your sleep returns when you "
         u"put up a fence yourself, around two or three troubles, and trust that the rest have "
-        u"found somebody as kind. Once rested you forgive quickly and completely, and people whom "
-        u"you had struck off are on the list again."},
+        u"found somebody as kind. Once rested you forgive nearly everything, and people whom you "
+        u"had struck off are on the list again."},
     {11, u"Master number 11 has resemblance with number 2. You want to achieve love, peace and "
          u"harmony in life. Resolving troubles by means of mediation and tact produces a warm "
          u"sense of accomplishment. You are a visionary and peacemaker by birth. You are "

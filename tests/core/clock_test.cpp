@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <string>
@@ -10,55 +9,42 @@
 namespace modReadings {
 namespace {
 
-using std::chrono::day;
 using std::chrono::days;
-using std::chrono::month;
 using std::chrono::sys_days;
 using std::chrono::year;
 using std::chrono::year_month_day;
 
-TEST(FixedClock, ShowsYearMonthAndDayOfItsDate) {
-    const FixedClock clock(year(2026) / 11 / 16);
-    EXPECT_EQ(Clock::Year(), 2026);
-    EXPECT_EQ(Clock::Month(), 11);
-    EXPECT_EQ(Clock::Day(), 16);
-    EXPECT_EQ(Clock::Date(), year(2026) / 11 / 16);
-}
-
-TEST(FixedClock, CanBeSetToAnotherDate) {
+TEST(FixedClock, CanBeSetAndAdvanced) {
     FixedClock clock(year(2026) / 11 / 16);
-    clock.Set(year(1900) / 1 / 1);
-    EXPECT_EQ(Clock::Date(), year(1900) / 1 / 1);
-    EXPECT_EQ(Clock::Year(), 1900);
-}
-
-TEST(FixedClock, AdvancesByWholeDays) {
-    FixedClock clock(year(2026) / 12 / 31);
+    EXPECT_EQ(Clock::Date(), year(2026) / 11 / 16);
+    clock.Set(year(2026) / 12 / 31);
     clock.Advance(1);
     EXPECT_EQ(Clock::Date(), year(2027) / 1 / 1);
     clock.Advance(-1);
     EXPECT_EQ(Clock::Date(), year(2026) / 12 / 31);
-    clock.Set(year(2028) / 2 / 28);
-    clock.Advance(1);
-    EXPECT_EQ(Clock::Date(), year(2028) / 2 / 29); // a leap year
-    clock.Advance(366);
-    EXPECT_EQ(Clock::Date(), year(2029) / 3 / 1);
 }
 
-TEST(FixedClock, ShowsEveryDayOfALeapYear) {
+TEST(FixedClock, ShowsYearMonthAndDayOfEveryDayOfALeapYear) {
     FixedClock clock(year(2028) / 1 / 1);
     constexpr int monthLengths[] = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    int16 monthNumber = 0;
-    for (const int length : monthLengths) {
-        ++monthNumber;
-        for (int dayNumber = 1; dayNumber <= length; ++dayNumber) {
+    for (int month = 1; month <= 12; ++month) {
+        for (int day = 1; day <= monthLengths[month - 1]; ++day) {
             EXPECT_EQ(Clock::Year(), 2028);
-            EXPECT_EQ(Clock::Month(), monthNumber);
-            EXPECT_EQ(Clock::Day(), dayNumber);
+            EXPECT_EQ(Clock::Month(), month);
+            EXPECT_EQ(Clock::Day(), day);
             clock.Advance(1);
         }
     }
     EXPECT_EQ(Clock::Date(), year(2029) / 1 / 1);
+}
+
+TEST(FixedClock, GivesWayToTheClockBeforeIt) {
+    const FixedClock outer(year(1900) / 1 / 1);
+    {
+        const FixedClock inner(year(2026) / 11 / 16);
+        EXPECT_EQ(Clock::Year(), 2026);
+    }
+    EXPECT_EQ(Clock::Date(), year(1900) / 1 / 1);
 }
 
 /// Shows the next day at every look.
@@ -88,64 +74,35 @@ TEST(Clock, ReadsYearMonthAndDayByCallsOfTheirOwn) {
     EXPECT_EQ(Clock::Date(), year(2027) / 1 / 3);
 }
 
-TEST(FixedClock, GivesWayToTheClockBeforeIt) {
-    const FixedClock outer(year(1900) / 1 / 1);
-    {
-        const FixedClock inner(year(2026) / 11 / 16);
-        EXPECT_EQ(Clock::Year(), 2026);
-    }
-    EXPECT_EQ(Clock::Date(), year(1900) / 1 / 1);
-}
-
-year_month_day LocalDate() {
-    const std::time_t now = std::time(nullptr);
-    const std::tm local = *std::localtime(&now);
-    return {year(local.tm_year + 1900), month(static_cast<unsigned>(local.tm_mon + 1)),
-            day(static_cast<unsigned>(local.tm_mday))};
-}
-
-TEST(Clock, IsTheSystemClockAgainWhenAFixedOneIsGone) {
-    { const FixedClock clock(year(1900) / 1 / 1); }
-    const year_month_day before = LocalDate();
-    const year_month_day shown = Clock::Date();
-    const year_month_day after = LocalDate();
-    EXPECT_TRUE(before <= shown && shown <= after);
-}
-
-/// Sets the time zone of the process for as long as it lives.
-class TimeZone {
-public:
-    explicit TimeZone(const char *zone) {
-        if (const char *old = std::getenv("TZ"))
-            old_ = old;
-        setenv("TZ", zone, 1);
-        tzset();
-    }
-    ~TimeZone() {
-        if (old_.empty())
-            unsetenv("TZ");
-        else
-            setenv("TZ", old_.c_str(), 1);
-        tzset();
-    }
-    TimeZone(const TimeZone &) = delete;
-    TimeZone &operator=(const TimeZone &) = delete;
-
-private:
-    std::string old_;
-};
-
+/// The system clock's date in a time zone, which is set back behind it.
 year_month_day DateIn(const char *zone) {
-    const TimeZone there(zone);
-    return Clock::Date();
+    const char *const old = std::getenv("TZ");
+    const std::string before = old != nullptr ? old : "";
+    setenv("TZ", zone, 1);
+    tzset();
+    const year_month_day date = Clock::Date();
+    if (old != nullptr)
+        setenv("TZ", before.c_str(), 1);
+    else
+        unsetenv("TZ");
+    tzset();
+    return date;
 }
 
-TEST(Clock, ShowsTheLocalDate) {
+TEST(Clock, IsTheSystemsLocalOneWhereNoOtherIsFixed) {
+    { const FixedClock clock(year(1900) / 1 / 1); }
+    const auto localDate = [] {
+        const std::time_t now = std::time(nullptr);
+        const std::tm local = *std::localtime(&now);
+        return sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday);
+    };
+    const sys_days before = localDate();
+    const sys_days shown = Clock::Date();
+    EXPECT_TRUE(before <= shown && shown <= localDate());
+
     // 26 hours lie between these two zones, so they never share a date.
-    const sys_days west = DateIn("WEST12");
-    const sys_days east = DateIn("EAST-14");
-    EXPECT_GE(east - west, days(1));
-    EXPECT_LE(east - west, days(2));
+    const sys_days west = DateIn("WEST12"), east = DateIn("EAST-14");
+    EXPECT_TRUE(east - west == days(1) || east - west == days(2));
 }
 
 } // namespace

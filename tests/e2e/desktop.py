@@ -115,8 +115,9 @@ class Desktop:
             "DBUS_SYSTEM_BUS_ADDRESS": f"unix:path={self.folder}/no-system-bus",
             "CUPS_SERVER": str(self.folder / "no-cups.sock"),
         }
-        if "TZ" in os.environ:
-            self.env["TZ"] = os.environ["TZ"]
+        for kept in ("TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
+            if kept in os.environ:
+                self.env[kept] = os.environ[kept]
         if self.user is not None:
             for path in (self.home, self.home / "Documents", self.folder / "runtime", self.opened):
                 os.chown(path, self.user, self.user)

@@ -1,69 +1,35 @@
 """The running program, and what a user does with it by mouse and keyboard."""
 
+import csv
+import pathlib
 import unittest
 
 from readings import expected_runs, plain_text, today
 from waiting import wait_for
 
-# --- Where the controls stand: left, top, width, height in twips, from the window's client area
-
-_page = (4730, 840)
-_name = (_page[0] + 120, _page[1] + 1020)
-_birth = (_page[0] + 120, _page[1] + 2760)
+TABLES = pathlib.Path(__file__).parents[1] / "shell"  # shared with the tests of the window
 
 
-def _on(origin, left, top, width, height):
-    return (origin[0] + left, origin[1] + top, width, height)
+def _table(name):
+    with open(TABLES / name, encoding="utf-8", newline="") as lines:
+        return list(csv.DictReader(lines))
 
 
-PLACES = {
-    "picExit": (8490, 100, 660, 585),
-    "picHelp": (7680, 100, 660, 585),
-    "TV": (200, 840, 4450, 5200),
-    "lblHyperlink": (6600, 6195, 2535, 255),
-    "Page": (4730, 840, 4450, 5200),
-    "picProceed": _on(_page, 3075, 4680, 1260, 390),
-    "txtFirstName": _on(_name, 1440, 360, 2500, 285),
-    "txtMiddleName": _on(_name, 1440, 840, 2500, 285),
-    "txtLastName": _on(_name, 1440, 1320, 2500, 285),
-    "cboMonth": _on(_birth, 1440, 240, 1455, 315),
-    "cboDate": _on(_birth, 1440, 720, 855, 315),
-    "cboYear": _on(_birth, 1440, 1200, 975, 315),
-    "RTB": _on(_page, 120, 120, 4215, 4455),
-    "RTB text": _on(_page, 180, 180, 4095, 4335),  # within the frame that shows the focus
-    "picPrint": _on(_page, 1800, 4680, 1260, 390),
-    "picSave": _on(_page, 3075, 4680, 1260, 390),
-    "lblHelp0": _on(_page, 240, 120, 1110, 195),
-    "lblHelp1": _on(_page, 240, 1320, 1395, 195),
-    "lblAbout2": _on(_page, 240, 3000, 1500, 195),
-}
+def _places():
+    """Where the controls stand: left, top, width, height in twips, from the client area."""
+    places = {"": (0, 0, 0, 0)}
+    for row in _table("places.csv"):
+        left, top = places[row["container"]][:2]
+        places[row["name"]] = (left + int(row["left"]), top + int(row["top"]), int(row["width"]),
+                               int(row["height"]))
+    return places
+
+
+PLACES = _places()
 CLIENT = (626, 440)  # 9390 by 6600 twips, 15 to the pixel
 TWIPS_TO_PIXEL = 15
 
-TOPICS = [
-    "Personal Month",
-    "Hidden Passion Number",
-    "Life Path Periods",
-    "Personal Year",
-    "Pinnacle Phases",
-    "Subconscious Self Number",
-    "Life Path Number",
-    "Destiny / Expressions Number",
-    "Karmic Lessons Number",
-    "Birthday Number",
-    "Challenge Number",
-    "Karmic Debt Numbers",
-    "Balance Number",
-    "Personal Day",
-    "Rational Thought Number",
-    "H/P Bridge Number",
-    "L/E Bridge Number",
-    "Essence",
-    "Realization / Maturity Number",
-    "Inner Dreams / Personality Number",
-    "Planes Of Expression / Personal Aspects",
-    "Soul Urge / Heart's Desire Number",
-]
+TOPICS = [row["caption"] for row in _table("topics.csv")]
 COMPREHENSIVE = "Comprehensive Reading"
 
 # The rows of the tree once a report is open: the user branch is closed, the other open.
@@ -84,7 +50,7 @@ class Program:
         self.window = wait_for("the program's window", self._mapped_window)
         self.left, self.top, self.width, self.height = desktop.geometry(self.window)
         self.menu_height = self.height - round(CLIENT[1] * scale)
-        wait_for("the window to be painted", lambda: self.part("Page").colours()[PAGE_COLOUR] > 100)
+        wait_for("the window to be painted", lambda: self.part("Picture1").colours()[PAGE_COLOUR] > 100)
 
     def _mapped_window(self):
         if self.process.poll() is not None:
@@ -114,6 +80,12 @@ class Program:
                                     for twips in PLACES[control])
         return (round(self.left + left), round(self.top + self.menu_height + top), round(width),
                 round(height))
+
+    def box_around(self, control, margin):
+        """The same with so many logical pixels around it, or taken off where negative."""
+        left, top, width, height = self.box(control)
+        margin = round(margin * self.scale)
+        return left - margin, top - margin, width + 2 * margin, height + 2 * margin
 
     def middle(self, control):
         left, top, width, height = self.box(control)

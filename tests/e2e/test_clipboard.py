@@ -8,51 +8,43 @@ from waiting import wait_for
 
 class Clipboard(DesktopTest):
 
-    def test_mouse_over_the_report_empties_it(self):
-        with Desktop("clipboard-mouse") as screen:
-            program = screen.orravane()
-            program.proceed(MARIA)
-            program.move_to("TV")
-            screen.copy_elsewhere("from another program")
-
-            # The mouse elsewhere in the window does no harm.
-            plain = program.part("picSave")
-            for control in ("picExit", "TV", "picPrint", "TV", "picSave"):
-                program.move_to(control)
-            wait_for("the Save button to light up", lambda: program.part("picSave") != plain)
-            self.assertEqual(screen.clipboard(), "from another program")
-
-            program.move_to("TV")  # else this button would get the next move
-            program.move_to("RTB")
-            wait_for("an empty clipboard", lambda: screen.clipboard() is None)
-
-            # A press alone, and a release alone, with the mouse at rest.
-            for action in ("mousedown", "mouseup"):
-                screen.copy_elsewhere(f"before {action}")
-                screen.xdotool(action, 1)
-                wait_for(f"an empty clipboard after {action}",
-                         lambda: screen.clipboard() is None)
-            self.assert_quiet(screen)
-
-    def test_new_report_empties_it(self):
-        with Desktop("clipboard-report") as screen:
+    def test_the_report_empties_the_clipboard(self):
+        with Desktop("clipboard") as screen:
             program = screen.orravane()
             program.proceed(MARIA)
             screen.park_mouse()
+
+            def await_empty(after):
+                wait_for(f"an empty clipboard after {after}", lambda: screen.clipboard() is None)
+
+            # A new report, without any move of the mouse. After Proceed the tree has the
+            # focus, on the first topic.
             screen.copy_elsewhere("from another program")
-            # After Proceed the tree has the focus, on the first topic.
             before = program.part("TV")
             screen.keys("Down")
             wait_for("the next topic to be selected", lambda: program.part("TV") != before)
             self.assertEqual(screen.clipboard(), "from another program")
             screen.keys("Return")
-            wait_for("an empty clipboard", lambda: screen.clipboard() is None)
-            self.assert_quiet(screen)
+            await_empty("a new report")
 
-    def test_copy_by_keyboard_lasts_until_the_mouse_moves(self):
-        with Desktop("clipboard-copy") as screen:
-            program = screen.orravane()
-            program.proceed(MARIA)
+            # The mouse over the report, and nowhere else in the window.
+            screen.copy_elsewhere("from another program")
+            plain = program.part("picSave")
+            for control in ("picExit", "TV", "picPrint", "TV", "picSave"):
+                program.move_to(control)
+            wait_for("the Save button to light up", lambda: program.part("picSave") != plain)
+            self.assertEqual(screen.clipboard(), "from another program")
+            program.move_to("TV")  # else this button would get the next move
+            program.move_to("RTB")
+            await_empty("a move")
+
+            # A press alone, and a release alone, with the mouse at rest.
+            for action in ("mousedown", "mouseup"):
+                screen.copy_elsewhere(f"before {action}")
+                screen.xdotool(action, 1)
+                await_empty(action)
+
+            # What is copied from the report by keyboard lasts until then.
             program.read_topic("Essence", MARIA)
             copied = screen.clipboard()
             self.assertTrue(copied)
@@ -62,7 +54,7 @@ class Clipboard(DesktopTest):
             self.assertEqual(screen.clipboard(), copied)
             program.move_to("TV")
             program.move_to("RTB")
-            wait_for("an empty clipboard", lambda: screen.clipboard() is None)
+            await_empty("a move")
             self.assert_quiet(screen)
 
 

@@ -3,42 +3,23 @@ look would find at once."""
 
 import desktop
 from desktop import Desktop, DesktopTest
-from program import CLIENT, COMPREHENSIVE, GOLD, PAGE_COLOUR, TOPIC_INK, TWIPS_TO_PIXEL
+from program import CLIENT, COMPREHENSIVE, GOLD, PAGE_COLOUR, TOPIC_INK
 from readings import MARIA
 from waiting import wait_for
 
 WHITE = (255, 255, 255)
 
-# Labels: left, top, width, height in twips from their page.
-NAME, BIRTH = (120, 1020), (120, 2760)
-INPUT_LABELS = [
-    (NAME[0] + 90, NAME[1] + 405, 1080, 195),
-    (NAME[0] + 150, NAME[1] + 885, 1095, 195),
-    (NAME[0] + 120, NAME[1] + 1365, 1065, 195),
-    (BIRTH[0] + 210, BIRTH[1] + 300, 510, 195),
-    (BIRTH[0] + 210, BIRTH[1] + 780, 405, 195),
-    (BIRTH[0] + 210, BIRTH[1] + 1260, 390, 195),
-]
-HELP_HEADINGS = [(240, 120, 1110, 195), (240, 1320, 1395, 195), (240, 3000, 1500, 195)]
-HELP_TEXTS = [(240, 360, 3975, 615), (240, 1560, 3975, 975), (240, 3240, 3975, 1815)]
+INPUT_LABELS = ["Label1", "Label4", "Label5", "Label6", "Label3", "Label7"]
+HELP_HEADINGS = ["lblHelp0", "lblHelp1", "lblAbout2"]
+HELP_TEXTS = ["Label15", "Label16", "Label17"]
 
 
 class Screens(DesktopTest):
 
-    def label(self, program, place):
-        """The part of the page in which a label stands, with a little around it."""
-        left, top, width, height = place
-        scale = program.scale / TWIPS_TO_PIXEL
-        page_left, page_top, _, _ = program.box("Page")
-        around = round(4 * program.scale)
-        return program.desktop.screenshot(
-            round(page_left + left * scale) - around, round(page_top + top * scale) - around,
-            round(width * scale) + 2 * around, round(height * scale) + 2 * around)
-
-    def assert_text_is_whole(self, program, place, colour, lines=1):
+    def assert_text_is_whole(self, program, label, colour, lines=1):
         """The text of a label keeps clear of the right edge of its place, where it would be cut,
         of the bottom edge too where it has several lines, and of the page beyond."""
-        part = self.label(program, place)
+        part = program.desktop.screenshot(*program.box_around(label, 4))
         around = round(4 * program.scale)
 
         def inked(left, top, right, bottom):
@@ -84,8 +65,8 @@ class Screens(DesktopTest):
             colours = picture.colours()
             self.assertGreater(len(colours), 300)  # the night sky
             self.assertGreater(colours[PAGE_COLOUR], picture.width * picture.height // 4)
-            for place in INPUT_LABELS:
-                self.assert_text_is_whole(program, place, WHITE)
+            for label in INPUT_LABELS:
+                self.assert_text_is_whole(program, label, WHITE)
 
             program.proceed(MARIA)
             screen.park_mouse()
@@ -100,12 +81,12 @@ class Screens(DesktopTest):
 
             program.click_row("Help")
             screen.park_mouse()
-            wait_for("the help page", lambda: program.part("Page").colours()[TOPIC_INK] == 0)
+            wait_for("the help page", lambda: program.part("Picture1").colours()[TOPIC_INK] == 0)
             self.assertNotEqual(program.keep("help"), report)
-            for place in HELP_HEADINGS:
-                self.assert_text_is_whole(program, place, GOLD)
-            for place in HELP_TEXTS:
-                self.assert_text_is_whole(program, place, WHITE, lines=8)
+            for label in HELP_HEADINGS:
+                self.assert_text_is_whole(program, label, GOLD)
+            for label in HELP_TEXTS:
+                self.assert_text_is_whole(program, label, WHITE, lines=8)
 
             # The web address is painted under its hot area, whole.
             self.assertGreater(sum(count for colour, count in

@@ -107,7 +107,7 @@ class Story(DesktopTest):
                          plain_text(expected_runs(MARIA, TOPICS[0], possible))
                          for possible in days_since(day)])
 
-            for caption in [*TOPICS, COMPREHENSIVE]:
+            for caption in [*TOPICS[::5], COMPREHENSIVE]:
                 with self.subTest(caption):
                     runs = program.read_topic(caption, MARIA)
                     copied = CopiedReport(screen.clipboard("text/html")).lines
@@ -149,7 +149,7 @@ class Story(DesktopTest):
 
     def assert_help_page(self, program):
         def shown():
-            colours = program.part("Page").colours()
+            colours = program.part("Picture1").colours()
             return colours[GOLD] > 20 and colours[TOPIC_INK] == 0
 
         wait_for("the help page", shown)
@@ -190,14 +190,6 @@ class Story(DesktopTest):
             self.pick_menu(program, tree, "File", "Exit")  # asks nothing
             self.assertEqual(program.await_end(), 0)
             expect(THANK_YOU_PAGE)
-            self.assert_quiet(screen)
-
-    def test_close_button_asks_nothing(self):
-        with Desktop("close") as screen:
-            program = screen.orravane()
-            screen.keys("alt+F4")  # the window manager's
-            self.assertEqual(program.await_end(), 0)
-            screen.await_pages([THANK_YOU_PAGE])
             self.assert_quiet(screen)
 
 

@@ -1,18 +1,15 @@
 // The three totals over the letters of a name: Destiny, Soul Urge and Inner Dreams.
 
-#include "core/months.h"
+#include "core/proceed_pass.h"
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
 #include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
-#include "tests/support/reading_rows.h"
 #include "tests/support/store_slots.h"
 
-#include <algorithm>
 #include <random>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace modReadings {
 namespace {
@@ -47,27 +44,39 @@ protected:
     }
 };
 
-TEST_F(NameNumbers, OfOakRiver) {
-    // 6 + 1 + 2 + 9 + 9 + 4 + 5 + 9; O A I E; K R V R
-    EXPECT_EQ(Of(u"OAK", u"", u"RIVER"), (Totals{45, 9, 21, 3, 24, 6}));
-}
-
-TEST_F(NameNumbers, OfAAndB) { EXPECT_EQ(Of(u"A", u"", u"B"), (Totals{3, 3, 1, 1, 2, 2})); }
-
-TEST_F(NameNumbers, CountYAsAVowelInANameWithoutAnother) {
-    // S 1 K 2 Y 7 L 3 Y 7 N 5 N 5: both Y count twice over.
-    EXPECT_EQ(Of(u"SKY", u"", u"LYNN"), (Totals{30, 3, 14, 5, 30, 3}));
-    EXPECT_EQ(store.YUsedAsVowel, -1);
-}
-
-TEST_F(NameNumbers, DoNotCountYAsAVowelBesideAnother) {
-    // E E alone make 10; S K Y L: 1 + 2 + 7 + 3
-    EXPECT_EQ(Of(u"SKY", u"", u"LEE"), (Totals{23, 5, 10, 1, 13, 4}));
-    EXPECT_EQ(store.YUsedAsVowel, 0);
-    // One vowel in any of the three names shuts Y out of all of them.
-    EXPECT_EQ(Of(u"YA", u"YY", u"Y").soulUrgeRaw, 1);
-    EXPECT_EQ(Of(u"YY", u"U", u"Y").soulUrgeRaw, 3);
-    EXPECT_EQ(store.YUsedAsVowel, 0);
+TEST_F(NameNumbers, OfNamesWorkedByHand) {
+    const Totals oakRiver{45, 9, 21, 3, 24, 6};
+    const struct {
+        std::u16string first, middle, last;
+        Totals totals;
+    } names[] = {
+        // 6 + 1 + 2 + 9 + 9 + 4 + 5 + 9; O A I E; K R V R
+        {u"OAK", u"", u"RIVER", oakRiver},
+        {u"A", u"", u"B", {3, 3, 1, 1, 2, 2}},
+        {u"AEI", u"O", u"U", {24, 6, 24, 6, 0, 0}},
+        {u"BCD", u"", u"FGH", {30, 3, 0, 0, 30, 3}}, // 2 3 4, 6 7 8
+        // S 1 K 2 Y 7 L 3 Y 7 N 5 N 5: both Y count twice over in a name without a vowel.
+        {u"SKY", u"", u"LYNN", {30, 3, 14, 5, 30, 3}},
+        {u"Y", u"Y", u"Y", {21, 3, 21, 3, 21, 3}},
+        // E E alone make 10; S K Y L: 1 + 2 + 7 + 3. One vowel anywhere shuts Y out.
+        {u"SKY", u"", u"LEE", {23, 5, 10, 1, 13, 4}},
+        {u"YA", u"YY", u"Y", {29, 11, 1, 1, 28, 1}},
+        {u"YY", u"U", u"Y", {24, 6, 3, 3, 21, 3}},
+        // 29 in each name: one by one they would give 11 + 11 + 11, together 87, 15, 6.
+        {u"RRRB", u"RRRB", u"RRRB", {87, 6, 0, 0, 87, 6}},
+        // What is no letter is passed over.
+        {u"O A K", u"", u"RIV ER", oakRiver},
+        {u"O'AK", u"-", u"RIVER-2", oakRiver},
+        {u"OAKaeiouy", u"xyz", u"RIVERy", oakRiver},
+        {u"O\u00C9AK", u"\u00C0", u"R\u00DCIVER", oakRiver},
+        {u"\U0001F600OAK", u"\U0001F600", u"RIVER\U0001F600", oakRiver},
+        // An accented Y is none, and an accented vowel shuts no Y out.
+        {u"SK\u00DD", u"", u"L\u00C9", {6, 6, 0, 0, 6, 6}},
+        {u"SKY", u"", u"L\u00C9", {13, 4, 7, 7, 13, 4}},
+    };
+    for (const auto &name : names)
+        EXPECT_EQ(Of(name.first, name.middle, name.last), name.totals)
+            << PrintToString(name.first) << PrintToString(name.last);
 }
 
 TEST_F(NameNumbers, OfASingleLetter) {
@@ -82,67 +91,14 @@ TEST_F(NameNumbers, OfASingleLetter) {
     }
 }
 
-TEST_F(NameNumbers, OfASingleConsonantInAFreshStore) {
-    Of(u"B", u"", u"");
-    EXPECT_EQ(store.SoulUrgeRaw, 0);
-    EXPECT_EQ(store.SoulUrgeNumber, 0);
-    EXPECT_EQ(store.SoulUrgeText, u"");
-    EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrge.about);
-    EXPECT_EQ(store.YUsedAsVowel, 0); // the second walk has met no Y
-}
-
-TEST_F(NameNumbers, OfVowelsAloneInAFreshStore) {
-    EXPECT_EQ(Of(u"A", u"", u"E"), (Totals{6, 6, 6, 6, 0, 0}));
-    EXPECT_EQ(store.InnerDreamsText, u"");
-    EXPECT_EQ(store.InnerDreamsAbout, readings::innerDreams.about);
-    EXPECT_EQ(Of(u"AEI", u"O", u"U"), (Totals{24, 6, 24, 6, 0, 0}));
-}
-
-TEST_F(NameNumbers, OfConsonantsAlone) {
-    EXPECT_EQ(Of(u"BCD", u"", u"FGH"), (Totals{30, 3, 0, 0, 30, 3})); // 2 3 4, 6 7 8
-    EXPECT_EQ(store.YUsedAsVowel, 0);
-}
-
-TEST_F(NameNumbers, OfYAlone) {
-    EXPECT_EQ(Of(u"Y", u"", u""), (Totals{7, 7, 7, 7, 7, 7}));
-    EXPECT_EQ(Of(u"Y", u"Y", u"Y"), (Totals{21, 3, 21, 3, 21, 3}));
-    EXPECT_EQ(store.YUsedAsVowel, -1);
-}
-
 TEST_F(NameNumbers, OfNoLetterAre0WithoutAReading) {
     for (const std::u16string name :
          {u"", u"1234567890", u"-'., ()", u"  ", u"oak", u"\u00C9\u00C4", u"\u0410\u0391",
           u"\uFF21", u"\U0001F600\U0001F601"}) {
         store = {};
         EXPECT_EQ(Of(name, name, name), (Totals{0, 0, 0, 0, 0, 0})) << PrintToString(name);
-        EXPECT_EQ(store.DestinyText, u"");
-        EXPECT_EQ(store.SoulUrgeText, u"");
-        EXPECT_EQ(store.InnerDreamsText, u"");
-        EXPECT_EQ(store.DestinyAbout, readings::destiny.about);
-        EXPECT_EQ(store.SoulUrgeAbout, readings::soulUrge.about);
-        EXPECT_EQ(store.InnerDreamsAbout, readings::innerDreams.about);
         EXPECT_EQ(store.YUsedAsVowel, 0);
     }
-}
-
-TEST_F(NameNumbers, PassOverWhatIsNoLetter) {
-    const Totals oakRiver{45, 9, 21, 3, 24, 6};
-    EXPECT_EQ(Of(u"O A K", u"", u"RIV ER"), oakRiver); // blanks divide nothing
-    EXPECT_EQ(Of(u"O'AK", u"-", u"RIVER-2"), oakRiver);
-    EXPECT_EQ(Of(u"1OAK", u"007", u"RIVER."), oakRiver);
-    EXPECT_EQ(Of(u"OAKaeiouy", u"xyz", u"RIVERy"), oakRiver);
-    EXPECT_EQ(Of(u"O\u00C9AK", u"\u00C0", u"R\u00DCIVER"), oakRiver);
-    EXPECT_EQ(Of(u"\U0001F600OAK", u"\U0001F600", u"RIVER\U0001F600"), oakRiver);
-    // An accented Y is none, and an accented vowel shuts no Y out.
-    EXPECT_EQ(Of(u"SK\u00DD", u"", u"L\u00C9").soulUrgeRaw, 0);
-    EXPECT_EQ(Of(u"SKY", u"", u"L\u00C9").soulUrgeRaw, 7);
-    EXPECT_EQ(Of(u"\u00C9VA", u"", u""), (Totals{5, 5, 1, 1, 4, 4}));
-    EXPECT_EQ(Of(u"\u00C5SA", u"", u""), (Totals{2, 2, 1, 1, 1, 1}));
-}
-
-TEST_F(NameNumbers, AddUpTheThreeNamesBeforeTheyReduce) {
-    // 29 in each name: one by one they would give 11 + 11 + 11, together 87, 15, 6.
-    EXPECT_EQ(Of(u"RRRB", u"RRRB", u"RRRB"), (Totals{87, 6, 0, 0, 87, 6}));
 }
 
 TEST_F(NameNumbers, ConsonantsAndVowelsMakeTheWholeAndYMayCountTwice) {
@@ -184,23 +140,18 @@ TEST_F(NameNumbers, ConsonantsAndVowelsMakeTheWholeAndYMayCountTwice) {
 }
 
 TEST_F(NameNumbers, RaiseTheFlagOfYAndNeverClearIt) {
-    EXPECT_EQ(store.YUsedAsVowel, 0);
-    Of(u"OAK", u"", u"RIVER");
-    EXPECT_EQ(store.YUsedAsVowel, 0);
-    CalcDestiny();
-    CalcInnerDreams();
-    Of(u"SKY", u"", u"LYNN");
-    EXPECT_EQ(store.YUsedAsVowel, -1);
-    Of(u"OAK", u"", u"RIVER");
-    EXPECT_EQ(store.YUsedAsVowel, -1);
+    Of(u"YA", u"", u"B"); // a Y beside a vowel, and then no Y at all
     Of(u"BCD", u"", u"");
-    EXPECT_EQ(store.YUsedAsVowel, -1);
-
-    store.YUsedAsVowel = 0;
+    EXPECT_EQ(store.YUsedAsVowel, 0);
     Named(u"SKY", u"", u"LYNN");
     CalcDestiny();
     CalcInnerDreams();
     EXPECT_EQ(store.YUsedAsVowel, 0); // Soul Urge alone raises it
+    CalcSoulUrge();
+    EXPECT_EQ(store.YUsedAsVowel, -1);
+    Of(u"OAK", u"", u"RIVER");
+    Of(u"BCD", u"", u"");
+    EXPECT_EQ(store.YUsedAsVowel, -1);
 }
 
 TEST_F(NameNumbers, DestinyCountsEachNameByItself) {
@@ -233,51 +184,38 @@ TEST_F(NameNumbers, SoulUrgeCountsUpTo4681Y) {
     CalcSoulUrge();
     EXPECT_EQ(store.SoulUrgeRaw, 32767);
     EXPECT_EQ(store.SoulUrgeNumber, 7); // 25, 7
-    const ReadingStore before = store;
     Named(std::u16string(4682, u'Y'), u"", u"");
-    EXPECT_THROW(CalcSoulUrge(), RuntimeFailure);
-    EXPECT_EQ(store.SoulUrgeRaw, before.SoulUrgeRaw);
-    EXPECT_EQ(store.SoulUrgeNumber, before.SoulUrgeNumber);
-    EXPECT_EQ(store.SoulUrgeText, before.SoulUrgeText);
-    EXPECT_EQ(store.SoulUrgeAbout, before.SoulUrgeAbout);
+    EXPECT_EQ(WrittenBeforeFailure(CalcSoulUrge),
+              (SlotNames{"ScratchLetter", "ScratchSum", "YUsedAsVowel"}));
 }
 
 // What the three have in common.
 
 struct Topic {
-    const char *word;
-    void (*calculate)();
+    std::string word; ///< the slots are the word and Number, Text, About
+    Calculator calculate;
     int16 ReadingStore::*number;
     int16 ReadingStore::*raw;
     std::u16string ReadingStore::*text;
     std::u16string ReadingStore::*about;
-    const ReadingTable *table;
-    const char *textSlot, *aboutSlot;
     char16_t nine, one; ///< letters of these values that the topic counts
+
+    friend void PrintTo(const Topic &topic, std::ostream *out) { *out << topic.word; }
 };
 
+using S = ReadingStore;
 const Topic topics[] = {
-    {"Destiny", CalcDestiny, &ReadingStore::DestinyNumber, &ReadingStore::DestinyRaw,
-     &ReadingStore::DestinyText, &ReadingStore::DestinyAbout, &readings::destiny.rows, "DestinyText",
-     "DestinyAbout", u'R', u'A'},
-    {"SoulUrge", CalcSoulUrge, &ReadingStore::SoulUrgeNumber, &ReadingStore::SoulUrgeRaw,
-     &ReadingStore::SoulUrgeText, &ReadingStore::SoulUrgeAbout, &readings::soulUrge.rows, "SoulUrgeText",
-     "SoulUrgeAbout", u'I', u'A'},
-    {"InnerDreams", CalcInnerDreams, &ReadingStore::InnerDreamsNumber,
-     &ReadingStore::InnerDreamsRaw, &ReadingStore::InnerDreamsText, &ReadingStore::InnerDreamsAbout,
-     &readings::innerDreams.rows, "InnerDreamsText", "InnerDreamsAbout", u'R', u'J'},
+    {"Destiny", CalcDestiny, &S::DestinyNumber, &S::DestinyRaw, &S::DestinyText, &S::DestinyAbout,
+     u'R', u'A'},
+    {"SoulUrge", CalcSoulUrge, &S::SoulUrgeNumber, &S::SoulUrgeRaw, &S::SoulUrgeText,
+     &S::SoulUrgeAbout, u'I', u'A'},
+    {"InnerDreams", CalcInnerDreams, &S::InnerDreamsNumber, &S::InnerDreamsRaw, &S::InnerDreamsText,
+     &S::InnerDreamsAbout, u'R', u'J'},
 };
-
-void PrintTo(const Topic &topic, std::ostream *out) { *out << topic.word; }
 
 class NameTotal : public FreshStore, public ::testing::WithParamInterface<Topic> {
 protected:
     const Topic &topic = GetParam();
-
-    int16 Number() const { return store.*topic.number; }
-    int16 Raw() const { return store.*topic.raw; }
-    const std::u16string &Text() const { return store.*topic.text; }
-    const std::u16string &About() const { return store.*topic.about; }
 
     /// Letters that add up to `total`, as few as there can be.
     std::u16string NameOf(int total) const {
@@ -285,190 +223,99 @@ protected:
                std::u16string(static_cast<std::size_t>(total % 9), topic.one);
     }
 
-    void Calculate(std::u16string first, std::u16string middle, std::u16string last) const {
+    /// Whether the name has this total and this number, and shows its reading where it has one.
+    void Expect(int raw, int number, std::u16string first, std::u16string middle = {},
+                std::u16string last = {}) const {
         Named(std::move(first), std::move(middle), std::move(last));
         topic.calculate();
+        EXPECT_EQ(store.*topic.raw, raw);
+        EXPECT_EQ(store.*topic.number, number) << raw;
+        EXPECT_EQ(store.ScratchSum, number); // reduced in place
+        if (number != 0) {
+            EXPECT_TRUE(IsReadingOf(store.*topic.text, number, topic.word + "Text"));
+        }
+        EXPECT_TRUE(IsTextOf(store.*topic.about, topic.word + "About"));
     }
 
-    /// Runs the topic on a first name at which it has to fail, and sees that its four slots
-    /// stay as they are.
-    void ExpectFailure(std::u16string first) const {
-        const ReadingStore before = store;
+    /// The slots written for a first name at which the topic has to fail.
+    SlotNames FailsOn(std::u16string first) const {
         Named(std::move(first), u"", u"");
-        EXPECT_THROW(topic.calculate(), RuntimeFailure);
-        EXPECT_EQ(Number(), before.*topic.number);
-        EXPECT_EQ(Raw(), before.*topic.raw);
-        EXPECT_EQ(Text(), before.*topic.text);
-        EXPECT_EQ(About(), before.*topic.about);
+        return WrittenBeforeFailure(topic.calculate);
     }
 };
 
 INSTANTIATE_TEST_SUITE_P(Topics, NameTotal, ::testing::ValuesIn(topics),
-                         [](const auto &topic) { return std::string(topic.param.word); });
+                         [](const auto &topic) { return topic.param.word; });
 
 TEST_P(NameTotal, IsReducedOnceAndKeptRaw) {
-    struct Reduction {
-        int raw, number;
-    };
-    for (const Reduction &row : {Reduction{0, 0},
-                                 {9, 9},
-                                 {10, 1},
-                                 {11, 11},
-                                 {19, 1},
-                                 {20, 2},
-                                 {22, 22},
-                                 {29, 11},
-                                 {30, 3},
-                                 {38, 11},
-                                 {45, 9},
-                                 {47, 11},
-                                 {49, 4},
-                                 {199, 1},
-                                 {299, 2},
-                                 {499, 22},
-                                 {2999, 2}}) {
-        Calculate(NameOf(row.raw), u"", u"");
-        EXPECT_EQ(Raw(), row.raw);
-        EXPECT_EQ(Number(), row.number) << row.raw;
-    }
-}
-
-TEST_P(NameTotal, AgreesWithPaper) {
+    const std::pair<int, int> reductions[] = {
+        {0, 0},   {9, 9},  {10, 1},  {11, 11}, {19, 1},  {20, 2},  {22, 22},  {29, 11}, {30, 3},
+        {38, 11}, {45, 9}, {47, 11}, {49, 4},  {199, 1}, {299, 2}, {499, 22}, {2999, 2}};
+    for (const auto &[raw, number] : reductions)
+        Expect(raw, number, u"", u"", NameOf(raw));
     for (int total = 0; total <= 600; ++total) {
         const std::u16string name = NameOf(total);
-        Calculate(name.substr(0, name.size() / 3), name.substr(name.size() / 3), u"");
-        ASSERT_EQ(Raw(), total);
-        ASSERT_EQ(Number(), longhand::KeepMaster(total)) << total;
+        Expect(total, longhand::KeepMaster(total), name.substr(0, name.size() / 3),
+               name.substr(name.size() / 3));
     }
-}
-
-TEST_P(NameTotal, SelectsTheReadingOfItsNumber) {
-    constexpr int16 numbers[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 22};
-    for (const int16 number : numbers) {
-        store = {};
-        Calculate(u"", u"", NameOf(number));
-        ASSERT_EQ(Number(), number);
-        EXPECT_TRUE(IsReadingOf(Text(), number, topic.textSlot));
-        EXPECT_EQ(Text(), Row(*topic.table, number));
-        EXPECT_TRUE(IsTextOf(About(), topic.aboutSlot));
-    }
-    EXPECT_EQ(topic.table->size(), std::size(numbers));
 }
 
 TEST_P(NameTotal, OfThreePeopleKeepsTheTextUnderA0) {
-    Calculate(NameOf(7), u"", u"");
-    EXPECT_EQ(Text(), Row(*topic.table, 7));
-
+    Expect(0, 0, u"123");
+    EXPECT_EQ(store.*topic.text, u"");
+    Expect(7, 7, NameOf(7));
     (store.*topic.about).clear();
-    Calculate(u"123", u"", u"-");
-    EXPECT_EQ(Raw(), 0);
-    EXPECT_EQ(Number(), 0);
-    EXPECT_EQ(Text(), Row(*topic.table, 7)); // the first person's
-    EXPECT_TRUE(IsTextOf(About(), topic.aboutSlot));
-
-    Calculate(NameOf(22), u"", u"");
-    EXPECT_EQ(Number(), 22);
-    EXPECT_EQ(Text(), Row(*topic.table, 22));
-}
-
-TEST_P(NameTotal, IsTheSameWhenItIsRunAgain) {
-    Calculate(u"OAK", u"Y", u"RIVER");
-    const ReadingStore first = store;
-    topic.calculate();
-    topic.calculate();
-    EXPECT_EQ(Changed(first, store), SlotNames{});
-}
-
-TEST_P(NameTotal, WritesItsOwnSlotsAndItsScratchAndNoOther) {
-    const ReadingStore before = store = MarkedStore();
-    Calculate(u"OAK", u"", u"RIVER");
-    const std::string word = topic.word;
-    EXPECT_EQ(Changed(before, store),
-              (SlotNames{word + "Number", word + "Raw", word + "Text", word + "About",
-                         "ScratchIndex", "ScratchLetter", "ScratchSum"}));
+    Expect(0, 0, u"123", u"", u"-");
+    EXPECT_TRUE(IsReadingOf(store.*topic.text, 7, topic.word + "Text")); // the first person's
+    Expect(22, 22, NameOf(22));
 }
 
 TEST_P(NameTotal, OwesNothingToWhatIsLeftInTheScratchSlots) {
-    Calculate(u"OAK", u"", u"RIVER");
-    const int16 raw = Raw(), number = Number();
     for (const int16 left : std::initializer_list<int16>{-32768, -1, 1, 11, 32767}) {
-        store.ScratchSum = left;
-        store.ScratchIndex = left;
+        store.ScratchSum = store.ScratchIndex = left;
         store.ScratchLetter = u"9";
-        topic.calculate();
-        EXPECT_EQ(Raw(), raw);
-        EXPECT_EQ(Number(), number);
-        EXPECT_EQ(store.ScratchSum, number); // reduced in place
+        Expect(15, 6, NameOf(15));
     }
 }
 
 TEST_P(NameTotal, LeavesTheLastCharacterOfTheNameThatIsNotEmpty) {
-    struct Name {
+    const struct {
         std::u16string first, middle, last, left;
-    };
-    const Name names[] = {
-        {u"OAK", u"", u"RIVER", u"R"},
+    } names[] = {
         {u"OAK", u"ELM", u"RIVE", u"E"},
         {u"OAK", u"ELM", u"", u"M"},
         {u"OAK", u"", u"", u"K"},
         {u"SKY", u"", u"LYNN", u"N"}, // after the second walk of Soul Urge too
         {u"OAK", u"", u"RIVER5", u"5"},
-        {u"OAK", u"", u"RIVER-", u"-"},
         {u"OAK", u"", u"RIV\u00C9", u"\u00C9"},
         {u"", u"", u"7", u"7"},
-        {u"MARY ANN", u"", u"", u"N"},
+        {u"", u"", u"", u"*"}, // no name, no letter
+        // One character is one unit: of a pair its second half stays.
+        {u"OAK", u"", u"RIVER\U0001F600", std::u16string(1, char16_t{0xDE00})},
     };
-    for (const Name &name : names) {
+    for (const auto &name : names) {
         store.ScratchLetter = u"*";
-        Calculate(name.first, name.middle, name.last);
+        Named(name.first, name.middle, name.last);
+        topic.calculate();
         EXPECT_EQ(store.ScratchLetter, name.left);
     }
-    // One character is one unit: of a pair its second half stays.
-    Calculate(u"OAK", u"", u"RIVER\U0001F600");
-    EXPECT_EQ(store.ScratchLetter, std::u16string(1, char16_t{0xDE00}));
 }
 
-TEST_P(NameTotal, LeavesTheLetterAloneWhenThereIsNoName) {
-    store.ScratchLetter = u"3";
-    Calculate(u"", u"", u"");
-    EXPECT_EQ(store.ScratchLetter, u"3");
-    EXPECT_EQ(MonthNumber(u"October"), 3);
-}
-
-TEST_P(NameTotal, TakesATotalUpTo32767) {
-    Calculate(NameOf(32767), u"", u"");
-    EXPECT_EQ(Raw(), 32767);
-    EXPECT_EQ(Number(), 7); // 25, 7
-    EXPECT_EQ(Text(), Row(*topic.table, 7));
-
-    ExpectFailure(NameOf(32768));
-    ExpectFailure(NameOf(32760) + topic.nine);
-    ExpectFailure(NameOf(100000));
-
-    Calculate(NameOf(11), u"", u""); // the next person is read from 0 again
-    EXPECT_EQ(Raw(), 11);
-    EXPECT_EQ(Number(), 11);
-}
-
-TEST_P(NameTotal, FailsOnTheLetterThatIsOneTooMany) {
-    Named(NameOf(32760) + topic.nine + topic.one + u"-", u"", u"");
-    EXPECT_THROW(topic.calculate(), RuntimeFailure);
-    EXPECT_EQ(store.ScratchLetter, std::u16string(1, topic.nine));
+TEST_P(NameTotal, TakesATotalAndALengthUpTo32767) {
+    Expect(32767, 7, NameOf(32767)); // 25, 7
+    const SlotNames scratch{"ScratchLetter", "ScratchSum"};
+    EXPECT_EQ(FailsOn(NameOf(32768)), scratch);
+    EXPECT_EQ(FailsOn(NameOf(100000)), scratch);
+    EXPECT_EQ(FailsOn(NameOf(32760) + topic.nine + topic.one + u"-"), scratch);
+    EXPECT_EQ(store.ScratchLetter, std::u16string(1, topic.nine)); // the one that is too many
     EXPECT_EQ(store.ScratchSum, 32760);
-}
+    Expect(11, 11, NameOf(11)); // the next person is read from 0 again
 
-TEST_P(NameTotal, TakesALengthUpTo32767) {
-    Calculate(std::u16string(32766, u'-') + topic.nine, u"", u"");
-    EXPECT_EQ(Raw(), 9);
-    Calculate(std::u16string(32767, topic.one), u"", u""); // the longest and the greatest at once
-    EXPECT_EQ(Raw(), 32767);
-
-    store.ScratchLetter = u"*";
-    ExpectFailure(std::u16string(32768, u'-'));
-    ExpectFailure(std::u16string(32767, u'-') + topic.nine);
-    ExpectFailure(std::u16string(32768, topic.one));
-    ExpectFailure(std::u16string(40000, topic.one));
-    EXPECT_EQ(store.ScratchLetter, u"*"); // not one character has been walked
+    Expect(9, 9, std::u16string(32766, u'-') + topic.nine);
+    Expect(32767, 7, std::u16string(32767, topic.one)); // the longest and the greatest at once
+    // Not one character has been walked.
+    EXPECT_EQ(FailsOn(std::u16string(32768, u'-')), SlotNames{"ScratchSum"});
+    EXPECT_EQ(FailsOn(std::u16string(32768, topic.one)), SlotNames{"ScratchSum"});
 }
 
 } // namespace

@@ -4,16 +4,23 @@
 
 #include <QDesktopServices>
 
+using namespace Qt::StringLiterals;
+
 BrowserLog::BrowserLog() {
-    for (const char *scheme : {"http", "https", "file"})
-        QDesktopServices::setUrlHandler(QLatin1StringView(scheme), this, "Open");
+    for (const QString &scheme : {u"http"_s, u"https"_s, u"file"_s})
+        QDesktopServices::setUrlHandler(scheme, this, "Open");
 }
 
 BrowserLog::~BrowserLog() {
-    for (const char *scheme : {"http", "https", "file"})
-        QDesktopServices::unsetUrlHandler(QLatin1StringView(scheme));
+    for (const QString &scheme : {u"http"_s, u"https"_s, u"file"_s})
+        QDesktopServices::unsetUrlHandler(scheme);
 }
 
-QUrl PageOfSite(const QString &path) {
-    return QUrl(QStringLiteral("https://") + QLatin1StringView(siteHost) + path);
+QStringList BrowserLog::Taken() {
+    QStringList paths;
+    for (const QUrl &page : std::exchange(pages_, {}))
+        paths << (page.scheme() == "https"_L1 && page.host() == QLatin1StringView(siteHost)
+                      ? page.path()
+                      : page.toString());
+    return paths;
 }

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QStringList>
 #include <QUrl>
 
 class BrowserLog : public QObject {
@@ -13,8 +14,9 @@ public:
     BrowserLog();
     ~BrowserLog() override;
 
-    /// The pages since the last call, in their order.
-    QList<QUrl> Taken() { return std::exchange(pages_, {}); }
+    /// The pages since the last call, in their order: the path alone for a page of the
+    /// program's own site, the whole address for any other.
+    QStringList Taken();
 
 public slots:
     void Open(const QUrl &page) { pages_.append(page); }
@@ -22,6 +24,3 @@ public slots:
 private:
     QList<QUrl> pages_;
 };
-
-/// A page of the program's own site.
-QUrl PageOfSite(const QString &path);

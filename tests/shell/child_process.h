@@ -53,6 +53,6 @@ QString AskParent();
         App::Identify();                                                                           \
         if (isChild)                                                                               \
             return RunChild(QString::fromUtf8(argv[2]));                                           \
-        Tests tests(*home);                                                                        \
+        Tests tests;                                                                               \
         return QTest::qExec(&tests, argc, argv);                                                   \
     }

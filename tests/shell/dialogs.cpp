@@ -2,20 +2,23 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
-#include <QMainWindow>
+#include <QMetaEnum>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-SeenMessage LookAt(const QMessageBox &box) {
-    SeenMessage seen{box.icon(), box.windowTitle(), box.text(), box.standardButtons(), false};
-    for (const QWidget *window : QApplication::topLevelWidgets())
-        seen.formWasVisible |=
-            qobject_cast<const QMainWindow *>(window) != nullptr && window->isVisible();
-    return seen;
+QString LookOf(const QMessageBox &box) {
+    QStringList buttons;
+    for (const QAbstractButton *button : box.buttons())
+        buttons << button->text().remove(u'&');
+    buttons.sort();
+    return u"%1, %2: %3 [%4]"_s.arg(
+        QLatin1StringView(QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box.icon())),
+        box.windowTitle(), box.text(), buttons.join(u", "_s));
 }
 
 } // namespace
@@ -24,37 +27,37 @@ Dialogs::Dialogs() { qApp->installEventFilter(this); }
 
 void Dialogs::Plan(std::function<void(QDialog &)> act) { plans_.push_back(std::move(act)); }
 
-void Dialogs::PlanToPress(QMessageBox::StandardButton button, SeenMessage *seen) {
+void Dialogs::PlanToPress(QMessageBox::StandardButton button, QString *seen) {
     Plan([this, button, seen](QDialog &dialog) {
-        auto *box = qobject_cast<QMessageBox *>(&dialog);
-        if (box == nullptr || box->button(button) == nullptr) {
-            trouble_ << QStringLiteral("the button to press is not there");
+        const auto *box = qobject_cast<QMessageBox *>(&dialog);
+        if (box == nullptr) {
+            trouble_ << u"the dialog is no message"_s;
             return;
         }
         if (seen != nullptr)
-            *seen = LookAt(*box);
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
+            *seen = LookOf(*box);
+        if (button == QMessageBox::NoButton)
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else if (box->button(button) != nullptr)
+            QTest::mouseClick(box->button(button), Qt::LeftButton);
     });
 }
 
-void Dialogs::PlanToEscape(SeenMessage *seen) {
-    Plan([this, seen](QDialog &dialog) {
-        auto *box = qobject_cast<QMessageBox *>(&dialog);
-        if (box == nullptr) {
-            trouble_ << QStringLiteral("the dialog is no message");
-            return;
-        }
-        if (seen != nullptr)
-            *seen = LookAt(*box);
-        QTest::keyClick(box, Qt::Key_Escape);
-    });
+QString Dialogs::MessageOf(const std::function<void()> &act, QMessageBox::StandardButton button) {
+    QString seen;
+    PlanToPress(button, &seen);
+    act();
+    if (!plans_.empty())
+        trouble_ << u"a planned dialog did not come up"_s;
+    plans_.clear(); // what they write to is gone with this call
+    return seen;
 }
 
 QString Dialogs::Trouble() {
     if (!plans_.empty())
-        trouble_ << QStringLiteral("%1 planned dialogs never came up").arg(plans_.size());
+        trouble_ << u"%1 planned dialogs never came up"_s.arg(plans_.size());
     plans_.clear();
-    return std::exchange(trouble_, {}).join(QStringLiteral("; "));
+    return std::exchange(trouble_, {}).join(u"; "_s);
 }
 
 bool Dialogs::eventFilter(QObject *watched, QEvent *event) {
@@ -71,14 +74,14 @@ void Dialogs::Answer(QDialog &dialog) {
     const QPointer<QDialog> alive(&dialog);
     if (plans_.empty()) {
         const auto *box = qobject_cast<QMessageBox *>(&dialog);
-        trouble_ << QStringLiteral("an unexpected dialog \"%1\" %2")
-                        .arg(dialog.windowTitle(), box != nullptr ? box->text() : QString());
+        trouble_ << u"an unexpected dialog \"%1\" %2"_s.arg(
+            dialog.windowTitle(), box != nullptr ? box->text() : QString());
     } else {
         const auto act = std::move(plans_.front());
         plans_.pop_front();
         act(dialog);
         if (alive && dialog.isVisible())
-            trouble_ << QStringLiteral("the dialog was left open");
+            trouble_ << u"the dialog was left open"_s;
     }
     if (alive && dialog.isVisible())
         dialog.reject();

@@ -5,23 +5,10 @@
 // never came up, one that nobody expected and one that was left open are all trouble.
 
 #include <QMessageBox>
-#include <QObject>
-#include <QString>
 #include <QStringList>
 
 #include <deque>
 #include <functional>
-
-class QDialog;
-
-/// What a message looked like on screen.
-struct SeenMessage {
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
-    QString title;
-    QString text;
-    QMessageBox::StandardButtons buttons = QMessageBox::NoButton;
-    bool formWasVisible = false; ///< whether the main window was on screen by then
-};
 
 class Dialogs : public QObject {
 public:
@@ -30,11 +17,14 @@ public:
     /// Plans what is done to the next dialog. `act` has to end in the dialog being closed.
     void Plan(std::function<void(QDialog &)> act);
 
-    /// Plans to look at the next message and press one of its buttons.
-    void PlanToPress(QMessageBox::StandardButton button, SeenMessage *seen = nullptr);
+    /// Plans to press a button of the next message; NoButton stands for the Escape key. What
+    /// the message looks like goes to `seen`: "Critical, Orravane: the text [OK]".
+    void PlanToPress(QMessageBox::StandardButton button, QString *seen = nullptr);
 
-    /// Plans to look at the next message and press Escape.
-    void PlanToEscape(SeenMessage *seen = nullptr);
+    /// Does `act`, which has to bring up one message, presses a button of it, and returns
+    /// what it looked like. An empty text when none came up.
+    QString MessageOf(const std::function<void()> &act,
+                      QMessageBox::StandardButton button = QMessageBox::Ok);
 
     /// What did not go as planned since the last call. Empty when all did.
     QString Trouble();
@@ -47,19 +37,3 @@ private:
     std::deque<std::function<void(QDialog &)>> plans_;
     QStringList trouble_;
 };
-
-/// Fails the test unless every planned dialog came up and no other did.
-#define VERIFY_DIALOGS(dialogs)                                                                    \
-    do {                                                                                           \
-        const QString trouble = (dialogs).Trouble();                                               \
-        QVERIFY2(trouble.isEmpty(), qPrintable(trouble));                                          \
-    } while (false)
-
-/// Compares a message with how it has to look.
-#define COMPARE_MESSAGE(seen, expectedIcon, expectedText, expectedButtons)                         \
-    do {                                                                                           \
-        QCOMPARE((seen).text, QString(expectedText));                                              \
-        QCOMPARE((seen).title, QStringLiteral("Orravane"));                                        \
-        QCOMPARE((seen).icon, expectedIcon);                                                       \
-        QCOMPARE((seen).buttons, QMessageBox::StandardButtons(expectedButtons));                   \
-    } while (false)

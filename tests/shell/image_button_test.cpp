@@ -1,9 +1,7 @@
 #include "shell/image_list.h"
-#include "tests/shell/program.h"
+#include "tests/shell/window_test.h"
 
 #include <QPainter>
-
-#include <optional>
 
 // The image buttons: which picture they show while the mouse comes and goes.
 
@@ -20,12 +18,6 @@ public:
         return false;
     }
 };
-
-void MoveTo(QWidget *button, QPointF point) {
-    QMouseEvent move(QEvent::MouseMove, point, button->mapToGlobal(point), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(button, &move);
-}
 
 /// How bright a picture is, weighted by what is drawn at all.
 double Brightness(const QPixmap &picture) {
@@ -44,223 +36,160 @@ double Brightness(const QPixmap &picture) {
 
 } // namespace
 
-class ImageButtonTest : public QObject {
+class ImageButtonTest : public WindowTest {
     Q_OBJECT
 
-public:
-    explicit ImageButtonTest(const TemporaryHome &) {}
-
-private:
-    std::optional<Program> program_;
-
-    ImageButton *Button(const QString &name) const {
-        return program_->form.findChild<ImageButton *>(name);
-    }
-
-    static void AddButtons() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("plain");
-        QTest::addColumn<int>("hover");
-        QTest::newRow("exit") << QStringLiteral("picExit") << 1 << 2;
-        QTest::newRow("help") << QStringLiteral("picHelp") << 3 << 4;
-        QTest::newRow("print") << QStringLiteral("picPrint") << 5 << 6;
-        QTest::newRow("proceed") << QStringLiteral("picProceed") << 7 << 8;
-        QTest::newRow("save") << QStringLiteral("picSave") << 9 << 10;
-    }
+    /// The buttons in the order of their images: a plain and a hover one for each.
+    const QList<ImageButton *> buttons_{form.picExit, form.picHelp, form.Picture2->picPrint,
+                                        input.picProceed, form.Picture2->picSave};
 
 private slots:
-    void init() { program_.emplace(); }
-    void cleanup() { program_.reset(); }
-
-    void TheImageListHasItsKeysInTheirPlaces() {
-        const QStringList keys{QStringLiteral("exit"),    QStringLiteral("exit-hyper"),
-                               QStringLiteral("help"),    QStringLiteral("help-hyper"),
-                               QStringLiteral("print"),   QStringLiteral("print-hyper"),
-                               QStringLiteral("proceed"), QStringLiteral("proceed-hyper"),
-                               QStringLiteral("save"),    QStringLiteral("save-hyper")};
+    void TheImageListHasPairsOfTheButtonsSizeWithAClearlyBrighterHover() {
+        const QStringList words{u"exit"_s, u"help"_s, u"print"_s, u"proceed"_s, u"save"_s};
         QCOMPARE(ImageList::count, 10);
-        for (int position = 1; position <= 10; ++position)
-            QCOMPARE(ImageList::Key(position), keys[position - 1]);
-    }
-
-    void TheImagesHaveTheSizeOfTheButtonAndAClearlyBrighterHover_data() { AddButtons(); }
-    void TheImagesHaveTheSizeOfTheButtonAndAClearlyBrighterHover() {
-        QFETCH(QString, name);
-        QFETCH(int, plain);
-        QFETCH(int, hover);
-        const QSize size = Button(name)->size();
-        for (const qreal ratio : {1.0, 2.0}) {
-            const QPixmap quiet = ImageList::Picture(plain, size, ratio);
-            const QPixmap bright = ImageList::Picture(hover, size, ratio);
-            QCOMPARE(quiet.deviceIndependentSize(), QSizeF(size));
-            QCOMPARE(bright.deviceIndependentSize(), QSizeF(size));
-            QCOMPARE(quiet.size(), size * ratio);
-            QVERIFY2(
-                Brightness(bright) > Brightness(quiet) + 0.05,
-                qPrintable(
-                    QStringLiteral("%1 over %2").arg(Brightness(bright)).arg(Brightness(quiet))));
+        for (int index = 0; index < 5; ++index) {
+            QCOMPARE(ImageList::Key(2 * index + 1), words[index]);
+            QCOMPARE(ImageList::Key(2 * index + 2), words[index] + u"-hyper"_s);
+            const QSize size = buttons_[index]->size();
+            for (const qreal ratio : {1.0, 2.0}) {
+                const QPixmap quiet = ImageList::Picture(2 * index + 1, size, ratio);
+                const QPixmap bright = ImageList::Picture(2 * index + 2, size, ratio);
+                QCOMPARE(quiet.size(), size * ratio);
+                QCOMPARE(bright.size(), size * ratio);
+                QCOMPARE(bright.deviceIndependentSize(), QSizeF(size));
+                QVERIFY(Brightness(bright) > Brightness(quiet) + 0.05);
+            }
         }
     }
 
-    void ShowsThePlainImageAtTheStart_data() { AddButtons(); }
-    void ShowsThePlainImageAtTheStart() {
-        QFETCH(QString, name);
-        QFETCH(int, plain);
-        QCOMPARE(Button(name)->ImagePosition(), plain);
-    }
-
-    void PaintsTheImageThatItShows_data() { AddButtons(); }
-    void PaintsTheImageThatItShows() {
-        QFETCH(QString, name);
-        QFETCH(int, plain);
-        QFETCH(int, hover);
-        ImageButton *button = Button(name);
-        const auto painted = [&](int position) {
-            QImage expected(button->size(), QImage::Format_ARGB32_Premultiplied);
-            expected.fill(Qt::transparent);
-            QPainter(&expected).drawPixmap(0, 0, ImageList::Picture(position, button->size(), 1));
-            QImage shown(button->size(), QImage::Format_ARGB32_Premultiplied);
-            shown.fill(Qt::transparent);
-            button->render(&shown, {}, {}, QWidget::RenderFlags());
-            return shown == expected;
-        };
-        QVERIFY(painted(plain));
-        MoveTo(button, {5, 5});
-        QVERIFY(painted(hover));
-    }
-
-    void LightsUpInsideAndTurnsPlainOutside_data() { AddButtons(); }
-    void LightsUpInsideAndTurnsPlainOutside() {
-        QFETCH(QString, name);
-        QFETCH(int, plain);
-        QFETCH(int, hover);
-        ImageButton *button = Button(name);
-        const double width = button->width();
-        const double height = button->height();
-        for (const QPointF inside :
-             {QPointF(0, 0), QPointF(width / 2, height / 2), QPointF(width, 1), QPointF(1, height),
-              QPointF(width, height), QPointF(0, height), QPointF(width, 0)}) {
-            MoveTo(button, inside);
-            QCOMPARE(button->ImagePosition(), hover);
-            MoveTo(button, {-1, -1});
-            QCOMPARE(button->ImagePosition(), plain);
+    void EachPaintsTheImageThatItShows() {
+        for (int index = 0; index < 5; ++index) {
+            ImageButton *button = buttons_[index];
+            const auto paints = [&](int position) {
+                QImage expected(button->size(), QImage::Format_ARGB32_Premultiplied);
+                expected.fill(Qt::transparent);
+                QPainter(&expected).drawPixmap(0, 0,
+                                               ImageList::Picture(position, button->size(), 1));
+                QImage shown(button->size(), QImage::Format_ARGB32_Premultiplied);
+                shown.fill(Qt::transparent);
+                button->render(&shown, {}, {}, QWidget::RenderFlags());
+                return shown == expected;
+            };
+            QVERIFY(paints(2 * index + 1));
+            MoveTo(button, {5, 5});
+            QVERIFY(paints(2 * index + 2));
         }
-        for (const QPointF outside :
-             {QPointF(-1, 1), QPointF(1, -1), QPointF(width + 1, 1), QPointF(1, height + 1),
-              QPointF(-0.5, 1), QPointF(width + 0.5, 1), QPointF(1, height + 0.5),
-              QPointF(10 * width, 10 * height)}) {
-            MoveTo(button, {1, 1});
-            QCOMPARE(button->ImagePosition(), hover);
-            MoveTo(button, outside);
-            QCOMPARE(button->ImagePosition(), plain);
+    }
+
+    void EachLightsUpInsideAndTurnsPlainOutside() {
+        for (int index = 0; index < 5; ++index) {
+            ImageButton *button = buttons_[index];
+            const int plain = 2 * index + 1;
+            const int hover = plain + 1;
+            const double width = button->width();
+            const double height = button->height();
+            QCOMPARE(button->Picture(), plain);
+            for (const QPointF inside :
+                 {QPointF(0, 0), QPointF(width / 2, height / 2), QPointF(width, 1),
+                  QPointF(1, height), QPointF(width, height), QPointF(0, height),
+                  QPointF(width, 0)}) {
+                MoveTo(button, inside);
+                QCOMPARE(button->Picture(), hover);
+                MoveTo(button, {-1, -1});
+                QCOMPARE(button->Picture(), plain);
+            }
+            for (const QPointF outside :
+                 {QPointF(-1, 1), QPointF(1, -1), QPointF(width + 1, 1), QPointF(1, height + 1),
+                  QPointF(-0.5, 1), QPointF(1, -0.5), QPointF(width + 0.5, 1),
+                  QPointF(1, height + 0.5), QPointF(10 * width, 10 * height)}) {
+                MoveTo(button, {1, 1});
+                QCOMPARE(button->Picture(), hover);
+                MoveTo(button, outside);
+                QCOMPARE(button->Picture(), plain);
+            }
         }
     }
 
     void TheEdgesCountAsInsideOnceItIsLit() {
-        ImageButton *button = program_->form.picExit;
+        ImageButton *button = form.picExit;
         MoveTo(button, {1, 1});
         MoveTo(button, QPointF(button->width(), button->height()));
-        QCOMPARE(button->ImagePosition(), 2);
+        QCOMPARE(button->Picture(), 2);
     }
 
-    void MovesWithinTheButtonDoNotSetTheImageAgain() {
-        ImageButton *button = program_->form.picHelp;
-        PaintCounter paints(button);
-        MoveTo(button, {1, 1});
-        QTRY_VERIFY(paints.count > 0);
-        QApplication::processEvents();
-        paints.count = 0;
-        for (int x = 2; x < button->width(); ++x)
-            MoveTo(button, QPointF(x, 3));
-        QApplication::processEvents();
-        QCOMPARE(paints.count, 0);
-        QCOMPARE(button->ImagePosition(), 4);
-    }
-
-    void MovesOutsideOfAPlainButtonChangeNothing() {
-        ImageButton *button = program_->form.picHelp;
+    void MovesWithinALitOrBesideAPlainButtonSetNoImage() {
+        ImageButton *button = form.picHelp;
         QApplication::processEvents();
         PaintCounter paints(button);
         MoveTo(button, {-5, -5});
         MoveTo(button, {-6, -5});
         QApplication::processEvents();
-        QCOMPARE(button->ImagePosition(), 3);
         QCOMPARE(paints.count, 0);
+
+        MoveTo(button, {1, 1});
+        QTRY_VERIFY(paints.count > 0);
+        QApplication::processEvents();
+        // The image is set when the mouse is captured and not again.
+        button->SetPicture(3);
+        for (int x = 2; x < button->width(); ++x)
+            MoveTo(button, QPointF(x, 3));
+        QCOMPARE(button->Picture(), 3);
     }
 
     void FromOneButtonOntoTheOther() {
-        ImageButton *first = program_->form.picHelp;
-        ImageButton *second = program_->form.picExit;
+        ImageButton *first = form.picHelp;
+        ImageButton *second = form.picExit;
         MoveTo(first, {5, 5});
-        QCOMPARE(first->ImagePosition(), 4);
+        QCOMPARE(first->Picture(), 4);
         // The move that leaves the first one is still the first one's.
-        const QPointF onSecond =
-            first->mapFrom(&program_->form, second->mapTo(&program_->form, QPoint(5, 5)));
-        MoveTo(first, onSecond);
-        QCOMPARE(first->ImagePosition(), 3);
-        QCOMPARE(second->ImagePosition(), 1);
+        MoveTo(first, first->mapFrom(&form, second->mapTo(&form, QPoint(5, 5))));
+        QCOMPARE(first->Picture(), 3);
+        QCOMPARE(second->Picture(), 1);
         MoveTo(second, {5, 5});
-        QCOMPARE(second->ImagePosition(), 2);
-        QCOMPARE(first->ImagePosition(), 3);
-    }
-
-    void NoButtonKeepsTheMouseForItself() {
-        ImageButton *button = program_->form.picHelp;
-        MoveTo(button, {5, 5});
-        MoveTo(button, {-5, 5});
-        QCOMPARE(QWidget::mouseGrabber(), nullptr);
-        MoveTo(button, {5, 5});
-        QTest::mouseClick(button, Qt::LeftButton); // what it opens has the mouse to itself
-        QCOMPARE(QWidget::mouseGrabber(), nullptr);
-        QCOMPARE(program_->browser.Taken().size(), 1);
+        QCOMPARE(second->Picture(), 2);
+        QCOMPARE(first->Picture(), 3);
     }
 
     void AClickWhileLitIsAClickAsUsual() {
-        MoveTo(program_->form.picHelp, {5, 5});
-        program_->Click(program_->form.picHelp);
-        QCOMPARE(program_->browser.Taken(),
-                 QList<QUrl>{PageOfSite(QStringLiteral("/orravane-help/"))});
-        QCOMPARE(program_->form.picHelp->ImagePosition(), 4); // the click does not reset it
-        MoveTo(program_->form.picHelp, {6, 6});
-        QCOMPARE(program_->form.picHelp->ImagePosition(), 4);
-        MoveTo(program_->form.picHelp, {-6, 6});
-        QCOMPARE(program_->form.picHelp->ImagePosition(), 3);
+        ImageButton *button = form.picHelp;
+        MoveTo(button, {5, 5});
+        QVERIFY(button->HasCapture());
+        Click(button);
+        QCOMPARE(browser.Taken(), QStringList{u"/orravane-help/"_s});
+        QCOMPARE(button->Picture(), 4); // the click does not turn it plain
+        QVERIFY(!button->HasCapture()); // what it opens has the mouse to itself
+        MoveTo(button, {6, 6});
+        QCOMPARE(button->Picture(), 4);
+        MoveTo(button, {-6, 6});
+        QCOMPARE(button->Picture(), 3);
+        QVERIFY(!button->HasCapture());
     }
 
-    void APageThatIsCoveredLetsGoOfTheMouse() {
-        const frmMain &form = program_->form;
-        program_->EnterSomebody();
-        MoveTo(form.Picture1->picProceed, {5, 5});
-        QCOMPARE(form.Picture1->picProceed->ImagePosition(), 8);
-        QTest::keyClick(program_->input.txtLastName, Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(form.FrontPage(), form.Picture2);
-        QCOMPARE(form.Picture1->picProceed->ImagePosition(), 7);
+    void AButtonOnACoveredPageTurnsPlain() {
+        EnterSomebody();
+        MoveTo(input.picProceed, {5, 5});
+        QCOMPARE(input.picProceed->Picture(), 8);
+        QTest::keyClick(input.txtLastName, Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(Page(), u"Picture2"_s);
+        QCOMPARE(input.picProceed->Picture(), 7);
 
         MoveTo(form.Picture2->picSave, {5, 5});
-        QCOMPARE(form.Picture2->picSave->ImagePosition(), 10);
+        QCOMPARE(form.Picture2->picSave->Picture(), 10);
         MoveTo(form.picHelp, {5, 5}); // on no page at all
-        program_->TV.setCurrentItem(program_->Node(QStringLiteral("Enter The Information")));
-        QTest::keyClick(&program_->TV, Qt::Key_Return);
-        QCOMPARE(form.FrontPage(), form.Picture1);
-        QCOMPARE(form.Picture2->picSave->ImagePosition(), 9);
-        QCOMPARE(form.picHelp->ImagePosition(), 4);
+        form.TV_NodeClick(Node(u"Enter The Information"_s));
+        QCOMPARE(form.Picture2->picSave->Picture(), 9);
+        QCOMPARE(form.picHelp->Picture(), 4);
     }
 
-    void AButtonThatIsLeftWithoutAMoveTurnsPlain() {
-        ImageButton *button = program_->form.picHelp;
-        MoveTo(button, {5, 5});
-        QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(button, &leave);
-        QCOMPARE(button->ImagePosition(), 3);
-        MoveTo(button, {5, 5});
-        QCOMPARE(button->ImagePosition(), 4);
-    }
-
-    void AButtonShowsThatItHasTheFocus() {
-        ImageButton *button = program_->form.picHelp;
-        const QImage before = button->grab().toImage();
-        button->setFocus();
-        QVERIFY(button->grab().toImage() != before);
+    void AButtonThatLosesTheMouseWithoutAMoveTurnsPlain() {
+        for (const QEvent::Type type : {QEvent::Leave, QEvent::WindowDeactivate}) {
+            MoveTo(form.picHelp, {5, 5});
+            QCOMPARE(form.picHelp->Picture(), 4);
+            QEvent event(type);
+            QApplication::sendEvent(form.picHelp, &event);
+            QCOMPARE(form.picHelp->Picture(), 3);
+            QVERIFY(!form.picHelp->HasCapture());
+        }
     }
 };
 

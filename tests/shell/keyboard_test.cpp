@@ -1,224 +1,169 @@
-#include "core/user_profile.h"
-#include "tests/shell/program.h"
+#include "tests/shell/window_test.h"
 
 #include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
 
-#include <optional>
-
-using modReadings::profile;
-
 // The window without a mouse. A button that is reached by its letter goes down first and
 // clicks a moment later, so its effect is waited for.
 
-class KeyboardTest : public QObject {
+using modReadings::profile;
+
+class KeyboardTest : public WindowTest {
     Q_OBJECT
-
-public:
-    explicit KeyboardTest(const TemporaryHome &) {}
-
-private:
-    std::optional<Program> program_;
 
     /// The names of the controls that the focus goes through, from the one that has it
     /// until it is there again.
     QStringList Round(Qt::KeyboardModifiers modifiers) {
         QStringList names;
-        const QWidget *start = program_->Focus();
+        const QWidget *start = Focus();
         do {
-            names << program_->Focus()->objectName();
-            QTest::keyClick(program_->Focus(), modifiers ? Qt::Key_Backtab : Qt::Key_Tab,
-                            modifiers);
-        } while (program_->Focus() != start && names.size() < 30);
+            names << Focus()->objectName();
+            QTest::keyClick(Focus(), modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+        } while (Focus() != start && names.size() < 30);
         return names;
     }
-
-    static QStringList Reversed(QStringList names) {
-        std::reverse(names.begin() + 1, names.end()); // it begins where it begins
-        return names;
-    }
-
-    const QStringList common_{QStringLiteral("TV"), QStringLiteral("picHelp"),
-                              QStringLiteral("picExit"), QStringLiteral("lblHyperlink")};
 
 private slots:
-    void init() { program_.emplace(); }
-    void cleanup() { program_.reset(); }
-
-    void TheFocusStartsInTheFirstName() {
-        QCOMPARE(program_->Focus(), program_->input.txtFirstName);
-        QVERIFY(program_->input.txtFirstName->hasFocus());
-    }
-
-    void TabOnTheInputPage() {
-        const QStringList expected =
-            QStringList{QStringLiteral("txtFirstName"), QStringLiteral("txtMiddleName"),
-                        QStringLiteral("txtLastName"),  QStringLiteral("cboMonth"),
-                        QStringLiteral("cboDate"),      QStringLiteral("cboYear"),
-                        QStringLiteral("picProceed")} +
-            common_;
-        QCOMPARE(Round({}), expected);
-        QCOMPARE(Round(Qt::ShiftModifier), Reversed(expected));
-    }
-
-    void TabOnTheReportPageSkipsTheCoveredPages() {
-        program_->ProceedWithSomebody();
-        program_->RTB.setFocus();
-        const QStringList expected = QStringList{QStringLiteral("RTB"), QStringLiteral("picPrint"),
-                                                 QStringLiteral("picSave")} +
-                                     common_;
-        QCOMPARE(Round({}), expected);
-        QCOMPARE(Round(Qt::ShiftModifier), Reversed(expected));
-    }
-
-    void TabOnTheHelpPageSkipsTheCoveredPages() {
-        program_->form.mnuAbout->trigger();
-        program_->form.Picture3->lblHelp[0]->setFocus();
-        const QStringList expected =
-            QStringList{QStringLiteral("lblHelp0"), QStringLiteral("lblHelp1")} + common_;
-        QCOMPARE(Round({}), expected);
-        QCOMPARE(Round(Qt::ShiftModifier), Reversed(expected));
-    }
-
-    void EveryStopShowsThatItHasTheFocus_data() {
+    void TabReachesWhatIsInSight_data() {
         QTest::addColumn<QString>("caption");
-        QTest::newRow("input page") << QStringLiteral("User Information");
-        QTest::newRow("report page") << QStringLiteral("Personal Month");
-        QTest::newRow("help page") << QStringLiteral("Help");
+        QTest::addColumn<QString>("stops");
+        QTest::newRow("input page") << u"User Information"_s
+                                    << u"txtFirstName txtMiddleName txtLastName cboMonth cboDate "
+                                       "cboYear picProceed"_s;
+        QTest::newRow("report page") << u"Essence"_s << u"RTB picPrint picSave"_s;
+        QTest::newRow("help page") << u"Help"_s << u"lblHelp0 lblHelp1"_s;
     }
+    void TabReachesWhatIsInSight() {
+        QFETCH(QString, caption);
+        QFETCH(QString, stops);
+        QStringList order = (stops + u" TV picHelp picExit lblHyperlink"_s).split(u' ');
+        EnterSomebody();
+        ClickNode(caption);
+        form.findChild<QWidget *>(order[0])->setFocus();
+        QCOMPARE(Round({}), order);
+        std::reverse(order.begin() + 1, order.end()); // it begins where it begins
+        QCOMPARE(Round(Qt::ShiftModifier), order);
+    }
+
+    void EveryStopShowsThatItHasTheFocus_data() { TabReachesWhatIsInSight_data(); }
     void EveryStopShowsThatItHasTheFocus() {
         QFETCH(QString, caption);
-        program_->ProceedWithSomebody();
-        program_->ClickNode(caption);
+        EnterSomebody();
+        ClickNode(caption);
         const auto look = [this](const QWidget *stop) {
             QApplication::processEvents();
-            const QRect place(stop->mapTo(&program_->form, QPoint()), stop->size());
-            return program_->form.grab(place).toImage();
+            return form.grab({stop->mapTo(&form, QPoint()), stop->size()}).toImage();
         };
         int stops = 0;
-        const QWidget *start = program_->Focus();
+        const QWidget *start = Focus();
         do {
-            const QWidget *stop = program_->Focus();
+            const QWidget *stop = Focus();
             const QImage with = look(stop);
-            QTest::keyClick(program_->Focus(), Qt::Key_Tab);
+            QTest::keyClick(Focus(), Qt::Key_Tab);
             const QImage without = look(stop);
             int changed = 0;
             for (int y = 0; y < with.height(); ++y)
                 for (int x = 0; x < with.width(); ++x)
                     changed += with.pixel(x, y) != without.pixel(x, y);
             // More than a caret, which may blink or stand out of sight.
-            QVERIFY2(
-                changed >= 60,
-                qPrintable(
-                    QStringLiteral("%1 changes %2 pixels").arg(stop->objectName()).arg(changed)));
+            QVERIFY2(changed >= 60,
+                     qPrintable(u"%1 changes %2 pixels"_s.arg(stop->objectName()).arg(changed)));
             ++stops;
-        } while (program_->Focus() != start);
+        } while (Focus() != start);
         QVERIFY(stops > 5);
     }
 
     void TheFocusDoesNotStayOnAPageThatIsCovered() {
-        program_->EnterSomebody();
-        program_->input.picProceed->setFocus();
-        program_->Proceed();
-        QVERIFY(!program_->form.Picture1->isAncestorOf(program_->Focus()));
-        program_->RTB.setFocus();
-        program_->form.mnuAbout->trigger();
-        QVERIFY(!program_->form.Picture2->isAncestorOf(program_->Focus()));
-        program_->form.Picture3->lblHelp[1]->setFocus();
-        program_->ClickNode(QStringLiteral("User Information"));
-        QVERIFY(!program_->form.Picture3->isAncestorOf(program_->Focus()));
+        EnterSomebody();
+        input.picProceed->setFocus();
+        Proceed();
+        QVERIFY(!form.Picture1->isAncestorOf(Focus()));
+        RTB.setFocus();
+        form.mnuAbout->trigger();
+        QVERIFY(!form.Picture2->isAncestorOf(Focus()));
+        help.lblHelp[1]->setFocus();
+        ClickNode(u"User Information"_s);
+        QVERIFY(!form.Picture3->isAncestorOf(Focus()));
     }
 
     void ImageButtonsAnswerEnterAndSpace() {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-            QTest::keyClick(program_->form.picHelp, key);
-            QCOMPARE(program_->browser.Taken(),
-                     QList<QUrl>{PageOfSite(QStringLiteral("/orravane-help/"))});
+            QTest::keyClick(form.picHelp, key);
+            QCOMPARE(browser.Taken(), QStringList{u"/orravane-help/"_s});
         }
-        program_->EnterSomebody();
-        QTest::keyClick(program_->input.picProceed, Qt::Key_Return);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
+        EnterSomebody();
+        QTest::keyClick(input.picProceed, Qt::Key_Return);
+        QCOMPARE(Page(), u"Picture2"_s);
     }
 
-    void AltPIsProceedOnTheInputPage() {
-        program_->EnterSomebody();
-        QTest::keyClick(program_->input.txtLastName, Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(profile.LastName, std::u16string(u"RIVER"));
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
-        QCOMPARE(program_->input.txtLastName->text(), QStringLiteral("RIVER")); // not typed
-    }
-
-    void AltPIsProceedOnTheHelpPage() {
-        program_->EnterSomebody();
-        program_->form.mnuAbout->trigger();
-        QTest::keyClick(&program_->form, Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(profile.LastName, std::u16string(u"RIVER"));
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
+    void AltPIsProceedOnTheInputAndHelpPages() {
+        EnterSomebody();
+        QTest::keyClick(input.txtLastName, Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(profile.LastName, u"RIVER"s);
+        QCOMPARE(Page(), u"Picture2"_s);
+        QCOMPARE(input.txtLastName->text(), u"RIVER"_s); // not typed
+        input.txtLastName->setText(u"OTHER"_s);
+        form.mnuAbout->trigger();
+        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(profile.LastName, u"OTHER"s);
+        QCOMPARE(Page(), u"Picture2"_s);
+        input.txtLastName->setText(u"THIRD"_s);
+        ClickNode(u"User Information"_s);
+        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(profile.LastName, u"THIRD"s);
     }
 
     void AltPIsPrintOnTheReportPage() {
-        program_->ProceedWithSomebody();
-        program_->ClickNode(QStringLiteral("Essence"));
-        const std::u16string report = program_->ReportText();
-        program_->input.txtLastName->setText(QStringLiteral("OTHER"));
-        program_->RTB.selectAll();
-        QTest::keyClick(&program_->form, Qt::Key_P, Qt::AltModifier);
-        QTRY_VERIFY(!program_->RTB.textCursor().hasSelection()); // what print does first
-        QCOMPARE(profile.LastName, std::u16string(u"RIVER"));    // no Proceed
-        QCOMPARE(program_->ReportText(), report);
+        ProceedWithSomebody();
+        ClickNode(u"Essence"_s);
+        const std::u16string report = ReportText();
+        input.txtLastName->setText(u"OTHER"_s);
+        RTB.selectAll();
+        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
+        QTRY_VERIFY(!RTB.textCursor().hasSelection()); // what print does first
+        QCOMPARE(profile.LastName, u"RIVER"s);         // no Proceed
+        QCOMPARE(ReportText(), report);
     }
 
-    void AltPGoesBackToProceedWithTheInputPage() {
-        program_->ProceedWithSomebody();
-        program_->ClickNode(QStringLiteral("User Information"));
-        program_->input.txtLastName->setText(QStringLiteral("OTHER"));
-        QTest::keyClick(&program_->form, Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(profile.LastName, std::u16string(u"OTHER"));
-    }
-
-    void AltSOpensTheSaveDialog_data() {
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("on the report page") << QStringLiteral("Essence");
-        QTest::newRow("on the input page") << QStringLiteral("User Information");
-        QTest::newRow("on the help page") << QStringLiteral("Help");
-    }
-    void AltSOpensTheSaveDialog() {
-        QFETCH(QString, caption);
-        program_->ProceedWithSomebody();
-        program_->ClickNode(caption);
-        bool isSaveDialog = false;
-        program_->dialogs.Plan([&](QDialog &dialog) {
-            const auto *files = qobject_cast<QFileDialog *>(&dialog);
-            isSaveDialog = files != nullptr && files->acceptMode() == QFileDialog::AcceptSave;
-            dialog.reject();
-        });
-        QTest::keyClick(&program_->form, Qt::Key_S, Qt::AltModifier);
-        QTRY_VERIFY(isSaveDialog);
-        VERIFY_DIALOGS(program_->dialogs);
+    void AltSOpensTheSaveDialogOnEveryPage() {
+        EnterSomebody();
+        for (const QString &caption : {u"Essence"_s, u"User Information"_s, u"Help"_s}) {
+            Activate();
+            ClickNode(caption);
+            bool isSaveDialog = false;
+            dialogs.Plan([&](QDialog &dialog) {
+                const auto *files = qobject_cast<QFileDialog *>(&dialog);
+                isSaveDialog = files != nullptr && files->acceptMode() == QFileDialog::AcceptSave;
+                dialog.reject();
+            });
+            QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
+            QTRY_VERIFY(isSaveDialog);
+            QTRY_VERIFY(!form.cmdSave->isDown());
+        }
     }
 
     void TheMenusOpenByTheirLetters() {
-        QMenu *file = program_->form.menuBar()->actions().at(0)->menu();
-        QTest::keyClick(&program_->form, Qt::Key_F, Qt::AltModifier);
+        QMenu *file = form.menuBar()->actions().at(0)->menu();
+        QTest::keyClick(&form, Qt::Key_F, Qt::AltModifier);
         QTRY_VERIFY(file->isVisible());
         QTest::keyClick(file, Qt::Key_Escape);
         QTRY_VERIFY(!file->isVisible());
 
-        QMenu *help = program_->form.menuBar()->actions().at(1)->menu();
-        QTest::keyClick(&program_->form, Qt::Key_H, Qt::AltModifier);
-        QTRY_VERIFY(help->isVisible());
-        QTest::keyClick(help, Qt::Key_V);
-        QTRY_VERIFY(!help->isVisible());
-        QCOMPARE(program_->browser.Taken(), QList<QUrl>{PageOfSite(QStringLiteral("/"))});
+        Activate();
+        QMenu *helpMenu = form.menuBar()->actions().at(1)->menu();
+        QTest::keyClick(&form, Qt::Key_H, Qt::AltModifier);
+        QTRY_VERIFY(helpMenu->isVisible());
+        QTest::keyClick(helpMenu, Qt::Key_V);
+        QTRY_VERIFY(!helpMenu->isVisible());
+        QCOMPARE(browser.Taken(), QStringList{u"/"_s});
     }
 
     void EnterInANameBoxDoesNothing() {
-        program_->EnterSomebody();
-        QTest::keyClick(program_->input.txtLastName, Qt::Key_Return);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture1);
-        QCOMPARE(profile.LastName, std::u16string());
-        VERIFY_DIALOGS(program_->dialogs);
+        EnterSomebody();
+        QTest::keyClick(input.txtLastName, Qt::Key_Return);
+        QCOMPARE(Page(), u"Picture1"_s);
+        QCOMPARE(profile.LastName, u""s);
     }
 };
 

@@ -4,19 +4,26 @@
 #include <QDir>
 #include <QFile>
 
+namespace {
+QString path;
+} // namespace
+
+QString TemporaryHome::Path() { return path; }
+
 TemporaryHome::TemporaryHome() {
-    const auto below = [this](const char *variable, const char *name) {
-        QDir(folder_.path()).mkpath(QLatin1StringView(name));
-        qputenv(variable, QFile::encodeName(folder_.filePath(QLatin1StringView(name))));
+    path = folder_.path();
+    const auto below = [](const char *variable, const char *name) {
+        QDir(path).mkpath(QLatin1StringView(name));
+        qputenv(variable, QFile::encodeName(PathOf(QLatin1StringView(name))));
     };
     below("HOME", "home");
-    QDir(PathOf(QStringLiteral("home"))).mkpath(QStringLiteral("Documents"));
+    QDir(path).mkpath(QStringLiteral("home/Documents"));
     below("XDG_CONFIG_HOME", "config");
     below("XDG_CONFIG_DIRS", "no-system-config");
     below("XDG_DATA_HOME", "data");
     below("XDG_CACHE_HOME", "cache");
     below("XDG_RUNTIME_DIR", "runtime");
-    QFile::setPermissions(folder_.filePath(QStringLiteral("runtime")),
+    QFile::setPermissions(PathOf(QStringLiteral("runtime")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     below("CUPS_SERVER", "no-print-server"); // a folder: nothing answers there
     for (const char *variable : {"PRINTER", "LPDEST", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME",

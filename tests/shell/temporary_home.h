@@ -11,22 +11,23 @@ public:
     /// To be made before the application object.
     TemporaryHome();
 
-    /// The folder of everything that the test writes.
-    QString Path() const { return folder_.path(); }
+    /// The folder of everything that the test writes: that of the home that was made last.
+    static QString Path();
 
     /// A path below it.
-    QString PathOf(const QString &name) const { return folder_.filePath(name); }
+    static QString PathOf(const QString &name) { return Path() + u'/' + name; }
 
 private:
     QTemporaryDir folder_;
 };
 
-/// Runs the Qt Test class `Tests` as a program. Its constructor gets the home.
+/// Runs the Qt Test class `Tests` as a program.
 #define ORRAVANE_TEST_PROGRAM(Tests)                                                               \
     int main(int argc, char *argv[]) {                                                             \
         const TemporaryHome home;                                                                  \
         QApplication application(argc, argv);                                                      \
+        QApplication::setQuitOnLastWindowClosed(false); /* tests go on when a window is gone */    \
         App::Identify();                                                                           \
-        Tests tests(home);                                                                         \
+        Tests tests;                                                                               \
         return QTest::qExec(&tests, argc, argv);                                                   \
     }

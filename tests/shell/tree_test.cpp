@@ -1,378 +1,306 @@
-#include "core/reading_store.h"
-#include "core/user_profile.h"
+#include "tests/support/store_slots.h" // before the toolkit, which has a SLOT of its own
+
+#include "core/runtime_failure.h"
+#include "numbers/calculators.h"
 #include "report/rendering.h"
-#include "tests/report/expected_report.h"
-#include "tests/shell/program.h"
-
-#include <optional>
-
-using modReadings::store;
+#include "tests/shell/window_test.h"
 
 // The tree of topics: how it stands, and what a click on each node does.
 
-class TreeTest : public QObject {
+namespace {
+
+using modReadings::profile;
+using modReadings::store;
+
+/// The calculator of each topic, in the order of the tree.
+constexpr modReadings::Calculator calculators[] = {
+    modReadings::CalcPersonalMonth,   modReadings::CalcHiddenPassion,
+    modReadings::CalcLifePathPeriods, modReadings::CalcPersonalYear,
+    modReadings::CalcPinnacles,       modReadings::CalcSubconsciousSelf,
+    modReadings::CalcLifePath,        modReadings::CalcDestiny,
+    modReadings::CalcKarmicLessons,   modReadings::CalcBirthday,
+    modReadings::CalcChallenges,      modReadings::CalcKarmicDebt,
+    modReadings::CalcBalance,         modReadings::CalcPersonalDay,
+    modReadings::CalcRationalThought, modReadings::CalcHPBridge,
+    modReadings::CalcLEBridge,        modReadings::CalcEssence,
+    modReadings::CalcRealization,     modReadings::CalcInnerDreams,
+    modReadings::CalcPlanes,          modReadings::CalcSoulUrge};
+
+QStringList TopicCaptions() {
+    QStringList captions;
+    for (const QStringList &row : TableRows(u"topics.csv"_s))
+        captions << row[0];
+    return captions;
+}
+
+/// Fails the test unless the store is exactly as `expected`.
+#define COMPARE_STORE(expected)                                                                    \
+    do {                                                                                           \
+        QStringList unlike;                                                                        \
+        for (const std::string &slot : modReadings::Changed(expected, store))                      \
+            unlike << QString::fromStdString(slot);                                                \
+        QCOMPARE(unlike, QStringList());                                                           \
+    } while (false)
+
+} // namespace
+
+class TreeTest : public WindowTest {
     Q_OBJECT
 
-public:
-    explicit TreeTest(const TemporaryHome &) {}
+    const modReadings::ReadingStore marked_ = modReadings::MarkedStore();
+    const modReadings::Report someReport_{{u"some report", false}};
+    QString pageBefore_;
 
-private:
-    std::optional<Program> program_;
+    /// The five inputs that are asked for, in the order in which they are.
+    const QList<std::pair<QWidget *, QString>> required_{
+        {input.txtFirstName, u"Enter Your First Name"_s},
+        {input.txtLastName, u"Enter Your Last Name"_s},
+        {input.cboDate, u"Specify Your Birth Date"_s},
+        {input.cboMonth, u"Specify Your Birth Month"_s},
+        {input.cboYear, u"Specify Your Birth Year"_s}};
 
-    static QString Caption(std::u16string_view caption) { return QStringView(caption).toString(); }
-
-    QTreeWidgetItem *Node(const char *caption) const {
-        return program_->Node(QString::fromLatin1(caption));
-    }
-    void Click(const char *caption) { program_->ClickNode(QString::fromLatin1(caption)); }
-
-    bool IsSelectedAlone(const char *caption) const {
-        return program_->TV.selectedItems() == QList<QTreeWidgetItem *>{Node(caption)};
-    }
-
-    /// The page that a topic has to show, from the store as it stands.
-    static std::u16string PageOf(std::u16string_view caption) {
-        std::u16string text;
-        for (const modReadings::Run &run : modReadings::ExpectedPage(caption))
-            text += run.text;
-        return text;
+    /// All that a click could change is put to values of its own. In front is a page that
+    /// the click on `caption` does not lead to.
+    void PrepareForClickOn(const QString &caption) {
+        input.txtFirstName->setText(u"OAK"_s);
+        input.txtLastName->setText(u"RIVER"_s);
+        for (QComboBox *list : {input.cboDate, input.cboMonth, input.cboYear})
+            list->setCurrentIndex(0);
+        profile = {u"SKY", u"", u"LYNN", u"June", u"2", u"1990"}; // of an earlier Proceed
+        store = marked_;
+        RTB.ShowReport(someReport_);
+        form.TV_NodeClick(Node(caption == u"Help" ? u"User Information"_s : u"Help"_s));
+        pageBefore_ = Page();
     }
 
     /// Presses the little triangle beside a node.
-    void PressTriangleOf(const char *caption) {
-        const QRect place = program_->TV.visualItemRect(Node(caption));
-        QTest::mouseClick(
-            program_->TV.viewport(), Qt::LeftButton, {},
-            QPoint(place.left() - program_->TV.indentation() / 2, place.center().y()));
-    }
-
-    void AddTopics() const {
-        QTest::addColumn<QString>("caption");
-        for (const std::u16string_view caption : modReadings::treeOrder)
-            QTest::newRow(qPrintable(Caption(caption))) << Caption(caption);
+    void PressTriangleOf(const QString &caption) {
+        const QRect place = TV.visualItemRect(Node(caption));
+        QTest::mouseClick(TV.viewport(), Qt::LeftButton, {},
+                          QPoint(place.left() - TV.indentation() / 2, place.center().y()));
     }
 
 private slots:
-    void init() { program_.emplace(); }
-    void cleanup() { program_.reset(); }
-
     // --- How it stands
 
     void HasItsNodesInTheirPlaces() {
-        const TopicTreeView &TV = program_->TV;
-        QCOMPARE(TV.topLevelItemCount(), 3);
-        QCOMPARE(TV.topLevelItem(0)->text(0), QStringLiteral("User Information"));
-        QCOMPARE(TV.topLevelItem(1)->text(0), QStringLiteral("Numerology"));
-        QCOMPARE(TV.topLevelItem(2)->text(0), QStringLiteral("Help"));
-
-        QCOMPARE(TV.topLevelItem(0)->childCount(), 2);
-        QCOMPARE(TV.topLevelItem(0)->child(0)->text(0), QStringLiteral("Enter The Information"));
-        QCOMPARE(TV.topLevelItem(0)->child(1)->text(0), QStringLiteral("Reset"));
-
-        QCOMPARE(TV.topLevelItem(1)->childCount(), 23);
-        for (int index = 0; index < 22; ++index)
-            QCOMPARE(TV.topLevelItem(1)->child(index)->text(0),
-                     Caption(modReadings::treeOrder[static_cast<std::size_t>(index)]));
-        QCOMPARE(TV.topLevelItem(1)->child(22)->text(0), QStringLiteral("Comprehensive Reading"));
-        QCOMPARE(TV.topLevelItem(2)->childCount(), 0);
+        QStringList nodes; // with a dot before the caption of a child
+        for (QTreeWidgetItemIterator node(&TV); *node != nullptr; ++node)
+            nodes << QString((*node)->parent() != nullptr ? u"."_s : QString()) + (*node)->text(0);
+        QStringList expected{u"User Information"_s, u".Enter The Information"_s, u".Reset"_s,
+                             u"Numerology"_s};
+        for (const QString &caption : TopicCaptions())
+            expected << u'.' + caption;
+        QCOMPARE(expected.size(), 26);
+        expected << u".Comprehensive Reading"_s << u"Help"_s;
+        QCOMPARE(nodes, expected);
     }
 
     void OnlyTheComprehensiveReadingIsBoldAndNoNodeHasAnImage() {
-        for (QTreeWidgetItemIterator node(&program_->TV); *node != nullptr; ++node) {
-            QCOMPARE((*node)->font(0).bold(),
-                     (*node)->text(0) == QLatin1StringView("Comprehensive Reading"));
+        for (QTreeWidgetItemIterator node(&TV); *node != nullptr; ++node) {
+            QCOMPARE((*node)->font(0).bold(), (*node)->text(0) == u"Comprehensive Reading");
             QVERIFY((*node)->icon(0).isNull());
         }
     }
 
-    void StartsOnResetWithTheUserBranchOpen() {
-        QVERIFY(IsSelectedAlone("Reset"));
-        QVERIFY(Node("User Information")->isExpanded());
-        QVERIFY(!Node("Numerology")->isExpanded());
-        QVERIFY(!Node("Help")->isExpanded());
-    }
-
-    void ProceedPutsItInTheReadingState() {
-        program_->ProceedWithSomebody();
-        QVERIFY(IsSelectedAlone("Personal Month"));
-        QVERIFY(Node("Numerology")->isExpanded());
-        QVERIFY(!Node("User Information")->isExpanded());
-        QVERIFY(program_->TV.viewport()->rect().intersects(
-            program_->TV.visualItemRect(Node("Personal Month"))));
-    }
-
-    void ProceedSelectsThePersonalMonthWhicheverNodeWasSelected_data() {
-        QTest::addColumn<QString>("before");
-        for (const char *before : {"User Information", "Enter The Information", "Help",
-                                   "Numerology", "Essence", "Comprehensive Reading"})
-            QTest::newRow(before) << QString::fromLatin1(before);
-    }
-    void ProceedSelectsThePersonalMonthWhicheverNodeWasSelected() {
-        QFETCH(QString, before);
-        program_->EnterSomebody();
-        program_->ClickNode(before);
-        program_->form.cmdNext->click();
-        VERIFY_DIALOGS(program_->dialogs);
-        QVERIFY(IsSelectedAlone("Personal Month"));
-        QVERIFY(Node("Numerology")->isExpanded());
-        QVERIFY(!Node("User Information")->isExpanded());
-    }
-
-    void ProceedShowsWhatAClickOnThePersonalMonthShows() {
-        program_->ProceedWithSomebody();
-        const std::u16string shown = program_->ReportText();
-        QVERIFY(shown.starts_with(u"Your Personal Month is: 8\r\n\r\n")); // 2 + 3 + 2 + 1
-        QCOMPARE(shown, PageOf(u"Personal Month"));
-        Click("Personal Month");
-        QCOMPARE(program_->ReportText(), shown);
-    }
-
-    void ProceedWritesThePersonalMonthThatThePassWorkedOut() {
-        // The pass comes to the Personal Month first and to the names behind it.
-        program_->Enter(QStringLiteral("OAK"), {}, QStringLiteral("RIVER5"),
-                        QStringLiteral("December"), QStringLiteral("29"), QStringLiteral("1985"));
-        program_->Proceed();
-        VERIFY_DIALOGS(program_->dialogs);
-        // Day 29 gives 2, December 3, November 2, 2026 1.
-        QVERIFY(program_->ReportText().starts_with(u"Your Personal Month is: 8\r\n\r\n"));
-        QCOMPARE(store.PersonalMonthNumber, std::int16_t{8});
-
-        Click("Personal Month");
-        // Now a 5 is left of the name, and December counts 5: 2 + 5 + 2 + 1 = 10.
-        QVERIFY(program_->ReportText().starts_with(u"Your Personal Month is: 1\r\n\r\n"));
+    void ProceedOpensNumerologyAtThePersonalMonth() {
+        for (const QString &before : {u"User Information"_s, u"Enter The Information"_s, u"Help"_s,
+                                      u"Numerology"_s, u"Essence"_s, u"Comprehensive Reading"_s}) {
+            EnterSomebody();
+            ClickNode(before);
+            form.cmdNext->click();
+            QVERIFY(IsSelected(u"Personal Month"_s));
+            QVERIFY(Node(u"Numerology"_s)->isExpanded());
+            QVERIFY(!Node(u"User Information"_s)->isExpanded());
+            QVERIFY(TV.viewport()->rect().intersects(TV.visualItemRect(Node(u"Personal Month"_s))));
+            QCOMPARE(Page(), u"Picture2"_s);
+        }
     }
 
     // --- Clicks
 
-    void AClickOnATopicShowsIt_data() { AddTopics(); }
-    void AClickOnATopicShowsIt() {
-        QFETCH(QString, caption);
-        program_->ProceedWithSomebody();
-        Click("Help");
-        program_->ClickNode(caption);
-        VERIFY_DIALOGS(program_->dialogs);
-        QCOMPARE(program_->ReportText(), PageOf(caption.toStdU16String()));
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
-        QVERIFY(program_->TV.selectedItems() == QList<QTreeWidgetItem *>{program_->Node(caption)});
+    /// Every node with its page; empty where a click turns none.
+    void EveryClickDoesWhatItsCaptionSays_data() {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<int>("topic"); // its place in the tree; 22 for all of them, -1 for none
+        QTest::addColumn<QString>("heading");
+        const auto add = [](const QString &caption, const char *page, qsizetype topic,
+                            const QString &heading) {
+            QTest::newRow(qPrintable(caption))
+                << QString::fromLatin1(page) << static_cast<int>(topic) << heading;
+        };
+        add(u"User Information"_s, "Picture1", -1, {});
+        add(u"Enter The Information"_s, "Picture1", -1, {});
+        add(u"Reset"_s, "Picture1", -1, {});
+        add(u"Numerology"_s, "", -1, {});
+        const QList<QStringList> topics = TableRows(u"topics.csv"_s);
+        QCOMPARE(topics.size(), 22);
+        for (qsizetype topic = 0; topic < 22; ++topic)
+            add(topics[topic][0], "Picture2", topic, topics[topic][1]);
+        add(u"Comprehensive Reading"_s, "Picture2", 22, u"Orravane Comprehensive Reading"_s);
+        add(u"Help"_s, "Picture3", -1, {});
     }
+    void EveryClickDoesWhatItsCaptionSays() {
+        QFETCH(QString, page);
+        QFETCH(int, topic);
+        QFETCH(QString, heading);
+        const QString caption = QString::fromLatin1(QTest::currentDataTag());
 
-    void EnterOnATopicShowsIt_data() { AddTopics(); }
-    void EnterOnATopicShowsIt() {
-        QFETCH(QString, caption);
-        program_->ProceedWithSomebody();
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-            Click("Help");
-            program_->TV.setCurrentItem(program_->Node(caption));
-            QTest::keyClick(&program_->TV, key);
-            QCOMPARE(program_->ReportText(), PageOf(caption.toStdU16String()));
-            QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
+        // What becomes of store and report.
+        PrepareForClickOn(caption);
+        modReadings::Report report = someReport_;
+        if (topic == 22) {
+            report = modReadings::RenderComprehensiveReading();
+        } else if (topic >= 0) {
+            modReadings::Attempt(calculators[topic]);
+            report = modReadings::RenderTopic(*modReadings::FindTopic(caption.toStdU16String()));
+        }
+        const modReadings::ReadingStore results = store;
+        if (topic >= 0) {
+            QVERIFY(report[0].bold);
+            QVERIFY2(QStringView(report[0].text).startsWith(heading), qPrintable(heading));
+            QVERIFY(!modReadings::Changed(marked_, results).empty());
+        }
+
+        // With all inputs, by the mouse and by both Enter keys. One report is written, while
+        // the page before is still in front.
+        QStringList pagesAtWrite;
+        const QObject listener;
+        for (const Qt::Key key : {Qt::Key_unknown, Qt::Key_Return, Qt::Key_Enter}) {
+            PrepareForClickOn(caption);
+            pagesAtWrite.clear();
+            connect(&RTB, &RichTextBox::changed, &listener, [&] { pagesAtWrite << Page(); });
+            if (key == Qt::Key_unknown) {
+                ClickNode(caption);
+                QVERIFY(IsSelected(caption));
+            } else {
+                TV.setCurrentItem(Node(caption));
+                QTest::keyClick(&TV, key);
+            }
+            disconnect(&RTB, nullptr, &listener, nullptr);
+            COMPARE_STORE(results);
+            QVERIFY(RTB.ShownReport() == report);
+            QCOMPARE(Page(), page.isEmpty() ? pageBefore_ : page);
+            QCOMPARE(pagesAtWrite, topic >= 0 ? QStringList{pageBefore_} : QStringList());
+            QCOMPARE(profile.FirstName, u"SKY"s); // a click captures nothing
+        }
+
+        // With inputs missing, from the first, the second ... on.
+        const bool validates = topic >= 0 || page.isEmpty();
+        for (qsizetype first = 0; first < required_.size(); ++first) {
+            PrepareForClickOn(caption);
+            for (qsizetype missing = first; missing < required_.size(); ++missing) {
+                if (auto *box = qobject_cast<QLineEdit *>(required_[missing].first))
+                    box->clear();
+                else
+                    qobject_cast<QComboBox *>(required_[missing].first)->setCurrentIndex(-1);
+            }
+            if (!validates) {
+                ClickNode(caption); // a message would be one that nobody planned
+            } else {
+                QCOMPARE(dialogs.MessageOf([&] { ClickNode(caption); }),
+                         u"Critical, Orravane: Please %1 [OK]"_s.arg(required_[first].second));
+                QCOMPARE(Focus(), required_[first].first);
+            }
+            COMPARE_STORE(marked_);
+            QVERIFY(RTB.ShownReport() == someReport_);
+            QCOMPARE(Page(), validates ? pageBefore_ : page);
         }
     }
 
-    void AClickTwiceGivesTheSameTextOnce_data() {
-        AddTopics();
-        QTest::newRow("Comprehensive Reading") << QStringLiteral("Comprehensive Reading");
-    }
-    void AClickTwiceGivesTheSameTextOnce() {
-        QFETCH(QString, caption);
-        program_->ProceedWithSomebody();
-        program_->ClickNode(caption);
-        const std::u16string once = program_->ReportText();
-        QVERIFY(!once.empty());
-        program_->ClickNode(caption);
-        QCOMPARE(program_->ReportText(), once);
-    }
+    void ProceedWritesThePersonalMonthThatThePassWorkedOut() {
+        // The pass comes to the Personal Month first and to the names behind it.
+        Enter(u"OAK"_s, {}, u"RIVER5"_s, u"December"_s, 29, 1985);
+        Proceed();
+        // Day 29 gives 2, December 3, November 2, 2026 1.
+        QVERIFY(ReportText().starts_with(u"Your Personal Month is: 8\r\n\r\n"));
+        QCOMPARE(int{store.PersonalMonthNumber}, 8);
 
-    void TheComprehensiveReadingShowsAllTopics() {
-        program_->ProceedWithSomebody();
-        Click("Comprehensive Reading");
-        const std::u16string text = program_->ReportText();
-        std::u16string expected = u"Orravane Comprehensive Reading\r\n\r\n";
-        for (const std::u16string_view caption : modReadings::readingOrder)
-            for (const modReadings::Run &run : modReadings::ExpectedSection(caption))
-                expected += run.text;
-        QCOMPARE(text, expected);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
+        ClickNode(u"Personal Month"_s);
+        // Now a 5 is left of the name, and December counts 5: 2 + 5 + 2 + 1 = 10.
+        QVERIFY(ReportText().starts_with(u"Your Personal Month is: 1\r\n\r\n"));
     }
 
     void KarmicDebtAndHPBridgeAreRightAtTheFirstClickBehindThePass() {
-        program_->Enter(QStringLiteral("sky"), {}, QStringLiteral("lynn"), QStringLiteral("June"),
-                        QStringLiteral("2"), QStringLiteral("1990"));
-        program_->Proceed();
-        QCOMPARE(store.KarmicDebtNumber, std::int16_t{0});
-        Click("Karmic Debt Numbers"); // the two Y make a Soul Urge of 14
-        QVERIFY(program_->ReportText().starts_with(u"Your Karmic Debt Number is: 14\r\n"));
-        Click("H/P Bridge Number"); // 5 and 3
-        QVERIFY(program_->ReportText().starts_with(u"Your HP Bridge Number is: 2\r\n"));
-    }
-
-    void TheUserAndHelpNodesTurnThePageWithoutAnyCheck() {
-        // Nothing is entered: a check would have its message.
-        Click("Help");
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture3);
-        Click("User Information");
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture1);
-        Click("Help");
-        Click("Enter The Information");
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture1);
-        VERIFY_DIALOGS(program_->dialogs);
-    }
-
-    void EnterTurnsThePagesToo() {
-        for (const auto &[caption, page] :
-             std::initializer_list<std::pair<const char *, QWidget *>>{
-                 {"Help", program_->form.Picture3},
-                 {"User Information", program_->form.Picture1},
-                 {"Help", program_->form.Picture3},
-                 {"Enter The Information", program_->form.Picture1},
-                 {"Help", program_->form.Picture3},
-                 {"Reset", program_->form.Picture1}}) {
-            program_->TV.setCurrentItem(Node(caption));
-            QTest::keyClick(&program_->TV, Qt::Key_Return);
-            QCOMPARE(program_->form.FrontPage(), page);
-        }
-    }
-
-    void ThePageInFrontIsTheOneThatIsSeen() {
-        program_->ProceedWithSomebody();
-        const QPoint corner = program_->form.Picture1->geometry().topLeft() + QPoint(2, 2);
-        const auto seen = [&] { return program_->form.picMain->childAt(corner); };
-        QCOMPARE(seen(), program_->form.Picture2);
-        Click("Help");
-        QCOMPARE(seen(), program_->form.Picture3);
-        Click("User Information");
-        QCOMPARE(seen(), program_->form.Picture1);
-        for (QWidget *page : std::initializer_list<QWidget *>{
-                 program_->form.Picture1, program_->form.Picture2, program_->form.Picture3}) {
-            QVERIFY(page->isVisible()); // never hidden, and never moved
-            QCOMPARE(page->geometry(), QRect(315, 56, 297, 347));
-        }
-    }
-
-    void TheReportStaysWhilePagesAreTurned() {
-        program_->ProceedWithSomebody();
-        Click("Balance Number");
-        const std::u16string report = program_->ReportText();
-        Click("Help");
-        Click("User Information");
-        QCOMPARE(program_->ReportText(), report);
-    }
-
-    void NumerologyWithAnEmptyNameAsksForItAndTurnsNoPage() {
-        Click("Help");
-        SeenMessage seen;
-        program_->dialogs.PlanToPress(QMessageBox::Ok, &seen);
-        Click("Numerology");
-        VERIFY_DIALOGS(program_->dialogs);
-        QCOMPARE(seen.text, QStringLiteral("Please Enter Your First Name"));
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture3);
-        QCOMPARE(program_->Focus(), program_->input.txtFirstName);
-    }
-
-    void NumerologyWithAllInputsDoesNothing() {
-        program_->ProceedWithSomebody();
-        Click("Help");
-        const std::u16string report = program_->ReportText();
-        Click("Numerology");
-        VERIFY_DIALOGS(program_->dialogs);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture3);
-        QCOMPARE(program_->ReportText(), report);
-    }
-
-    void TheComprehensiveReadingWithAnEmptyNameKeepsTheReport() {
-        program_->ProceedWithSomebody();
-        const std::u16string report = program_->ReportText();
-        program_->input.txtLastName->clear();
-        SeenMessage seen;
-        program_->dialogs.PlanToPress(QMessageBox::Ok, &seen);
-        Click("Comprehensive Reading");
-        VERIFY_DIALOGS(program_->dialogs);
-        QCOMPARE(seen.text, QStringLiteral("Please Enter Your Last Name"));
-        QCOMPARE(program_->ReportText(), report);
+        Enter(u"sky"_s, {}, u"lynn"_s, u"June"_s, 2, 1990);
+        Proceed();
+        QCOMPARE(int{store.KarmicDebtNumber}, 0);
+        ClickNode(u"Karmic Debt Numbers"_s); // the two Y make a Soul Urge of 14
+        QVERIFY(ReportText().starts_with(u"Your Karmic Debt Number is: 14\r\n"));
+        ClickNode(u"H/P Bridge Number"_s); // 5 and 3
+        QVERIFY(ReportText().starts_with(u"Your HP Bridge Number is: 2\r\n"));
     }
 
     void AClickBeforeAnyProceedReadsAnEmptyProfile() {
-        program_->EnterSomebody();
-        Click("Personal Month"); // 0 + 0 + 2 for November + 1 for 2026
-        QVERIFY(program_->ReportText().starts_with(u"Your Personal Month is: 3\r\n\r\n"));
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
-
-        Click("Enter The Information");
-        Click("Birthday Number");
-        QCOMPARE(program_->ReportText(), std::u16string(u"\r\n\r\n"));
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
-
-        Click("Comprehensive Reading");
-        QVERIFY(program_->ReportText().starts_with(
+        EnterSomebody();
+        ClickNode(u"Personal Month"_s); // 0 + 0 + 2 for November + 1 for 2026
+        QVERIFY(ReportText().starts_with(u"Your Personal Month is: 3\r\n\r\n"));
+        ClickNode(u"Birthday Number"_s);
+        QCOMPARE(ReportText(), u"\r\n\r\n"s);
+        QCOMPARE(Page(), u"Picture2"_s);
+        ClickNode(u"Comprehensive Reading"_s);
+        QVERIFY(ReportText().starts_with(
             u"Orravane Comprehensive Reading\r\n\r\nYour Personal Month is: 3\r\n\r\n"));
-        QVERIFY(program_->ReportText().find(u"BirthDay") == std::u16string::npos);
-        VERIFY_DIALOGS(program_->dialogs);
+        QVERIFY(ReportText().find(u"BirthDay") == std::u16string::npos);
     }
 
-    void ATopicClickFollowsTheClock() {
-        program_->ProceedWithSomebody();
-        Click("Personal Day"); // 2 + 3 + 7 + 2 + 1 = 15
-        QVERIFY(program_->ReportText().starts_with(u"Your Personal Day is: 6\r\n"));
-        program_->clock.Advance(1); // the 17th counts 8
-        Click("Personal Day");
-        QVERIFY(program_->ReportText().starts_with(u"Your Personal Day is: 7\r\n"));
+    void ThePageInFrontIsTheOneThatIsSeen() {
+        const QRect place = form.Picture1->geometry();
+        for (const auto &[caption, page] : std::initializer_list<std::pair<QString, QWidget *>>{
+                 {u"Help"_s, form.Picture3},
+                 {u"Essence"_s, form.Picture2},
+                 {u"User Information"_s, form.Picture1}}) {
+            EnterSomebody();
+            ClickNode(caption);
+            QCOMPARE(form.picMain->childAt(place.topLeft() + QPoint(2, 2)), page);
+            QVERIFY(page->isVisible()); // never hidden, and never moved
+            QCOMPARE(page->geometry(), place);
+        }
     }
 
     // --- What is no click
 
-    void SelectingFromCodeRunsNothing() {
-        program_->ProceedWithSomebody();
-        Click("Help");
-        const std::u16string report = program_->ReportText();
-        program_->TV.setCurrentItem(Node("Essence"));
-        Node("Balance Number")->setSelected(true);
-        QCOMPARE(program_->ReportText(), report);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture3);
-    }
+    void OnlyAClickOnANodeCounts() {
+        PrepareForClickOn(u"Numerology"_s);
+        TV.setFocus();
 
-    void ArrowsAndLettersMoveAndRunNothing() {
-        program_->ProceedWithSomebody();
-        const std::u16string report = program_->ReportText();
-        program_->TV.setFocus();
+        TV.setCurrentItem(Node(u"Balance Number"_s)); // selecting from code
+        Node(u"Balance Number"_s)->setSelected(true);
         for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Home,
                                   Qt::Key_PageDown, Qt::Key_PageUp})
-            QTest::keyClick(&program_->TV, key);
-        QTest::keyClicks(&program_->TV, QStringLiteral("Ess"));
-        QCOMPARE(program_->TV.currentItem(), Node("Essence")); // they do move
-        QCOMPARE(program_->ReportText(), report);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture2);
-        VERIFY_DIALOGS(program_->dialogs);
-    }
+            QTest::keyClick(&TV, key);
+        QTest::keyClicks(&TV, u"Ess"_s);
+        QVERIFY(IsSelected(u"Essence"_s)); // they do move
 
-    void OpeningAndClosingABranchRunsNothing() {
-        PressTriangleOf("Numerology"); // a click on the node itself would ask for a name
-        QVERIFY(Node("Numerology")->isExpanded());
-        PressTriangleOf("Numerology");
-        QVERIFY(!Node("Numerology")->isExpanded());
-        program_->TV.setCurrentItem(Node("Numerology"));
-        QTest::keyClick(&program_->TV, Qt::Key_Right);
-        QVERIFY(Node("Numerology")->isExpanded());
-        QTest::keyClick(&program_->TV, Qt::Key_Left);
-        QVERIFY(!Node("Numerology")->isExpanded());
-        VERIFY_DIALOGS(program_->dialogs);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture1);
-    }
+        TV.collapseAll(); // opening and closing a branch
+        PressTriangleOf(u"Numerology"_s);
+        QVERIFY(Node(u"Numerology"_s)->isExpanded());
+        PressTriangleOf(u"Numerology"_s);
+        QVERIFY(!Node(u"Numerology"_s)->isExpanded());
+        TV.setCurrentItem(Node(u"Numerology"_s));
+        QTest::keyClick(&TV, Qt::Key_Right);
+        QVERIFY(Node(u"Numerology"_s)->isExpanded());
+        QTest::keyClick(&TV, Qt::Key_Left);
+        QVERIFY(!Node(u"Numerology"_s)->isExpanded());
 
-    void ATopicClickOpensAndClosesNoBranch() {
-        program_->ProceedWithSomebody();
-        Node("User Information")->setExpanded(true);
-        Click("Essence");
-        QVERIFY(Node("User Information")->isExpanded());
-        QVERIFY(Node("Numerology")->isExpanded());
-    }
-
-    void AClickBesideTheNodesRunsNothing() {
-        const QRect last = program_->TV.visualItemRect(Node("Help"));
+        const QRect last = TV.visualItemRect(Node(u"Help"_s)); // beside the nodes
         const QPoint below(last.center().x(), last.bottom() + 30);
-        QVERIFY(program_->TV.viewport()->rect().contains(below));
-        QTest::mouseClick(program_->TV.viewport(), Qt::LeftButton, {}, below);
-        VERIFY_DIALOGS(program_->dialogs);
-        QCOMPARE(program_->form.FrontPage(), program_->form.Picture1);
+        QVERIFY(TV.viewport()->rect().contains(below));
+        QTest::mouseClick(TV.viewport(), Qt::LeftButton, {}, below);
+
+        COMPARE_STORE(marked_);
+        QVERIFY(RTB.ShownReport() == someReport_);
+        QCOMPARE(Page(), pageBefore_);
+    }
+
+    void AClickOnATopicOpensAndClosesNoBranch() {
+        EnterSomebody();
+        ClickNode(u"Essence"_s);
+        QVERIFY(Node(u"User Information"_s)->isExpanded());
+        QVERIFY(Node(u"Numerology"_s)->isExpanded()); // by the hand that clicked
+        TV.collapseAll();
+        form.TV_NodeClick(Node(u"Essence"_s));
+        QVERIFY(!Node(u"Numerology"_s)->isExpanded());
     }
 };
 

@@ -31,6 +31,13 @@ protected:
         profile.LastName = std::move(last);
     }
 
+    /// On the clock's day this person is 41, with Life Path 1, Destiny 9, Soul Urge 3 and
+    /// Inner Dreams 6.
+    static void OakRiver() {
+        Named(u"OAK", u"", u"RIVER");
+        Born(u"29", u"December", u"1985");
+    }
+
     /// Monday, 16 November 2026, until a test sets another day.
     FixedClock clock{std::chrono::year(2026) / 11 / 16};
 };

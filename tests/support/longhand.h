@@ -3,10 +3,21 @@
 // The arithmetic once more, as one would do it on paper, for tests that hold the program's
 // own against it.
 
+#include <array>
 #include <string>
 #include <string_view>
 
 namespace longhand {
+
+/// The months that a date can have.
+inline constexpr std::array<std::u16string_view, 12> months{
+    u"January", u"February", u"March",     u"April",   u"May",      u"June",
+    u"July",    u"August",   u"September", u"October", u"November", u"December"};
+
+/// The name of the month 1 to 12, and an unknown one for 0.
+inline std::u16string Month(int month) {
+    return month == 0 ? u"Nivose" : std::u16string(months.at(static_cast<std::size_t>(month - 1)));
+}
 
 /// A number in decimal.
 inline std::u16string Decimal(int value) {

@@ -4,7 +4,7 @@
 // how the program writes: it follows the rules of the format and refuses what a lenient
 // reader would let pass.
 
-#include "report/run_list.h"
+#include "report/report.h"
 
 #include <charconv>
 #include <stdexcept>
@@ -14,11 +14,15 @@
 
 namespace modReadings {
 
+inline bool operator==(const Ink &a, const Ink &b) {
+    return a.red == b.red && a.green == b.green && a.blue == b.blue;
+}
+
 /// One character as a reader shows it. A paragraph's end mark is a plain line feed.
 struct RtfCharacter {
     char16_t unit = 0;
     bool bold = false;
-    Ink ink; ///< black where the file leaves the colour to the reader
+    Ink ink{}; ///< black where the file leaves the colour to the reader
 
     friend bool operator==(const RtfCharacter &, const RtfCharacter &) = default;
 };
@@ -232,17 +236,17 @@ private:
     bool closed_ = false;
     int toSkip_ = 0;
     std::string font_;
-    Ink color_;
+    Ink color_{};
     bool colorIsSet_ = false;
     int colorEntries_ = 0;
     RtfDocument document_;
 };
 
-/// What a file of these runs has to show: their characters, and an end mark for each line
-/// break and for the last paragraph.
-inline std::vector<RtfCharacter> ShownCharacters(const std::vector<Run> &runs) {
+/// What a file of this report has to show: its characters in magenta, and an end mark for
+/// each line break and for the last paragraph.
+inline std::vector<RtfCharacter> ShownCharacters(const Report &report) {
     std::vector<RtfCharacter> characters;
-    for (const Run &run : runs) {
+    for (const Run &run : report) {
         for (std::size_t index = 0; index < run.text.size(); ++index) {
             const char16_t unit = run.text[index];
             const bool pair = unit == u'\r' && run.text.substr(index + 1, 1) == u"\n";
@@ -251,7 +255,7 @@ inline std::vector<RtfCharacter> ShownCharacters(const std::vector<Run> &runs) {
             if (unit == u'\r' || unit == u'\n')
                 characters.push_back({u'\n', false, {}});
             else
-                characters.push_back({unit, run.bold, run.ink});
+                characters.push_back({unit, run.bold, {128, 0, 128}});
         }
     }
     characters.push_back({u'\n', false, {}});

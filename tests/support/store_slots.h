@@ -4,10 +4,16 @@
 // wrote and which it left alone.
 
 #include "core/reading_store.h"
+#include "core/runtime_failure.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <initializer_list>
 #include <iterator>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace modReadings {
@@ -20,45 +26,43 @@ template <typename Type> struct Slot {
 #define SLOT(name)                                                                                 \
     { #name, &ReadingStore::name }
 
-inline constexpr Slot<int16> numberSlots[] = {
-    SLOT(PersonalMonthNumber),
-    SLOT(HiddenPassionNumber),
-    SLOT(LifePathPeriodsNumber),
-    SLOT(PinnacleNumber1),
-    SLOT(PinnacleNumber2),
-    SLOT(PinnacleNumber3),
-    SLOT(PinnacleNumber4),
-    SLOT(SubconsciousSelfNumber),
-    SLOT(LifePathNumber),
-    SLOT(DestinyNumber),
-    SLOT(KarmicDebtNumber),
-    SLOT(BalanceNumber),
-    SLOT(PersonalDayNumber),
-    SLOT(RationalThoughtNumber),
-    SLOT(HPBridgeNumber),
-    SLOT(LEBridgeNumber),
-    SLOT(EssenceNumber),
-    SLOT(RealizationNumber),
-    SLOT(InnerDreamsNumber),
-    SLOT(SoulUrgeNumber),
-    SLOT(LifePathDaySum),
-    SLOT(DestinyRaw),
-    SLOT(SoulUrgeRaw),
-    SLOT(InnerDreamsRaw),
-    SLOT(BirthdayRaw),
-    SLOT(MentalPercent),
-    SLOT(PhysicalPercent),
-    SLOT(EmotionalPercent),
-    SLOT(IntuitivePercent),
-    SLOT(ScratchIndex),
-    SLOT(ScratchSum),
-    SLOT(YUsedAsVowel),
-    SLOT(BirthDayValue),
-    SLOT(PeriodNumber1),
-    SLOT(PeriodNumber2),
-    SLOT(PeriodNumber3),
-    SLOT(PeriodRoot),
-};
+inline constexpr Slot<int16> numberSlots[] = {SLOT(PersonalMonthNumber),
+                                              SLOT(HiddenPassionNumber),
+                                              SLOT(LifePathPeriodsNumber),
+                                              SLOT(PinnacleNumber1),
+                                              SLOT(PinnacleNumber2),
+                                              SLOT(PinnacleNumber3),
+                                              SLOT(PinnacleNumber4),
+                                              SLOT(SubconsciousSelfNumber),
+                                              SLOT(LifePathNumber),
+                                              SLOT(DestinyNumber),
+                                              SLOT(KarmicDebtNumber),
+                                              SLOT(BalanceNumber),
+                                              SLOT(PersonalDayNumber),
+                                              SLOT(RationalThoughtNumber),
+                                              SLOT(HPBridgeNumber),
+                                              SLOT(LEBridgeNumber),
+                                              SLOT(EssenceNumber),
+                                              SLOT(RealizationNumber),
+                                              SLOT(InnerDreamsNumber),
+                                              SLOT(SoulUrgeNumber),
+                                              SLOT(LifePathDaySum),
+                                              SLOT(DestinyRaw),
+                                              SLOT(SoulUrgeRaw),
+                                              SLOT(InnerDreamsRaw),
+                                              SLOT(BirthdayRaw),
+                                              SLOT(MentalPercent),
+                                              SLOT(PhysicalPercent),
+                                              SLOT(EmotionalPercent),
+                                              SLOT(IntuitivePercent),
+                                              SLOT(ScratchIndex),
+                                              SLOT(ScratchSum),
+                                              SLOT(YUsedAsVowel),
+                                              SLOT(BirthDayValue),
+                                              SLOT(PeriodNumber1),
+                                              SLOT(PeriodNumber2),
+                                              SLOT(PeriodNumber3),
+                                              SLOT(PeriodRoot)};
 
 inline constexpr Slot<std::u16string> textSlots[] = {
     SLOT(PersonalMonthText),     SLOT(PersonalMonthAbout),   SLOT(BirthdayText),
@@ -134,6 +138,15 @@ inline SlotNames Kept(const ReadingStore &a, const ReadingStore &b) {
     return SlotsWhere(a, b, [](const auto &left, const auto &right) { return left == right; });
 }
 
+/// The slots whose names begin with one of these.
+inline SlotNames SlotsOf(std::initializer_list<std::string_view> beginnings) {
+    SlotNames all = SlotsWhere(store, store, [](const auto &, const auto &) { return true; });
+    std::erase_if(all, [&](const std::string &name) {
+        return std::ranges::none_of(beginnings, [&](auto part) { return name.starts_with(part); });
+    });
+    return all;
+}
+
 /// The slots in which the store differs from `before`. ScratchIndex is left out: it is the
 /// index of whatever walk came last and no result.
 inline SlotNames ChangedSince(const ReadingStore &before) {
@@ -154,6 +167,18 @@ inline ReadingStore MarkedStore() {
         marked.*member =
             u"old " + std::u16string(name, name + std::char_traits<char>::length(name));
     return marked;
+}
+
+/// The slots that `calculate` writes in a marked store.
+template <typename Calculate> SlotNames WrittenBy(Calculate calculate) {
+    const ReadingStore marked = store = MarkedStore();
+    calculate();
+    return ChangedSince(marked);
+}
+
+/// The slots that `calculate` writes in a marked store before it fails, as it must.
+template <typename Calculate> SlotNames WrittenBeforeFailure(Calculate calculate) {
+    return WrittenBy([&] { EXPECT_THROW(calculate(), RuntimeFailure); });
 }
 
 } // namespace modReadings

@@ -1,10 +1,11 @@
 #pragma once
 
-// A complaint of orravane-report: one line on standard error that begins with the
-// program's name.
+// How orravane-report says no: a Refusal within its library, one line on standard error
+// that begins with the program's name from outside.
 
 #include "tests/tools/program.h"
-#include "tools/excerpt.h"
+#include "tools/refusal.h"
+#include "tools/text.h"
 
 #include <gtest/gtest.h>
 
@@ -17,16 +18,34 @@ inline std::string Shown(const std::string &path) {
     return Excerpt(QString::fromStdString(path)).toStdString();
 }
 
-/// Expects exactly one line, without control characters, that holds all of `parts`.
-inline void ExpectOneLine(const std::string &err, const std::vector<std::string> &parts) {
-    EXPECT_TRUE(err.starts_with("orravane-report: ")) << err;
-    ASSERT_TRUE(err.ends_with('\n')) << err;
-    const std::string line = err.substr(0, err.size() - 1);
+/// Expects a line without control characters that holds all of `parts`.
+inline void ExpectLine(const std::string &line, const std::vector<std::string> &parts) {
     EXPECT_TRUE(std::ranges::none_of(line, [](char c) {
         return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
     })) << line;
     for (const std::string &part : parts)
         EXPECT_NE(line.find(part), std::string::npos) << "\"" << part << "\" in: " << line;
+}
+
+/// The line with which `call` refuses, as the program would print it. Fails the test when it
+/// does not.
+template <typename Call> std::string RefusalOf(Call call, ExitCode code = ExitCode::WrongInput) {
+    try {
+        call();
+    } catch (const Refusal &refusal) {
+        EXPECT_EQ(refusal.Code(), code);
+        EXPECT_FALSE(refusal.Line().isEmpty());
+        return OneLine(refusal.Line());
+    }
+    ADD_FAILURE() << "not refused";
+    return {};
+}
+
+/// Expects exactly one line on standard error that holds all of `parts`.
+inline void ExpectOneLine(const std::string &err, const std::vector<std::string> &parts) {
+    EXPECT_TRUE(err.starts_with("orravane-report: ")) << err;
+    ASSERT_TRUE(err.ends_with('\n')) << err;
+    ExpectLine(err.substr(0, err.size() - 1), parts);
 }
 
 /// Expects that the program refused its input: exit code 2, nothing written, one line.

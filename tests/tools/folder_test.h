@@ -36,9 +36,11 @@ protected:
         return path;
     }
 
+    using FileMap = std::map<std::string, std::string>;
+
     /// The files below `folder` by name, with their bytes. Folders end in a slash.
-    static std::map<std::string, std::string> Files(const std::string &folder) {
-        std::map<std::string, std::string> files;
+    static FileMap Files(const std::string &folder) {
+        FileMap files;
         for (const auto &entry : std::filesystem::recursive_directory_iterator(folder)) {
             const std::string name =
                 std::filesystem::relative(entry.path(), folder).generic_string();
@@ -51,7 +53,7 @@ protected:
     }
 
     /// The files of the test's own folder.
-    std::map<std::string, std::string> Files() const { return Files(Path("")); }
+    FileMap Files() const { return Files(Path("")); }
 
 private:
     QTemporaryDir folder_;

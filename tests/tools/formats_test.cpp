@@ -1,57 +1,45 @@
 #include "tools/formats.h"
 
 #include "core/clock.h"
-#include "core/user_profile.h"
+#include "report/person.h"
+#include "tests/support/rtf_reader.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <gtest/gtest.h>
 
 using modReadings::BookEntry;
-using modReadings::profile;
-using modReadings::Run;
+using modReadings::RtfReader;
 
 namespace {
 
-std::vector<TopicReading> TwoTopics() {
-    return {{u"One", u" 3 7", {{u"Heading: 3\r\n\r\n", true, {}}, {u"Text\r\nof it", false, {}}}},
-            {u"Two", u"", {{u"Other\r\n\r\n", true, {}}, {u"", false, {}}}}};
+/// A reading of two topics, the first of which ends without a line break.
+PersonReading TwoTopics() {
+    return {{u"ANN", u"", u"LEE \"É\"", u"March", u"7", u"1990"},
+            std::chrono::year(2026) / 3 / 5,
+            {{u"One", u" 3 7", {{u"Heading: 3\r\n\r\n", true}, {u"Text\r\nof it", false}}},
+             {u"Two", u"", {{u"Other\r\n\r\n", true}, {u"", false}}}}};
 }
 
-TEST(ToUtf8, EncodesEveryPlane) {
-    EXPECT_EQ(ToUtf8(u""), "");
-    EXPECT_EQ(ToUtf8(u"plain text"), "plain text");
-    EXPECT_EQ(ToUtf8(u"\x7F\x80é€😀"), "\x7F\xC2\x80\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
-    EXPECT_EQ(ToUtf8(std::u16string_view(u"A\0B", 3)), std::string("A\0B", 3));
+/// All that can be read of a person, by every caption.
+PersonReading Everything() {
+    const modReadings::FixedClock clock(std::chrono::year(2026) / 11 / 16);
+    std::vector<std::u16string_view> captions = AllCaptions();
+    captions.push_back(KnownCaption(u"Comprehensive Reading"));
+    return ReadPerson(modReadings::Captured({"Zoë", {}, "Strauß 😀", "May", "29", "1985"}),
+                      captions);
 }
 
-TEST(ToUtf8, ReplacesASurrogateWithoutItsPartner) {
-    const std::string replacement = "\xEF\xBF\xBD"; // U+FFFD
-    EXPECT_EQ(ToUtf8(std::u16string{u'A', 0xD83D, u'B'}), "A" + replacement + "B");
-    EXPECT_EQ(ToUtf8(std::u16string{u'A', 0xDE00}), "A" + replacement);
-    EXPECT_EQ(ToUtf8(std::u16string{0xD83D}), replacement);
-    EXPECT_EQ(ToUtf8(std::u16string{0xDE00, 0xD83D}), replacement + replacement);
+TEST(ReadingAsText, HasPlainBreaksAndAnEmptyLineBetweenTopics) {
+    EXPECT_EQ(ReadingAsText(TwoTopics()), "Heading: 3\n\nText\nof it\n\nOther\n\n");
+    EXPECT_EQ(ReadingAsText({}), "");
 }
 
-TEST(ReadingsAsText, HasPlainBreaksAndAnEmptyLineBetweenTopics) {
-    EXPECT_EQ(ReadingsAsText(TwoTopics()), "Heading: 3\n\nText\nof it\n\nOther\n\n");
-    EXPECT_EQ(ReadingsAsText({}), "");
-}
-
-TEST(ReadingsAsText, EndsInALineBreakAlways) {
-    const std::vector<TopicReading> one{{u"One", u"", {{u"Text", false, {}}}}};
-    EXPECT_EQ(ReadingsAsText(one), "Text\n");
-}
-
-class FormatsOfAPerson : public testing::Test {
-protected:
-    FormatsOfAPerson() { profile = {u"ANN", u"", u"LEE \"É\"", u"March", u"7", u"1990"}; }
-    ~FormatsOfAPerson() override { profile = {}; }
-
-    modReadings::FixedClock clock{std::chrono::year(2026) / 3 / 5};
-};
-
-TEST_F(FormatsOfAPerson, JsonHasThePersonTheDayAndTheRuns) {
+TEST(ReadingAsJson, HasThePersonTheDayAndTheRuns) {
     EXPECT_EQ(
-        ReadingsAsJson(TwoTopics()),
+        ReadingAsJson(TwoTopics()),
         R"({"first":"ANN","middle":"","last":"LEE \"É\"","month":"March","day":7,)"
         R"("year":1990,"today":"2026-03-05","topics":[)"
         R"({"caption":"One","number":" 3 7","runs":[)"
@@ -61,17 +49,56 @@ TEST_F(FormatsOfAPerson, JsonHasThePersonTheDayAndTheRuns) {
         "\n");
 }
 
-TEST_F(FormatsOfAPerson, JsonWritesTheDayWithFourDigitsOfTheYear) {
-    clock.Set(std::chrono::year(26) / 12 / 31);
-    EXPECT_NE(ReadingsAsJson({}).find(R"("today":"0026-12-31","topics":[])"), std::string::npos);
+TEST(ReadingAsJson, WritesTheDayWithFourDigitsOfTheYear) {
+    PersonReading reading = TwoTopics();
+    reading.day = std::chrono::year(26) / 12 / 31;
+    reading.topics.clear();
+    EXPECT_NE(ReadingAsJson(reading).find(R"("today":"0026-12-31","topics":[])"),
+              std::string::npos);
 }
 
-TEST_F(FormatsOfAPerson, OneFunctionChoosesAmongTheFormats) {
-    const auto topics = TwoTopics();
-    EXPECT_EQ(ReadingsAs(Format::Text, topics), ReadingsAsText(topics));
-    EXPECT_EQ(ReadingsAs(Format::Json, topics), ReadingsAsJson(topics));
-    EXPECT_EQ(ReadingsAs(Format::Rtf, topics), ReadingsAsRtf(topics));
-    EXPECT_TRUE(ReadingsAsRtf(topics).starts_with("{\\rtf1"));
+TEST(ReadingAsJson, EscapesWhatANameMayHold) {
+    PersonReading reading = TwoTopics();
+    reading.person.FirstName = u"AN\"N\\\t\x7F\x01\n😀";
+    EXPECT_TRUE(ReadingAsJson(reading).starts_with("{\"first\":\"AN\\\"N\\\\\\t\x7F\\u0001\\n😀\""));
+}
+
+// What an independent reader of JSON gets back is the reading.
+TEST(ReadingAsJson, ComesBackRunByRun) {
+    const PersonReading reading = Everything();
+    const QJsonArray topics =
+        QJsonDocument::fromJson(QByteArray::fromStdString(ReadingAsJson(reading)))["topics"]
+            .toArray();
+    ASSERT_EQ(static_cast<std::size_t>(topics.size()), reading.topics.size());
+    for (std::size_t index = 0; index < reading.topics.size(); ++index) {
+        const QJsonValue topic = topics[static_cast<qsizetype>(index)];
+        EXPECT_EQ(topic["caption"].toString().toStdU16String(), reading.topics[index].caption);
+        EXPECT_EQ(topic["number"].toString().toStdU16String(), reading.topics[index].number);
+        modReadings::Report report;
+        for (const QJsonValue run : topic["runs"].toArray())
+            report.push_back({run["text"].toString().toStdU16String(), run["bold"].toBool()});
+        EXPECT_TRUE(report == reading.topics[index].report) << index;
+    }
+}
+
+TEST(ReadingAsRtf, ShowsEveryTopicByItself) {
+    PersonReading one = Everything();
+    for (const TopicReading &topic : Everything().topics) {
+        one.topics = {topic};
+        EXPECT_TRUE(RtfReader::Read(ReadingAsRtf(one)).characters == ShownCharacters(topic.report));
+    }
+}
+
+TEST(ReadingAsRtf, IsOneDocumentWithAnEmptyLineBetweenTopics) {
+    const std::string rtf = ReadingAsRtf(TwoTopics());
+    EXPECT_EQ(RtfReader::Read(rtf).Text(), u"Heading: 3\n\nText\nof it\n\nOther\n\n\n");
+}
+
+TEST(ReadingAs, ChoosesAmongTheFormats) {
+    const PersonReading reading = TwoTopics();
+    EXPECT_EQ(ReadingAs(Format::Text, reading), ReadingAsText(reading));
+    EXPECT_EQ(ReadingAs(Format::Json, reading), ReadingAsJson(reading));
+    EXPECT_EQ(ReadingAs(Format::Rtf, reading), ReadingAsRtf(reading));
 }
 
 TEST(ErrorAsJson, IsAnObjectInOneLine) {
@@ -88,13 +115,20 @@ TEST(BookAsText, NamesSlotAndNumberOverEachText) {
     EXPECT_EQ(BookAsText({}), "");
 }
 
-TEST(BookAsJson, HasNullForAFixedText) {
-    const std::vector<BookEntry> book{{"OneText", 0, u"First\r\nline"},
-                                      {"OneAbout", std::nullopt, u"é"}};
-    std::string json = BookAsJson(book);
-    std::erase_if(json, [](char c) { return c == ' ' || c == '\n'; });
-    EXPECT_EQ(json, R"([{"slot":"OneText","number":0,"text":"First\r\nline"},)"
-                    R"({"slot":"OneAbout","number":null,"text":"é"}])");
+TEST(BookAsJson, ComesBackEntryByEntry) {
+    std::vector<BookEntry> book = modReadings::Book();
+    book.push_back({"Zero", 0, u"é\r\n\"😀"});
+    const std::string bytes = BookAsJson(book);
+    EXPECT_TRUE(bytes.ends_with("]\n"));
+    const QJsonArray json = QJsonDocument::fromJson(QByteArray::fromStdString(bytes)).array();
+    ASSERT_EQ(static_cast<std::size_t>(json.size()), book.size());
+    for (std::size_t index = 0; index < book.size(); ++index) {
+        const auto &[slot, number, text] = book[index];
+        EXPECT_EQ(json[static_cast<qsizetype>(index)].toObject(),
+                  (QJsonObject{{"slot", QString::fromStdString(slot)},
+                               {"number", number ? QJsonValue(int{*number}) : QJsonValue()},
+                               {"text", QString::fromStdU16String(text)}}));
+    }
 }
 
 } // namespace

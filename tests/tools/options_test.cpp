@@ -1,153 +1,259 @@
 #include "tools/options.h"
 
+#include "tests/support/expected_report.h"
+#include "tests/tools/complaint.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
+
+using modReadings::ExpectedTopic;
+using modReadings::passTopics;
 
 namespace {
 
-const QStringList ann{"orravane-report", "--first", "Ann", "--last", "Lee", "--month",
-                      "March",           "--day",   "7",   "--year", "1990"};
-
-std::optional<Options> Parsed(const QStringList &arguments) {
-    QString complaint;
-    const auto options = ParseOptions(arguments, complaint);
-    EXPECT_EQ(complaint.isEmpty(), options.has_value()) << complaint.toStdString();
-    return options;
+/// The options of `arguments`, taken as the program takes them. A refusal goes through.
+Options Parsed(const Arguments &arguments) {
+    std::vector<const char *> argv{"orravane-report"};
+    QStringList words{"orravane-report"};
+    for (const std::string &argument : arguments) {
+        argv.push_back(argument.c_str());
+        words << QString::fromStdString(argument);
+    }
+    RequireUtf8(static_cast<int>(argv.size()), argv.data());
+    return ParseOptions(words);
 }
 
-std::string ComplaintAbout(const QStringList &arguments) {
-    QString complaint;
-    EXPECT_FALSE(ParseOptions(arguments, complaint).has_value());
-    return complaint.toStdString();
+/// Expects that `arguments` are refused in one line with all of `parts`.
+void ExpectWrong(const Arguments &arguments, const std::vector<std::string> &parts) {
+    SCOPED_TRACE(testing::PrintToString(arguments));
+    ExpectLine(RefusalOf([&] { Parsed(arguments); }), parts);
 }
 
 TEST(ParseOptions, OfOnePerson) {
-    const auto options = Parsed(ann + QStringList{"--middle", " M "});
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->task, Options::Task::Person);
-    EXPECT_EQ(options->person.first, "Ann");
-    EXPECT_EQ(options->person.middle, " M ");
-    EXPECT_EQ(options->person.last, "Lee");
-    EXPECT_EQ(options->person.month, "March");
-    EXPECT_EQ(options->person.day, "7");
-    EXPECT_EQ(options->person.year, "1990");
-    EXPECT_EQ(options->format, Format::Text);
-    EXPECT_FALSE(options->today);
-    EXPECT_EQ(options->output, "");
-    EXPECT_EQ(options->topics.size(), 22U);
+    for (const Arguments &arguments :
+         {Arguments{"--first", "Ann", "--middle", " M ", "--last", "--day", "--month", "March",
+                    "--day", "7", "--year", "1990"},
+          Arguments{"--year=1990", "--day=7", "--month=March", "--last=--day", "--middle= M ",
+                    "--first=Ann"}}) {
+        const Options options = Parsed(arguments);
+        EXPECT_EQ(options.task, Options::Task::Person);
+        EXPECT_EQ(options.person.first, "Ann");
+        EXPECT_EQ(options.person.middle, " M ");
+        EXPECT_EQ(options.person.last, "--day"); // the next word is the value, dashes or not
+        EXPECT_EQ(options.person.month, "March");
+        EXPECT_EQ(options.person.day, "7");
+        EXPECT_EQ(options.person.year, "1990");
+        EXPECT_EQ(options.format, Format::Text);
+        EXPECT_FALSE(options.today);
+        EXPECT_EQ(options.output, "");
+        EXPECT_TRUE(
+            std::ranges::equal(options.topics, passTopics, {}, {}, &ExpectedTopic::caption));
+    }
 }
 
 // What a person's inputs may be is checked where one is read, on the command line or not.
 TEST(ParseOptions, LeavesTheInputsOfAPersonUnchecked) {
-    const auto options = Parsed({"orravane-report", "--month", "13"});
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->person.month, "13");
-    EXPECT_EQ(options->person.first, "");
+    EXPECT_EQ(Parsed({"--month", "13"}).person.month, "13");
+    EXPECT_EQ(Parsed({}).person.first, "");
 }
 
 TEST(ParseOptions, TakesFormatDayTopicsAndFile) {
-    const auto options = Parsed(ann + QStringList{"--format", "rtf", "--today", "2024-02-29",
-                                                  "--output", "f", "--topic", "Essence", "--topic",
-                                                  "Comprehensive Reading", "--topic", "Essence"});
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->format, Format::Rtf);
-    EXPECT_EQ(options->today, std::chrono::year(2024) / 2 / 29);
-    EXPECT_EQ(options->output, "f");
-    EXPECT_EQ(options->topics,
+    const Options options =
+        Parsed(ann + Arguments{"--format", "rtf", "--output", "f", "--topic", "Essence", "--topic",
+                               "Comprehensive Reading", "--topic", "Essence"});
+    EXPECT_EQ(options.format, Format::Rtf);
+    EXPECT_EQ(options.today, std::chrono::year(2026) / 11 / 16);
+    EXPECT_EQ(options.output, "f");
+    EXPECT_EQ(options.topics,
               (std::vector<std::u16string_view>{u"Essence", u"Comprehensive Reading", u"Essence"}));
-    EXPECT_EQ(Parsed(ann + QStringList{"--format", "json"})->format, Format::Json);
-    EXPECT_EQ(Parsed(ann + QStringList{"--format", "text"})->format, Format::Text);
+    EXPECT_EQ(Parsed({"--format", "json"}).format, Format::Json);
+    EXPECT_EQ(Parsed({"--format", "text"}).format, Format::Text);
+    EXPECT_EQ(Parsed({"--today", "2024-02-29"}).today, std::chrono::year(2024) / 2 / 29);
+    for (const ExpectedTopic &topic : passTopics)
+        EXPECT_EQ(Parsed({"--topic", ToUtf8(topic.caption)}).topics,
+                  std::vector<std::u16string_view>{topic.caption});
 }
 
 TEST(ParseOptions, OfABatch) {
-    const auto lines = Parsed({"orravane-report", "--batch", "-"});
-    ASSERT_TRUE(lines);
-    EXPECT_EQ(lines->task, Options::Task::Batch);
-    EXPECT_EQ(lines->batchFile, "-");
-    EXPECT_EQ(lines->format, Format::Json);
+    const Options lines = Parsed({"--batch", "-"});
+    EXPECT_EQ(lines.task, Options::Task::Batch);
+    EXPECT_EQ(lines.batchFile, "-");
+    EXPECT_EQ(lines.format, Format::Json);
+    EXPECT_EQ(Parsed({"--batch", "-", "--format", "json"}).format, Format::Json);
 
-    const auto files = Parsed({"orravane-report", "--batch", "p.csv", "--output-dir", "d"});
-    ASSERT_TRUE(files);
-    EXPECT_EQ(files->batchFile, "p.csv");
-    EXPECT_EQ(files->outputDir, "d");
-    EXPECT_EQ(files->format, Format::Text);
-    EXPECT_EQ(
-        Parsed({"orravane-report", "--batch", "-", "--output-dir", "d", "--format", "rtf"})->format,
-        Format::Rtf);
+    const Options files = Parsed({"--batch", "p.csv", "--output-dir", "d"});
+    EXPECT_EQ(files.batchFile, "p.csv");
+    EXPECT_EQ(files.outputDir, "d");
+    EXPECT_EQ(files.format, Format::Text);
+    EXPECT_EQ(Parsed({"--batch", "-", "--output-dir", "d", "--format", "rtf"}).format, Format::Rtf);
 }
 
 TEST(ParseOptions, OfTheBookHelpAndVersion) {
-    const auto book = Parsed({"orravane-report", "--book", "--format", "json"});
-    ASSERT_TRUE(book);
-    EXPECT_EQ(book->task, Options::Task::Book);
-    EXPECT_EQ(book->format, Format::Json);
-    const auto help = Parsed({"orravane-report", "--help"});
-    ASSERT_TRUE(help);
-    EXPECT_EQ(help->task, Options::Task::Help);
-    EXPECT_TRUE(help->help.contains("--output-dir"));
-    EXPECT_EQ(Parsed({"orravane-report", "--version"})->task, Options::Task::Version);
+    const Options book = Parsed({"--book", "--format", "json", "--output", "f"});
+    EXPECT_EQ(book.task, Options::Task::Book);
+    EXPECT_EQ(book.format, Format::Json);
+    EXPECT_EQ(book.output, "f");
+    EXPECT_EQ(Parsed({"--book"}).format, Format::Text);
+    EXPECT_EQ(Parsed({"--version"}).task, Options::Task::Version);
 }
 
-TEST(ParseOptions, NamesTheOptionAndWhatIsAllowed) {
-    EXPECT_NE(ComplaintAbout(ann + QStringList{"--format", "doc"}).find("text, json or rtf"),
-              std::string::npos);
-    EXPECT_NE(ComplaintAbout(ann + QStringList{"--today", "1.1.2026"}).find("YYYY-MM-DD"),
-              std::string::npos);
-    EXPECT_NE(ComplaintAbout({"orravane-report", "--month"}).find("1 to 12"), std::string::npos);
-    const std::string twice = ComplaintAbout(ann + QStringList{"--day", "8"});
-    EXPECT_NE(twice.find("--day"), std::string::npos);
-    const std::string both = ComplaintAbout({"orravane-report", "--book", "--batch", "-"});
-    EXPECT_NE(both.find("--book"), std::string::npos);
-    EXPECT_NE(both.find("--batch"), std::string::npos);
+// Help comes before what else is missing or wrong.
+TEST(ParseOptions, HelpTellsEveryOptionAndWhatIsAllowed) {
+    for (const Arguments &arguments :
+         {Arguments{"--help"}, Arguments{"--format", "html", "--help"}, Arguments{"--help", "Ann"},
+          Arguments{"--book", "--batch", "-", "--help"}}) {
+        const Options options = Parsed(arguments);
+        EXPECT_EQ(options.task, Options::Task::Help);
+        for (const char *part :
+             {"--first",      "--middle", "--last",    "--month",  "--day",   "--year",
+              "--today",      "--topic",  "--format",  "--output", "--book",  "--batch",
+              "--output-dir", "--help",   "--version", "1 to 12",  "1 to 31", "1900 to 2050",
+              "YYYY-MM-DD",   "text",     "json",      "rtf"})
+            EXPECT_TRUE(options.help.contains(part)) << part;
+    }
 }
+
+/// The options that take a value, and what the help says that it is.
+constexpr std::pair<const char *, const char *> valued[]{
+    {"--first", "NAME"},       {"--middle", "NAME"},
+    {"--last", "NAME"},        {"--month", "an English month name or 1 to 12"},
+    {"--day", "1 to 31"},      {"--year", "1900 to 2050"},
+    {"--today", "YYYY-MM-DD"}, {"--topic", "CAPTION"},
+    {"--format", "text"},      {"--output", "FILE"},
+    {"--batch", "FILE"},       {"--output-dir", "DIR"}};
 
 // Only the option that is really without one, not its name as the value of another.
 TEST(ParseOptions, TellsWhichValueIsMissing) {
-    EXPECT_TRUE(ComplaintAbout(ann + QStringList{"--topic"}).starts_with("--topic: the value"));
-    EXPECT_TRUE(ComplaintAbout({"orravane-report", "--bogus", "--first", "--last"})
-                    .starts_with("Unknown option \"bogus\""));
-    EXPECT_NE(ComplaintAbout({"orravane-report", "--book=x", "--first", "--last"}).find("'--book'"),
-              std::string::npos);
-    EXPECT_EQ(Parsed({"orravane-report", "--first", "--last"})->person.first, "--last");
+    for (const auto &[option, allowed] : valued)
+        ExpectWrong({"--help", option}, {std::string(option) + ": the value is missing", allowed});
+    ExpectWrong({"--bogus", "--first", "--last"}, {"Unknown option \"bogus\""});
+    ExpectWrong({"--book=x", "--first", "--last"}, {"'--book'"});
 }
 
-/// The complaint about arguments that are not all UTF-8; empty when they are.
-std::string NotUtf8(std::vector<const char *> arguments) {
-    arguments.insert(arguments.begin(), "orravane-report");
-    QString complaint;
-    const bool all = AreUtf8(static_cast<int>(arguments.size()), arguments.data(), complaint);
-    EXPECT_EQ(all, complaint.isEmpty());
-    return complaint.toStdString();
+TEST(ParseOptions, TakesEveryOptionButTopicOnce) {
+    for (const auto &[option, allowed] : valued)
+        if (std::string_view(option) != "--topic") {
+            ExpectWrong({option, "x", option, "y"}, {std::string(option) + " is given more than"});
+            ExpectWrong({option, "x", option, "x"}, {std::string(option) + " is given more than"});
+        }
+    ExpectWrong({"--book", "--book"}, {"--book is given more than once"});
 }
 
-TEST(AreUtf8, TakesEveryCharacter) {
-    EXPECT_EQ(NotUtf8({}), "");
-    // The replacement character is one like others.
-    EXPECT_EQ(NotUtf8({"--first", "Zoë 😀", "--last=Ōe", "", "\xEF\xBF\xBD", "-"}), "");
+TEST(ParseOptions, RefusesOptionsThatDoNotGoTogether) {
+    for (const char *person : {"--first", "--middle", "--last", "--month", "--day", "--year"}) {
+        ExpectWrong({"--book", person, "3"}, {person, "--book"});
+        ExpectWrong({"--batch", "-", person, "3"}, {person, "--batch"});
+    }
+    ExpectWrong({"--book", "--batch", "-"}, {"--book", "--batch"});
+    ExpectWrong({"--book", "--today", "2026-11-16"}, {"--today", "--book"});
+    ExpectWrong({"--book", "--topic", "Essence"}, {"--topic", "--book"});
+    ExpectWrong({"--book", "--format", "rtf"}, {"--format", "rtf", "--book"});
+    ExpectWrong({"--book", "--output-dir", "d"}, {"--output-dir", "--batch"});
+    ExpectWrong(ann + Arguments{"--output-dir", "d"}, {"--output-dir", "--batch"});
+    for (const char *format : {"text", "rtf"})
+        ExpectWrong({"--batch", "-", "--format", format}, {"--format", "--batch", "--output-dir"});
+    ExpectWrong({"--batch", "-", "--output-dir", "d", "--format", "json"},
+                {"--format", "--output-dir", "text", "rtf"});
+    ExpectWrong({"--batch", "-", "--output-dir", "d", "--output", "f"},
+                {"--output does", "--output-dir"});
 }
 
-TEST(AreUtf8, NamesTheOptionOfTheValueThatIsNot) {
-    // Latin 1, a stray byte, a sequence cut short, an overlong one and a surrogate.
-    for (const char *value : {"Zo\xEB", "A\xFF", "A\xC3", "A\xC0\xAF", "A\xED\xA0\xBD"})
-        EXPECT_TRUE(NotUtf8({"--book", "--first", value}).starts_with("--first: \""));
-    EXPECT_TRUE(NotUtf8({"--first", "A", "--last=\xFF"}).starts_with("--last: \""));
-    EXPECT_TRUE(NotUtf8({"--first", "--last", "--month", "\xFF"}).starts_with("--month: \""));
-    EXPECT_TRUE(NotUtf8({"--first", "--last=\xFF"}).starts_with("--first: \""));
+TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
+    struct Values {
+        const char *option;
+        std::string allowed;
+        std::vector<std::string> wrong;
+    };
+    for (const auto &[option, allowed, wrong] :
+         std::vector<Values>{{"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
+                             {"--topic",
+                              "Comprehensive Reading",
+                              {"", "Lucky Number", "personal day", "ESSENCE", "Essence ",
+                               "Ess\nence", "Destiny / Expression Number", "comprehensive reading",
+                               // Nodes of the tree that are no topics.
+                               "Numerology", "Help", "Reset"}},
+                             {"--today",
+                              "YYYY-MM-DD",
+                              {"", "2026-02-30", "2026-02-29", "2100-02-29", "2026-04-31",
+                               "2026-13-01", "2026-00-01", "2026-01-00", "2026-1-5", "26-01-05",
+                               "05-01-2026", "2026/01/05", "2026-01-05 ", "2026-01-05T00:00",
+                               "2026-01-05\n", "today", "1.1.2026", "0000-01-01", "٢٠٢٦-٠١-٠٥"}}})
+        for (const std::string &value : wrong)
+            ExpectWrong({option, value}, {option + std::string(": \"") +
+                                              OneLine(QString::fromStdString(value)) + "\" is not",
+                                          allowed});
+    ExpectWrong({"--topic", "Essence", "--topic", "Essences"}, {"--topic: \"Essences\""});
+    ExpectWrong(ann + Arguments{"--output", ""}, {"--output is empty"});
+    ExpectWrong({"--batch", ""}, {"--batch is empty"});
+    ExpectWrong({"--batch", "-", "--output-dir", ""}, {"--output-dir is empty"});
 }
 
-TEST(AreUtf8, NamesNoOptionWhereNoneTakesTheArgument) {
-    for (const std::vector<const char *> &arguments : {std::vector{"\xFF"},
-                                                       {"--first", "A", "\xFF"},
-                                                       {"--first", "--last", "\xFF"},
-                                                       {"--book", "\xFF"},
-                                                       {"--\xFF=1"},
-                                                       {"--bogus=\xFF"}})
-        EXPECT_TRUE(NotUtf8(arguments).starts_with("\"")) << NotUtf8(arguments);
+TEST(ParseOptions, RefusesWhatIsNoOption) {
+    for (const auto &[arguments, part] : std::vector<std::pair<Arguments, std::string>>{
+             {{"--bogus"}, "\"bogus\"; see --help"},
+             {{"--bogus=1"}, "\"bogus\""},
+             {{"--bo\ngus"}, "\"bo\\ngus\""},
+             {{"-x"}, "\"x\""},
+             {{"--FORMAT", "json"}, "\"FORMAT\""},
+             {{"--form", "json"}, "\"form\""},
+             {{"Ann"}, "\"Ann\" is not an option"},
+             {{"A\nnn"}, "\"A\\nnn\" is not an option"},
+             {{"--", "--day"}, "\"--day\" is not an option"},
+             {{""}, "\"\" is not an option"},
+             {{"-"}, "\"-\" is not an option"},
+             {{"--book", "LifePathText"}, "\"LifePathText\" is not an option"},
+             {{"--book=all"}, "'--book'"},
+             {{"--version=1"}, "'--version'"},
+             {{"--help=me"}, "'--help'"}}) {
+        ExpectWrong(arguments, {part});
+    }
 }
 
-TEST(AreUtf8, DoesNotMindTheNameOfTheProgram) {
+TEST(ParseOptions, QuotesNoMoreThanAnExcerpt) {
+    const std::string much(100'000, 'x');
+    const std::string shown = '"' + std::string(37, 'x') + "..." + std::string(20, 'x') + '"';
+    for (const Arguments &arguments :
+         {Arguments{"--today", much}, Arguments{"--topic", much}, Arguments{"--format", much},
+          Arguments{"--" + much}, Arguments{"--" + much + "=1"}, Arguments{much},
+          Arguments{"--first", much + '\xFF'}}) {
+        const std::string line = RefusalOf([&] { Parsed(arguments); });
+        EXPECT_LT(line.size(), 250U) << line;
+        if (arguments.back().back() == '\xFF')
+            continue;
+        ExpectLine(line, {shown});
+    }
+}
+
+// Latin 1, a stray byte, a sequence cut short, an overlong one and a surrogate.
+TEST(RequireUtf8, NamesTheOptionOfTheValueThatIsNot) {
+    for (const std::string value : {"Zo\xEB", "A\xFF", "A\xC3", "A\xC0\xAF", "A\xED\xA0\xBD"})
+        for (const auto &[option, allowed] : valued) {
+            ExpectWrong({"--book", option, value},
+                        {std::string(option) + ": \"", "is not UTF-8; give a text in UTF-8"});
+            ExpectWrong({"--first", "A", option + ('=' + value)}, {std::string(option) + ": \""});
+        }
+    ExpectWrong({"--first", "--last", "--month", "\xFF"}, {"--month: \""});
+    ExpectWrong({"--first", "--last=\xFF"}, {"--first: \""});
+}
+
+TEST(RequireUtf8, NamesNoOptionWhereNoneTakesTheArgument) {
+    for (const Arguments &arguments : std::vector<Arguments>{{"\xFF"},
+                                                             {"--first", "A", "\xFF"},
+                                                             {"--first", "--last", "\xFF"},
+                                                             {"--book", "\xFF"},
+                                                             {"--\xFF=1"},
+                                                             {"--bogus=\xFF"}}) {
+        const std::string line = RefusalOf([&] { Parsed(arguments); });
+        EXPECT_TRUE(line.starts_with('"')) << line;
+    }
+}
+
+TEST(RequireUtf8, TakesEveryCharacterAndAnyNameOfTheProgram) {
+    EXPECT_NO_THROW(
+        Parsed({"--first", "Zoë 😀", "--last=Ōe", "--middle", "", "--month", "\xEF\xBF\xBD"}));
     const char *const name = "/home/zo\xEB/orravane-report";
-    QString complaint;
-    EXPECT_TRUE(AreUtf8(1, &name, complaint));
+    EXPECT_NO_THROW(RequireUtf8(1, &name));
 }
 
 } // namespace

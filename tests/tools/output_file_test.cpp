@@ -1,22 +1,11 @@
-// Where the bytes go: a file that is written whole or not at all, or standard output.
+// Where the program's bytes go: a file that is written whole or not at all, or standard output.
 
 #include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
-#include "tests/tools/program.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 namespace {
-
-const Arguments ann{"--first", "Ann", "--last", "Lee",  "--month", "3",
-                    "--day",   "7",   "--year", "1990", "--today", "2026-11-16"};
-
-Arguments operator+(Arguments left, const Arguments &right) {
-    left.insert(left.end(), right.begin(), right.end());
-    return left;
-}
 
 constexpr char twoPeople[] = R"({"first":"Ann","last":"Lee","month":3,"day":7,"year":1990})"
                              "\n"
@@ -25,170 +14,109 @@ constexpr char twoPeople[] = R"({"first":"Ann","last":"Lee","month":3,"day":7,"y
 
 const Arguments batch{"--batch", "-", "--today", "2026-11-16"};
 
+/// A run that writes, and what it reads.
+struct Writer {
+    Arguments arguments;
+    std::string input;
+};
+
+/// One of every kind that writes much.
+const std::vector<Writer> writers{{ann, {}},
+                                  {ann + Arguments{"--format", "json"}, {}},
+                                  {ann + Arguments{"--format", "rtf"}, {}},
+                                  {{"--book"}, {}},
+                                  {batch, twoPeople}};
+
 class OutputFile : public FolderTest {};
 
 TEST_F(OutputFile, HoldsWhatStandardOutputWouldGet) {
-    for (const char *format : {"text", "json", "rtf"}) {
-        SCOPED_TRACE(format);
-        const Arguments line = ann + Arguments{"--format", format};
-        const Finished printed = RunProgram(line);
+    for (const auto &[arguments, input] : writers) {
+        const Finished printed = RunProgram(arguments, input);
         ExpectGood(printed);
-        const Finished written = RunProgram(line + Arguments{"--output", Path("report")});
+        const Finished written =
+            RunProgram(arguments + Arguments{"--output", Path("report")}, input);
         ExpectGood(written);
         EXPECT_EQ(written.out, "");
-        EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"report", printed.out}}));
+        EXPECT_EQ(Files(), (FileMap{{"report", printed.out}}));
     }
 }
 
-TEST_F(OutputFile, HoldsABookOrABatchAlike) {
-    const Finished book = RunProgram({"--book"});
-    ExpectGood(RunProgram({"--book", "--output", Path("book")}));
-    EXPECT_EQ(Read(Path("book")), book.out);
-
-    const Finished people = RunProgram(batch, twoPeople);
-    ExpectGood(people);
-    const Finished written = RunProgram(batch + Arguments{"--output", Path("people")}, twoPeople);
-    ExpectGood(written);
-    EXPECT_EQ(written.out, "");
-    EXPECT_EQ(Read(Path("people")), people.out);
-}
-
+// Standard output on a full disk does not matter to a file.
 TEST_F(OutputFile, ReplacesAnExistingFileByAShorterOne) {
-    const std::string file = Make("report.txt", std::string(1'000'000, 'x'));
-    const Arguments line = ann + Arguments{"--topic", "Personal Day"};
-    ExpectGood(RunProgram(line + Arguments{"--output", file}));
-    EXPECT_EQ(Read(file), RunProgram(line).out);
+    const std::string file = Make("report", std::string(1'000'000, 'x'));
+    Surroundings full;
+    full.outputFile = "/dev/full";
+    ExpectGood(RunProgram(ann + Arguments{"--output", file}, {}, full));
+    EXPECT_EQ(Read(file), RunProgram(ann).out);
 }
 
-TEST_F(OutputFile, MayHaveAnyName) {
-    const std::string name = "Bericht für Ännchen – 2026 😀.txt";
-    ExpectGood(RunProgram(ann + Arguments{"--output", Path(name)}));
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{name, RunProgram(ann).out}}));
-}
-
-TEST_F(OutputFile, CannotBeAFolder) {
-    std::filesystem::create_directory(Path("folder"));
-    for (const Arguments &line : {ann, Arguments{"--book"}}) {
-        const Finished run = RunProgram(line + Arguments{"--output", Path("folder")});
-        ExpectFailed(run, {"--output: " + Shown(Path("folder"))});
-        EXPECT_EQ(run.out, "");
-    }
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"folder/", ""}}));
-}
-
-TEST_F(OutputFile, CannotStandInAFolderThatIsNotThere) {
-    const std::string file = Path("no/such/folder/report.txt");
-    for (const Arguments &line : {ann, Arguments{"--book"}}) {
-        const Finished run = RunProgram(line + Arguments{"--output", file});
+TEST_F(OutputFile, ThatCannotBeOpenedIsReported) {
+    const std::string file = Path("no/such/folder/report");
+    for (const auto &[arguments, input] : writers) {
+        const Finished run = RunProgram(arguments + Arguments{"--output", file}, input);
         ExpectFailed(run, {"--output: " + Shown(file) + ": No such file or directory"});
         EXPECT_EQ(run.out, "");
     }
     EXPECT_TRUE(Files().empty());
 }
 
-TEST_F(OutputFile, CannotStandBelowAFile) {
-    const std::string file = Make("file", "before");
-    const Finished run = RunProgram(ann + Arguments{"--output", file + "/report.txt"});
-    ExpectFailed(run, {"--output: " + Shown(file + "/report.txt")});
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"file", "before"}}));
-}
-
-TEST_F(OutputFile, CannotBeOpenedByABatchEither) {
-    std::filesystem::create_directory(Path("folder"));
-    const Finished run = RunProgram(batch + Arguments{"--output", Path("folder")}, twoPeople);
-    ExpectFailed(run, {"--output: " + Shown(Path("folder"))});
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"folder/", ""}}));
-}
-
 // A disk that runs full in the middle: nothing of the new report is seen, the file that
 // was there is whole, and no half of one is left beside it.
 TEST_F(OutputFile, StandsAsItWasWhenTheDiskRunsFull) {
-    const std::string file = Make("report.txt", "what stood here before");
+    const std::string file = Make("report", "what stood here before");
     Surroundings surroundings;
     surroundings.mostBytes = 1000;
-    for (const Arguments &line : {ann, ann + Arguments{"--format", "rtf"}, Arguments{"--book"}}) {
-        const Finished run = RunProgram(line + Arguments{"--output", file}, {}, surroundings);
-        ExpectFailed(run, {"--output: " + Shown(file)});
-        EXPECT_EQ(run.out, "");
-        EXPECT_EQ(Files(),
-                  (std::map<std::string, std::string>{{"report.txt", "what stood here before"}}));
+    for (const auto &[arguments, input] : writers) {
+        for (const std::string &name : {file, Path("new")}) {
+            const Finished run =
+                RunProgram(arguments + Arguments{"--output", name}, input, surroundings);
+            ExpectFailed(run, {"--output: " + Shown(name)});
+            EXPECT_EQ(run.out, "");
+            EXPECT_EQ(Files(), (FileMap{{"report", "what stood here before"}}));
+        }
+    }
+    const Finished run =
+        RunProgram(batch + Arguments{"--output-dir", Path("people")}, twoPeople, surroundings);
+    ExpectFailed(run, {"--output-dir: ", "person-000001.txt: "});
+    EXPECT_EQ(Files(), (FileMap{{"people/", ""}, {"report", "what stood here before"}}));
+}
+
+TEST_F(OutputFile, AppearsAtTheEndOfABatchAndNotBeforeNorWhenItIsKilled) {
+    const std::string file = Make("people", "before");
+    for (const bool killed : {true, false}) {
+        Program program(batch + Arguments{"--output", file});
+        // The answer to a wrong line shows that the lines before it are done.
+        program.Write(twoPeople + std::string("{\n"));
+        EXPECT_NE(program.ReadErrorLine().find("line 3"), std::string::npos);
+        EXPECT_EQ(Read(file), "before");
+        if (killed)
+            program.Kill();
+        EXPECT_EQ(program.Finish().exitCode, killed ? -1 : 1);
+        EXPECT_EQ(Read(file).starts_with(R"({"first":"ANN")"), !killed);
     }
 }
 
-TEST_F(OutputFile, StandsAsItWasWhenTheDiskRunsFullInABatch) {
-    const std::string file = Make("people", "what stood here before");
-    Surroundings surroundings;
-    surroundings.mostBytes = 1000;
-    const Finished run = RunProgram(batch + Arguments{"--output", file}, twoPeople, surroundings);
-    ExpectFailed(run, {"--output: " + Shown(file)});
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"people", "what stood here before"}}));
-}
-
-TEST_F(OutputFile, IsNotBegunWhenTheDiskRunsFull) {
-    Surroundings surroundings;
-    surroundings.mostBytes = 1000;
-    ExpectFailed(RunProgram(ann + Arguments{"--output", Path("report.txt")}, {}, surroundings),
-                 {"--output: " + Shown(Path("report.txt"))});
-    EXPECT_TRUE(Files().empty());
-}
-
-TEST_F(OutputFile, AppearsAtTheEndOfABatchAndNotBefore) {
-    const std::string file = Make("people", "before");
-    Program program(batch + Arguments{"--output", file});
-    // The answer to a wrong line shows that the lines before it are done.
-    program.Write(twoPeople + std::string("{\n"));
-    EXPECT_NE(program.ReadErrorLine().find("line 3"), std::string::npos);
-    EXPECT_EQ(Read(file), "before");
-    const Finished run = program.Finish();
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(Read(file).starts_with(R"({"first":"ANN")"));
-}
-
-TEST_F(OutputFile, StandsAsItWasWhenTheProgramIsKilled) {
-    const std::string file = Make("people", "before");
-    Program program(batch + Arguments{"--output", file});
-    program.Write(twoPeople + std::string("{\n"));
-    EXPECT_NE(program.ReadErrorLine().find("line 3"), std::string::npos);
-    program.Kill();
-    EXPECT_NE(program.Finish().signal, 0);
-    EXPECT_EQ(Read(file), "before");
-}
-
-TEST(StandardOutput, ThatIsFullIsReported) {
+TEST(StandardOutput, ThatIsFullOrClosedIsReported) {
     Surroundings full;
     full.outputFile = "/dev/full";
-    for (const Arguments &line :
-         {ann, ann + Arguments{"--format", "json"}, ann + Arguments{"--format", "rtf"},
-          ann + Arguments{"--topic", "Personal Day"}, Arguments{"--book"},
-          Arguments{"--book", "--format", "json"}, Arguments{"--help"}, Arguments{"--version"}})
-        ExpectFailed(RunProgram(line, {}, full), {"standard output"});
-    ExpectFailed(RunProgram(batch, twoPeople, full), {"standard output"});
-}
-
-TEST(StandardOutput, ThatIsFullDoesNotMatterToAFile) {
-    QTemporaryDir folder;
-    const std::string file = folder.filePath("report").toStdString();
-    Surroundings full;
-    full.outputFile = "/dev/full";
-    ExpectGood(RunProgram(ann + Arguments{"--output", file}, {}, full));
-    EXPECT_TRUE(std::filesystem::file_size(file) > 0);
-}
-
-TEST(StandardOutput, ThatIsClosedIsReported) {
     Surroundings closed;
     closed.noOutput = true;
-    for (const Arguments &line : {ann, Arguments{"--book"}, Arguments{"--version"}})
-        ExpectFailed(RunProgram(line, {}, closed), {"standard output: Bad file descriptor"});
-    ExpectFailed(RunProgram(batch, twoPeople, closed), {"standard output: Bad file descriptor"});
-}
-
-TEST(StandardInput, ThatIsClosedIsReported) {
-    Surroundings closed;
-    closed.noInput = true;
-    ExpectRefused(RunProgram(batch, {}, closed), {"--batch", "Bad file descriptor"});
-    ExpectGood(RunProgram(ann, {}, closed));
+    std::vector<Writer> all = writers;
+    all.insert(all.end(), {{{"--help"}, {}},
+                           {{"--version"}, {}},
+                           {ann + Arguments{"--topic", "Personal Day"}, {}},
+                           {batch, "{}"}});
+    for (const auto &[arguments, input] : all) {
+        for (const auto &[surroundings, reason] :
+             {std::pair(full, "No space left on device"), {closed, "Bad file descriptor"}}) {
+            const Finished run = RunProgram(arguments, input, surroundings);
+            EXPECT_EQ(run.exitCode, 1);
+            EXPECT_NE(
+                run.err.find(std::string("orravane-report: standard output: ") + reason + '\n'),
+                std::string::npos)
+                << run.err;
+        }
+    }
 }
 
 class ClosedStreams : public FolderTest {};

@@ -1,7 +1,7 @@
 #include "tools/output.h"
 
+#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
-#include "tools/excerpt.h"
 
 #include <gtest/gtest.h>
 
@@ -13,58 +13,66 @@ protected:
 };
 
 TEST_F(OutputTest, AppearsWholeWhenItIsFinished) {
-    Output output(File("report"));
+    Output output(File("Bericht für Ännchen – 😀.txt"));
     output.Write("first ");
     output.Write("");
     output.Write(std::string(1'000'000, 'x'));
-    EXPECT_FALSE(std::filesystem::exists(Path("report")));
+    EXPECT_FALSE(std::filesystem::exists(Path("Bericht für Ännchen – 😀.txt")));
     output.Finish();
-    EXPECT_EQ(output.Error(), "");
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{
-                           {"report", "first " + std::string(1'000'000, 'x')}}));
+    EXPECT_EQ(Files(),
+              (FileMap{{"Bericht für Ännchen – 😀.txt", "first " + std::string(1'000'000, 'x')}}));
 }
 
 TEST_F(OutputTest, LeavesNothingBehindWhenItIsGivenUp) {
-    {
-        Output output(File("report"));
-        output.Write("text");
-    }
+    Output(File("report")).Write("text");
     EXPECT_TRUE(Files().empty());
 }
 
 TEST_F(OutputTest, LeavesAnExistingFileAloneUntilItIsFinished) {
-    Make("report", "before");
-    {
-        Output output(File("report"));
-        output.Write("after");
-        EXPECT_EQ(Read(Path("report")), "before");
-    }
-    EXPECT_EQ(Read(Path("report")), "before");
+    Make("report", "what stood here before");
+    Output(File("report")).Write("after");
+    EXPECT_EQ(Files(), (FileMap{{"report", "what stood here before"}}));
     Output output(File("report"));
     output.Write("after");
+    EXPECT_EQ(Read(Path("report")), "what stood here before");
     output.Finish();
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"report", "after"}}));
+    EXPECT_EQ(Files(), (FileMap{{"report", "after"}}));
 }
 
 TEST_F(OutputTest, MayBeEmpty) {
-    Output output(File("report"));
-    output.Finish();
-    EXPECT_EQ(Files(), (std::map<std::string, std::string>{{"report", ""}}));
+    Output(File("report")).Finish();
+    EXPECT_EQ(Files(), (FileMap{{"report", ""}}));
 }
 
-TEST_F(OutputTest, TellsWhichFileCannotBeWritten) {
-    Output output(File("no/report"));
-    EXPECT_EQ(output.Error(),
-              "--output: " + Excerpt(File("no/report")) + ": No such file or directory");
-    output.Write("text"); // goes nowhere, and harms nothing
-    output.Finish();
-    EXPECT_TRUE(output.Error().contains(Excerpt(File("no/report"))));
-    EXPECT_TRUE(Files().empty());
+TEST_F(OutputTest, TellsOptionAndFileThatCannotBeWritten) {
+    std::filesystem::create_directory(Path("folder"));
+    Make("file", "before");
+    const FileMap before = Files();
+    for (const auto &[name, reason] : {std::pair("no/report", ": No such file or directory"),
+                                       {"folder", ": "},
+                                       {"file/report", ": "}}) {
+        EXPECT_TRUE(RefusalOf([&] { Output{File(name)}; }, ExitCode::Failed)
+                        .starts_with("--output: " + Shown(Path(name)) + reason));
+    }
+    EXPECT_TRUE(RefusalOf([&] { Output(File("no/report"), "--output-dir"); }, ExitCode::Failed)
+                    .starts_with("--output-dir: "));
+    EXPECT_EQ(Files(), before);
 }
 
-TEST_F(OutputTest, TellsTheOptionThatNamedTheFile) {
-    const Output output(File("no/report"), "--output-dir");
-    EXPECT_TRUE(output.Error().startsWith("--output-dir: ")) << output.Error().toStdString();
+// A device cannot be replaced by a file; it is written, and says at the end what it lacks.
+TEST_F(OutputTest, WritesADeviceAsItIs) {
+    Output null("/dev/null");
+    null.Write("text");
+    null.Finish();
+    Output full("/dev/full");
+    const std::string line = RefusalOf(
+        [&] {
+            full.Write("text");
+            full.Finish();
+        },
+        ExitCode::Failed);
+    EXPECT_EQ(line, "--output: /dev/full: No space left on device");
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
 }
 
 TEST_F(OutputTest, ToStandardOutputIsOnItsWayAtOnce) {
@@ -72,7 +80,6 @@ TEST_F(OutputTest, ToStandardOutputIsOnItsWayAtOnce) {
     Output output((QString()));
     output.Write("text\n");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "text\n");
-    EXPECT_EQ(output.Error(), "");
 }
 
 } // namespace

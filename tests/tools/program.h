@@ -3,15 +3,25 @@
 // The built orravane-report as a child process of a test: its arguments and surroundings
 // going in, its bytes, its exit code and how it ended coming out.
 
+#include <QProcess>
+
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <sys/types.h>
-
 using Arguments = std::vector<std::string>;
+
+/// The words of both, one list behind the other.
+inline Arguments operator+(Arguments left, const Arguments &right) {
+    left.insert(left.end(), right.begin(), right.end());
+    return left;
+}
+
+/// One person on a given day.
+inline const Arguments ann{"--first", "Ann", "--last", "Lee",  "--month", "3",
+                           "--day",   "7",   "--year", "1990", "--today", "2026-11-16"};
 
 /// How a child ended and what it wrote.
 struct Finished {
@@ -27,7 +37,6 @@ struct Surroundings {
     std::map<std::string, std::optional<std::string>> environment; ///< no value: taken away
     std::string inputFile;                                         ///< opened as standard input
     std::string outputFile;        ///< opened as standard output, not captured
-    std::string folder;            ///< the working folder; empty for that of the test
     bool errorTerminal = false;    ///< standard error is a terminal
     bool noInput = false;          ///< standard input is closed
     bool noOutput = false;         ///< standard output is closed
@@ -36,8 +45,8 @@ struct Surroundings {
     std::string program;           ///< empty for orravane-report
 };
 
-/// A child that runs until Finish, which the destructor makes up for. A child that hangs is
-/// killed after a time far beyond all that it needs.
+/// A child that runs until Finish, or until the destructor kills it. A child that hangs is
+/// killed after a time far beyond all that it needs, and fails the test.
 class Program {
 public:
     explicit Program(const Arguments &arguments, const Surroundings &surroundings = {});
@@ -45,36 +54,32 @@ public:
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
-    /// Writes all of `bytes` to standard input, which must have room for them.
     void Write(std::string_view bytes);
 
-    /// The next line of standard output without its line break. At the end of the output
-    /// or of the child's time, what there is.
-    std::string ReadLine();
+    /// The next line of standard output without its line break. At the end of the output,
+    /// what there is.
+    std::string ReadLine() { return ReadLine(QProcess::StandardOutput); }
 
     /// The same of standard error.
-    std::string ReadErrorLine();
+    std::string ReadErrorLine() { return ReadLine(QProcess::StandardError); }
 
     /// Ends the child at once.
-    void Kill();
+    void Kill() { process_.kill(); }
 
     /// Writes `input`, closes standard input, reads both outputs to their end and waits.
     Finished Finish(std::string_view input = {});
 
 private:
-    bool Pump(std::string_view *input, int timeout);
-    std::string TakeLine(std::string &from, const int &fd);
-    bool Expired();
+    std::string ReadLine(QProcess::ProcessChannel channel);
+    void ReadTerminal();
 
-    pid_t child_ = -1;
-    int in_ = -1;
-    int out_ = -1;
-    int err_ = -1;
-    bool killed_ = false;
-    std::string outBytes_;
-    std::string errBytes_;
-    long long deadline_;
+    QProcess process_;
+    int terminal_ = -1;  ///< the test's end of the terminal
+    std::string screen_; ///< what has come through it
 };
+
+/// A script of the shell, in which "$0" is orravane-report.
+Finished RunShell(const std::string &script);
 
 /// One run from start to end.
 Finished RunProgram(const Arguments &arguments, std::string_view input = {},

@@ -1,155 +1,117 @@
 // For a name without a valued letter and a positive age the walk of the Essence has no end.
-// Here each such person is read by a program of its own, which gets a second of processor
-// time. It has to use that up and be stopped for it: a program that returned, crashed, or
-// waited for something would end otherwise.
+// Here each such person is read by a process of its own, which gets a little processor time.
+// It has to use that up and be stopped for it: a walk that returned, crashed, or waited for
+// something would end otherwise. The optimized build is the one that could go wrong.
+
+#include "core/clock.h"
+#include "core/reading_store.h"
+#include "core/user_profile.h"
+#include "numbers/calculators.h"
+#include "numbers/essence.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <ostream>
-#include <stdexcept>
-#include <string>
-#include <vector>
 
 #include <sys/resource.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace modReadings {
 namespace {
 
-struct Person {
-    const char *title;
-    std::vector<std::string> arguments; ///< names, year of birth, current year
-    int number = 0;                     ///< what comes out, if anything does
-    bool optimized = false;             ///< by which of the two programs it is read
-};
+/// Microseconds of processor time; the kernel measures its limit more coarsely than it
+/// reports what was used.
+constexpr suseconds_t limit = 200'000, muchTime = 100'000;
 
-void PrintTo(const Person &person, std::ostream *out) {
-    *out << person.title << (person.optimized ? "Optimized" : "AsBuilt");
-}
+struct Person {
+    const char16_t *first, *middle, *last;
+    int age;
+    std::optional<NamePart> endless; ///< as EndlessName should say
+    int number = 0;                  ///< what comes out where the walk ends
+};
 
 struct Outcome {
-    std::string output;
-    int status = 0;           ///< as wait4 gives it
-    double processorTime = 0; ///< seconds
+    int status = 0;                ///< as wait4 gives it
+    suseconds_t processorTime = 0; ///< microseconds
 };
 
-/// How long a walk may go on by the clock on the wall, should it not use the processor.
-constexpr unsigned wallLimit = 90;
-
 Outcome Read(const Person &person) {
-    // The walk as this build compiles it, or the same at the highest optimization.
-    const std::string program = person.optimized ? ESSENCE_WALK_O3 : ESSENCE_WALK;
-    int ends[2];
-    if (pipe(ends) != 0)
-        throw std::runtime_error("no pipe");
-
+    profile = {person.first, person.middle, person.last, {}, {}, u"1900"};
+    const FixedClock clock{std::chrono::year(1900 + person.age) / 6 / 15};
     const pid_t child = fork();
-    if (child < 0)
-        throw std::runtime_error("no child");
     if (child == 0) {
-        // A second of processor time, and no core file for running over it.
-        const rlimit processor{1, 3};
-        const rlimit core{0, 0};
-        if (setrlimit(RLIMIT_CPU, &processor) != 0 || setrlimit(RLIMIT_CORE, &core) != 0 ||
-            dup2(ends[1], STDOUT_FILENO) < 0)
-            _exit(3);
-        std::signal(SIGXCPU, SIG_DFL);
+        std::signal(SIGPROF, SIG_DFL);
         std::signal(SIGALRM, SIG_DFL);
-        alarm(wallLimit);
-        close(ends[0]);
-        close(ends[1]);
-        std::vector<char *> arguments;
-        arguments.push_back(const_cast<char *>(program.c_str()));
-        for (const std::string &argument : person.arguments)
-            arguments.push_back(const_cast<char *>(argument.c_str()));
-        arguments.push_back(nullptr);
-        execv(program.c_str(), arguments.data());
-        _exit(4);
+        const itimerval processor{{0, 0}, {0, limit}};
+        if (setitimer(ITIMER_PROF, &processor, nullptr) != 0)
+            _exit(99);
+        alarm(90); // by the clock on the wall, should the walk not use the processor
+        CalcEssence();
+        _exit(store.EssenceNumber);
     }
-
-    close(ends[1]);
     Outcome outcome;
-    char buffer[256];
-    for (ssize_t got = 0; (got = read(ends[0], buffer, sizeof buffer)) > 0;)
-        outcome.output.append(buffer, static_cast<std::size_t>(got));
-    close(ends[0]);
     rusage usage{};
-    if (wait4(child, &outcome.status, 0, &usage) != child)
-        throw std::runtime_error("lost the child");
-    const auto seconds = [](const timeval &time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    EXPECT_EQ(wait4(child, &outcome.status, 0, &usage), child);
+    const auto microseconds = [](const timeval &time) {
+        return time.tv_sec * 1'000'000 + time.tv_usec;
     };
-    outcome.processorTime = seconds(usage.ru_utime) + seconds(usage.ru_stime);
+    outcome.processorTime = microseconds(usage.ru_utime) + microseconds(usage.ru_stime);
     return outcome;
 }
 
-/// Each person for each of the two programs.
-std::vector<Person> ByBothPrograms(const std::vector<Person> &persons) {
-    std::vector<Person> both = persons;
-    for (Person person : persons) {
-        person.optimized = true;
-        both.push_back(std::move(person));
+TEST(EndlessWalk, IsStoppedWhileItIsAtWork) {
+    for (const Person &person : {
+             Person{u"   ", u"", u"SMITH", 41, NamePart::First},
+             {u"", u"", u"SMITH", 1, NamePart::First},
+             {u"ANNA", u"42", u"SMITH", 41, NamePart::Middle},
+             {u"ANNA", u"", u"  ", 41, NamePart::Last},
+             {u"ANNA", u"", u"", 41, NamePart::Last},
+             {u"ANNA", u"", u"F-F", 41, NamePart::Last},
+         }) {
+        SCOPED_TRACE(::testing::PrintToString(std::u16string(person.first) + u'/' + person.middle +
+                                              u'/' + person.last));
+        const Outcome outcome = Read(person);
+        EXPECT_EQ(EndlessName(profile, static_cast<int16>(person.age)), person.endless);
+        ASSERT_FALSE(WIFEXITED(outcome.status)) << "gave " << WEXITSTATUS(outcome.status);
+        EXPECT_EQ(WTERMSIG(outcome.status), SIGPROF) << "crashed, or did nothing";
+        EXPECT_GT(outcome.processorTime, muchTime);
     }
-    return both;
 }
 
-/// Seconds of processor time. The kernel measures its limit more coarsely than it reports
-/// what was used, so this is well below the limit, and far above what a walk needs that ends.
-constexpr double muchTime = 0.5;
-
-class EndlessWalk : public ::testing::TestWithParam<Person> {};
-
-TEST_P(EndlessWalk, IsStoppedWhileItIsAtWork) {
-    const Outcome outcome = Read(GetParam());
-    EXPECT_TRUE(outcome.output.ends_with("begins\n")) << outcome.output;
-    ASSERT_FALSE(WIFEXITED(outcome.status)) << "returned: " << outcome.output;
-    ASSERT_TRUE(WIFSIGNALED(outcome.status));
-    EXPECT_EQ(WTERMSIG(outcome.status), SIGXCPU) << "crashed, or did nothing";
-    EXPECT_GT(outcome.processorTime, muchTime);
+TEST(EndlessWalk, IsNoneWhereALetterCountsOrNobodyIsBorn) {
+    for (const Person &person : {
+             Person{u"ANNA", u"", u"SMITH", 41, {}, 4}, // 5 and 8
+             {u"ANNA", u"  ", u"SMITH", 41, {}, 4},     // blanks are no middle name
+             {u"-A-", u"4 A", u"F-A", 41, {}, 3},       // 1, 1 and 1
+             {u"F", u"", u"A", 41, {}, 7},              // 6 and 1
+             {u"   ", u"", u"SMITH", 0, {}, 1},         // the S
+             {u"ANNA", u"", u"F", 0, {}, 1},            // the A
+             {u"007", u"", u"SMITH", -1, {}, 0},
+         }) {
+        const Outcome outcome = Read(person);
+        EXPECT_EQ(EndlessName(profile, static_cast<int16>(person.age)), std::nullopt);
+        ASSERT_TRUE(WIFEXITED(outcome.status)) << "signal " << WTERMSIG(outcome.status);
+        EXPECT_EQ(WEXITSTATUS(outcome.status), person.number);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, EndlessWalk,
-                         ::testing::ValuesIn(ByBothPrograms({
-                             {"FirstNameOfBlanks", {"   ", "", "SMITH", "1985", "2026"}},
-                             {"FirstNameEmpty", {"", "", "SMITH", "1985", "2026"}},
-                             {"FirstNameOfDigits", {"007", "", "SMITH", "1985", "2026"}},
-                             {"FirstNameOfSigns", {"-'", "", "SMITH", "2025", "2026"}},
-                             {"MiddleNameOfDigits", {"ANNA", "42", "SMITH", "1985", "2026"}},
-                             {"MiddleNameOfSigns", {"ANNA", "-", "SMITH", "1985", "2026"}},
-                             {"LastNameOfBlanks", {"ANNA", "", "  ", "1985", "2026"}},
-                             {"LastNameOfF", {"ANNA", "", "F", "1985", "2026"}},
-                             {"LastNameOfFAndHyphens", {"ANNA", "", "F-F", "1985", "2026"}},
-                         })));
-
-class HarmlessWalk : public ::testing::TestWithParam<Person> {};
-
-TEST_P(HarmlessWalk, ComesBackAtOnce) {
-    const Outcome outcome = Read(GetParam());
-    ASSERT_TRUE(WIFEXITED(outcome.status)) << "signal " << WTERMSIG(outcome.status);
-    EXPECT_EQ(WEXITSTATUS(outcome.status), 0);
-    EXPECT_TRUE(
-        outcome.output.ends_with("begins\nends with " + std::to_string(GetParam().number) + "\n"))
-        << outcome.output;
-    EXPECT_LT(outcome.processorTime, muchTime);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, HarmlessWalk,
-    ::testing::ValuesIn(ByBothPrograms({
-        {"Letters", {"ANNA", "", "SMITH", "1985", "2026"}, 4},              // 5 and 8
-        {"MiddleNameOfBlanks", {"ANNA", "  ", "SMITH", "1985", "2026"}, 4}, // counts as none
-        {"LettersAmongSigns", {"-A-", "4 A", "F-A", "1985", "2026"}, 3},    // 1, 1 and 1
-        {"FirstNameOfF", {"F", "", "A", "1985", "2026"}, 7},                // 6 and 1
-        {"FirstNameOfBlanksAtAge0", {"   ", "", "SMITH", "2026", "2026"}, 1},
-        {"LastNameOfFAtAge0", {"ANNA", "", "F", "2026", "2026"}, 1},
-        {"FirstNameOfDigitsBeforeBirth", {"007", "", "SMITH", "2027", "2026"}, 0},
-    })));
-
-TEST(EndlessWalkPrograms, OneIsOptimizedWhateverTheBuild) {
-    const Outcome outcome =
-        Read({"Letters", {"ANNA", "", "SMITH", "1985", "2026"}, 4, /*optimized=*/true});
-    EXPECT_TRUE(outcome.output.starts_with("optimized\n")) << outcome.output;
+TEST(EndlessName, AsksForALetterThatCounts) {
+    for (unsigned unit = 1; unit < 0x3000; ++unit) {
+        const auto character = static_cast<char16_t>(unit);
+        const std::u16string name(1, character);
+        const bool capital = character >= u'A' && character <= u'Z';
+        const bool blank = character == u' ';
+        EXPECT_EQ(EndlessName({name, u"", u"A", u"", u"", u""}, 1) == NamePart::First, !capital);
+        EXPECT_EQ(EndlessName({u"A", name, u"A", u"", u"", u""}, 1) == NamePart::Middle,
+                  !capital && !blank);
+        // F does not count in a last name; a small l does.
+        EXPECT_EQ(EndlessName({u"A", u"", name, u"", u"", u""}, 1) == NamePart::Last,
+                  !(capital && character != u'F') && character != u'l')
+            << unit;
+    }
 }
 
 } // namespace
+} // namespace modReadings

@@ -1,50 +1,38 @@
 #include "numbers/calculators.h"
 #include "tests/support/fresh_store.h"
 #include "tests/support/reading_facts.h"
-#include "tests/support/store_slots.h"
 
 namespace modReadings {
 namespace {
 
-constexpr std::u16string_view refusal = u"This number is not valid for this name.";
-
 class SubconsciousSelf : public FreshStore {
 protected:
-    static int Of(std::u16string first, std::u16string middle, std::u16string last) {
+    /// Whether the name has this count, its reading, and nothing left in the scratch slot.
+    static void Expect(int number, std::u16string first, std::u16string middle = {},
+                       std::u16string last = {}) {
         Named(std::move(first), std::move(middle), std::move(last));
+        store.MissingDigitsScratch = u"left over";
         CalcSubconsciousSelf();
+        EXPECT_EQ(store.SubconsciousSelfNumber, number);
+        EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, number, "SubconsciousSelfText"));
+        if (number < 3) {
+            EXPECT_EQ(store.SubconsciousSelfText, u"This number is not valid for this name.");
+        }
         EXPECT_EQ(store.MissingDigitsScratch, u"");
-        return store.SubconsciousSelfNumber;
     }
 };
 
-TEST_F(SubconsciousSelf, EveryCount) {
+TEST_F(SubconsciousSelf, CountsTheValuesInAllThreeNames) {
     const std::u16string letters = u"ABCDEFGHI"; // the values 1 to 9
-    for (std::size_t count = 0; count <= 9; ++count) {
-        const int number = static_cast<int>(count);
-        EXPECT_EQ(Of(letters.substr(0, count), u"", u""), number);
-        EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, number, "SubconsciousSelfText"));
-        if (count < 3) {
-            EXPECT_EQ(store.SubconsciousSelfText, refusal);
-        }
-    }
-}
-
-TEST_F(SubconsciousSelf, AnnLee) {
-    EXPECT_EQ(Of(u"ANN", u"", u"LEE"), 3); // 1, 5 and 3: N and E share the 5
-    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 3, "SubconsciousSelfText"));
-}
-
-TEST_F(SubconsciousSelf, AnnaShowsItsNumberAboveTheRefusal) {
-    EXPECT_EQ(Of(u"ANNA", u"", u""), 2);
-    EXPECT_EQ(store.SubconsciousSelfText, refusal);
-}
-
-TEST_F(SubconsciousSelf, AllThreeNamesCount) {
-    EXPECT_EQ(Of(u"ABC", u"DEF", u"GHI"), 9);
-    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 9, "SubconsciousSelfText"));
-    EXPECT_EQ(Of(u"ABC", u"", u"GHI"), 6);
-    EXPECT_EQ(Of(u"", u"DEF", u""), 3);
+    for (std::size_t count = 0; count <= 9; ++count)
+        Expect(static_cast<int>(count), letters.substr(0, count));
+    Expect(2, u"ANNA");             // the refusal replaces the reading of the person before
+    Expect(3, u"ANN", u"", u"LEE"); // 1, 5 and 3: N and E share the 5
+    Expect(9, u"ABC", u"DEF", u"GHI");
+    Expect(6, u"ABC", u"", u"GHI");
+    Expect(3, u"", u"DEF");
+    Expect(1, u"A-1 '.9", u"\u00C9\u00D6\u00DF", u"bcd"); // other characters raise no flag
+    Expect(0, u"007", u"", u"--");
 }
 
 TEST_F(SubconsciousSelf, EachLetterStandsForItsValue) {
@@ -55,43 +43,11 @@ TEST_F(SubconsciousSelf, EachLetterStandsForItsValue) {
         for (const std::u16string_view other : groups)
             if (other != group)
                 others += other;
-        EXPECT_EQ(Of(others, u"", u""), 8);
+        Expect(8, others);
         for (const char16_t letter : group)
-            EXPECT_EQ(Of(others, u"", std::u16string(1, letter)), 9);
-        // How often a value occurs does not matter.
-        EXPECT_EQ(Of(std::u16string(group), std::u16string(group), u""), 1);
+            Expect(9, others, u"", std::u16string(1, letter));
+        Expect(1, std::u16string(group), std::u16string(group)); // how often does not matter
     }
-}
-
-TEST_F(SubconsciousSelf, OtherCharactersRaiseNoFlag) {
-    EXPECT_EQ(Of(u"A-1 '.9", u"\u00C9\u00D6\u00DF", u"bcd"), 1);
-    EXPECT_EQ(Of(u"007", u"", u"--"), 0);
-    EXPECT_EQ(store.SubconsciousSelfText, refusal);
-    EXPECT_EQ(Of(u"", u"", u""), 0);
-}
-
-TEST_F(SubconsciousSelf, RefusalReplacesTheReadingOfThePersonBefore) {
-    EXPECT_EQ(Of(u"ABC", u"DEF", u"GHI"), 9);
-    EXPECT_EQ(Of(u"ANNA", u"", u""), 2);
-    EXPECT_EQ(store.SubconsciousSelfText, refusal);
-    EXPECT_EQ(Of(u"ANN", u"", u"LEE"), 3);
-    EXPECT_TRUE(IsReadingOf(store.SubconsciousSelfText, 3, "SubconsciousSelfText"));
-}
-
-TEST_F(SubconsciousSelf, WritesItsOwnSlotsAndEmptiesItsScratch) {
-    const ReadingStore marked = MarkedStore();
-    store = marked; // with something in the scratch slot
-    EXPECT_EQ(Of(u"ANN", u"", u"LEE"), 3);
-    EXPECT_EQ(ChangedSince(marked), (SlotNames{"SubconsciousSelfNumber", "SubconsciousSelfText",
-                                               "SubconsciousSelfAbout", "MissingDigitsScratch"}));
-    const ReadingStore once = store;
-    CalcSubconsciousSelf();
-    EXPECT_EQ(ChangedSince(once), SlotNames{});
-}
-
-TEST_F(SubconsciousSelf, AboutIsOneParagraph) {
-    CalcSubconsciousSelf();
-    EXPECT_TRUE(IsTextOf(store.SubconsciousSelfAbout, "SubconsciousSelfAbout"));
 }
 
 } // namespace

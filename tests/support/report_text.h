@@ -1,20 +1,16 @@
 #pragma once
 
-// Reports as the tests look at them: the runs of a pane, readable where two differ, and
-// without the empty writes, which leave no trace in a text.
+// How GoogleTest shows the runs of a report where two differ.
 
-#include "report/run_list.h"
+#include "report/report.h"
 
-#include <algorithm>
 #include <ostream>
 #include <string>
-#include <vector>
 
 namespace modReadings {
 
-/// The names of runs in tests: GoogleTest's fixtures have a member called Run.
+/// The name of a run in fixtures, which have a member called Run.
 using ReportRun = Run;
-using ReportRuns = std::vector<Run>;
 
 /// A text that a terminal can show: ASCII as it is, all else as numbers.
 inline std::string Readable(std::u16string_view text) {
@@ -32,15 +28,8 @@ inline std::string Readable(std::u16string_view text) {
     return shown;
 }
 
-/// How GoogleTest shows a run.
 inline void PrintTo(const Run &run, std::ostream *stream) {
-    *stream << (run.bold ? "bold " : "plain ") << int{run.ink.red} << ',' << int{run.ink.green}
-            << ',' << int{run.ink.blue} << " \"" << Readable(run.text) << '"';
-}
-
-inline std::vector<Run> WithoutEmptyRuns(std::vector<Run> runs) {
-    std::erase_if(runs, [](const Run &run) { return run.text.empty(); });
-    return runs;
+    *stream << (run.bold ? "bold \"" : "plain \"") << Readable(run.text) << '"';
 }
 
 } // namespace modReadings
