@@ -66,15 +66,22 @@ public:
     QPageLayout Layout() const {
         const Paper paper = ChosenPaper();
         const QPageSize sheet(QSizeF(paper.width, paper.length) / 100, QPageSize::Millimeter);
-        const cups_size_t margins = MarginsOf(paper);
+        const cups_size_t edges = EdgesOf(paper);
+        // A small label keeps room for letters.
+        const int least = std::min({narrowestMargin, paper.width / 10, paper.length / 10});
+        const auto margins = [least](int left, int top, int right, int bottom) {
+            return QMarginsF(std::max(left, least), std::max(top, least), std::max(right, least),
+                             std::max(bottom, least)) /
+                   100;
+        };
         if (!IsLandscape())
             return {sheet, QPageLayout::Portrait,
-                    InMillimetres(margins.left, margins.top, margins.right, margins.bottom),
+                    margins(edges.left, edges.top, edges.right, edges.bottom),
                     QPageLayout::Millimeter};
         // The server turns the page one way or the other, so either edge can come to be on top.
-        const int across = std::max(margins.top, margins.bottom);
-        const int along = std::max(margins.left, margins.right);
-        return {sheet, QPageLayout::Landscape, InMillimetres(across, along, across, along),
+        const int across = std::max(edges.top, edges.bottom);
+        const int along = std::max(edges.left, edges.right);
+        return {sheet, QPageLayout::Landscape, margins(across, along, across, along),
                 QPageLayout::Millimeter};
     }
 
@@ -83,13 +90,6 @@ private:
         int width;
         int length;
     };
-
-    static QMarginsF InMillimetres(int left, int top, int right, int bottom) {
-        const auto millimetres = [](int margin) {
-            return std::max(margin, narrowestMargin) / 100.0;
-        };
-        return {millimetres(left), millimetres(top), millimetres(right), millimetres(bottom)};
-    }
 
     const char *Option(const char *name) const {
         return cupsGetOption(name, printer_->num_options, printer_->options);
@@ -127,7 +127,7 @@ private:
 
     /// The edges that the printer cannot reach. Where it has several ways to print on this
     /// paper, such as with and without a border, the widest edges.
-    cups_size_t MarginsOf(const Paper &paper) const {
+    cups_size_t EdgesOf(const Paper &paper) const {
         cups_size_t widest{};
         const int count = details_ == nullptr
                               ? 0
