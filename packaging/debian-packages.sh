@@ -14,9 +14,12 @@ test_packages="
     $package_packages clang-format clang-tidy libgtest-dev
     appstream desktop-file-utils man-db
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
-    libreoffice-writer-nogui locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland unrtf
+    locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
     weston x11-utils xclip xdotool xvfb
 "
+
+# What `--target readers` needs besides.
+reader_packages="libreoffice-writer-nogui unrtf"
 
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
 # time when all are.

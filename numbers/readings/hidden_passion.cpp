@@ -7,7 +7,7 @@ constexpr Reading rows[] = {
     {1, u"People of this number are very creative and artistic. Whatever passes through your "
         u"hands comes out as yours: you improve a game the first time you play it, and cannot "
         u"hear a tune without trying another ending. Starting is the talent you use most. The "
-        u"blank page that frightens others is a holiday for you, and you have a better name for a "
+        u"blank page that frightens others is a treat for you, and you have a better name for a "
         u"shop before buying anything in it. So well used a talent does not always wait to be "
         u"asked. It takes the scissors from a slower hand and does over a poster that somebody "
         u"else has begun. \"This one is mine,\" says the slower hand at last, and you fold your "
@@ -63,7 +63,7 @@ constexpr Reading rows[] = {
      u"each question one thing about yourself that nobody has dug for. Then it is one in the "
      u"morning again, and this time there are two of you."},
     {8, u"People of this number are born leaders. Ten minutes after you reach a cookout one guest "
-        u"is fetching ice, another is at the grill, and everything is ready on time. You count "
+        u"is getting ice, another is at the grill, and everything is ready on time. You count "
         u"heads at every table, and a shy guest is given a task before the shyness has time to "
         u"set in. All this is so habitual that you do it on your day off. Friends begin to feel "
         u"employed, and you lie stiffly in a hammock, as if someone were paying you for it. The "

@@ -8,13 +8,13 @@ constexpr Reading rows[] = {
         u"things are kept on the very day you arrive, because you look like a person who already "
         u"knows. A firm voice and a direct answer make that impression; the doubts are seen to at "
         u"night. So people bring you their worries in your own worst week, and think that praise "
-        u"would bore you. Behind the front you dream of inventing a thing that no shop sells, and "
-        u"of coming upon a stranger who is using it, quite at ease, with no idea whose it was. "
-        u"You would not say a word. You would merely find a reason to walk past again."},
+        u"would bore you. Behind the front you dream of inventing a thing that no store sells, "
+        u"and of coming upon a stranger who is using it, quite at ease, with no idea whose it "
+        u"was. You would not say a word. You would merely find a reason to walk past again."},
     {2, u"You are peace loving and want to maintain a friendly and congenial relationship with "
         u"everyone. A mild voice and an attentive face make you easy to approach; the passenger "
         u"in the next seat has told you about the divorce before the second stop. You dress to "
-        u"fit in and say \"whatever suits you\" when a table is being booked. So it happens that "
+        u"fit in and say \"whatever suits you\" when a table is being reserved. So it happens that "
         u"you are taken for a person without opinions, and that you sit in restaurants you "
         u"dislike, growing quieter with each course. What you dream of is modest: one companion "
         u"with whom nothing needs smoothing over, and a house where no door is slammed. Such a "
@@ -62,8 +62,8 @@ constexpr Reading rows[] = {
         u"Few would call it craving, though, since they see someone who gives: the spare blanket, "
         u"a second helping, the name of a good dentist. Parents hand you the baby while they look "
         u"for their keys. Your face says that there is time, so troubles get told to you at the "
-        u"bus stop. Inside is a picture of a long row of shoes by the door, the pair of the one "
-        u"who moved away among them. To keep the row from getting shorter you do favors for "
+        u"bus stop. Inside is a picture of a wide porch with everybody on it, including the one "
+        u"who moved away, and no one getting up to leave. To keep it full you do favors for "
         u"people who had only meant to say hello. A birthday call that comes a day late can spoil "
         u"your week. You also straighten collars that were not crooked and give advice on "
         u"marriages that were only being described. Ask for the hug outright, in words. It costs "
@@ -112,7 +112,7 @@ constexpr Reading rows[] = {
          u"you. On some mornings it shows in your face, and people in the bakery smile at you "
          u"without knowing why. By evening a cool greeting on the stairs convinces you that you "
          u"are a fraud, and then you can hardly choose between two buses. Such days are tiring for "
-         u"whoever is near, because your nerves are catching. The idea meanwhile gets about "
+         u"whoever is near, because your nerves are catching. The idea meanwhile gets around "
          u"without you, by the way you wait while a slow customer counts out coins. It has escaped "
          u"you, because you expected people to mention it."},
     {22, u"You have an inner craving to do something in a grand scale, which would make you well "
@@ -122,12 +122,12 @@ constexpr Reading rows[] = {
          u"has, who pays for them and where the steel comes from. This impresses people and "
          u"unnerves them a little. Once you have taken a thing over, those who came along for an "
          u"hour find that they hold an office with duties, and learn to look busy when you come "
-         u"in. A leaking faucet at home can drip until autumn, being too small to deserve you. "
-         u"There is a shyness under all that size. Each time the plan is nearly ready you add a "
-         u"wing to it, because a thing that is still growing does not have to open and cannot "
-         u"fail. An opening day ends that, once it is named to people with good memories. They "
-         u"walk in, find fault with the stairs and ask where coats are to go. Their grumbling "
-         u"teaches more than the model on your desk, and by evening nobody has missed the wing."},
+         u"in. A leaking faucet at home can drip until fall, being too small to deserve you. There "
+         u"is a shyness under all that size. Each time the plan is nearly ready you add a wing to "
+         u"it, because a thing that is still growing does not have to open and cannot fail. An "
+         u"opening day ends that, once it is named to people with good memories. They walk in, "
+         u"find fault with the stairs and ask where coats are to go. Their grumbling teaches more "
+         u"than the model on your desk, and by evening nobody has missed the wing."},
 };
 } // namespace
 

@@ -31,7 +31,7 @@ constexpr Reading rows[] = {
         u"nobody dares to giggle, and one verse that limps costs you a night. The result is "
         u"excellent, and people admire it with folded hands. Your road would take you by way of "
         u"laughter, with drafts passed around while they are still warm. The talent first came "
-        u"when you were fooling about. It still does: you draw a horse that looks like a bus, "
+        u"when you were fooling around. It still does: you draw a horse that looks like a bus, "
         u"hold it up, and while they howl you see how the real picture has to go."},
     {4, u"People with this combination of Life Path/ Expression number need to be more practical "
         u"and realistic. The garden you dream of has its roses, its arbor and a bench for the "
@@ -39,7 +39,7 @@ constexpr Reading rows[] = {
         u"before a plain job of your own, your mind is already on the bench. Everyone loves to "
         u"hear you plan, though after a few such plans they stop offering to dig. The smallest "
         u"plan, carried out to the place itself, loses half its roses to the shade. You start on "
-        u"the rest, and somebody fetches a second spade."},
+        u"the rest, and somebody brings a second spade."},
     {5, u"People with the combination number 5 are very conventional. You do the work you trained "
         u"for as you were shown it, in the kind of place where it was always done, and the result "
         u"is sound. The road takes a turn every few years. A new method comes in, and you keep "

@@ -4,7 +4,7 @@ namespace modReadings::readings {
 
 namespace {
 constexpr Reading rows[] = {
-    {1, u"People of this number are born with leadership qualities. Where a group stands about "
+    {1, u"People of this number are born with leadership qualities. Where a group stands around "
         u"undecided, you pick a direction and start walking, and it surprises you that the rest "
         u"come along. Beginnings suit you best, the first week of a job or a plan that nobody has "
         u"tried. Routine laid down by other people makes you short-tempered, so the road of your "
@@ -25,7 +25,7 @@ constexpr Reading rows[] = {
         u"silence with a friend, does you more good than any argument about belief. Your ear is "
         u"fine: a change of tone on the telephone tells you that something is wrong before a word "
         u"of it is spoken. Newcomers are put beside you on their first day, and within the week "
-        u"they walk about as if they had always been there. At work the chair at the head of the "
+        u"they walk around as if they had always been there. At work the chair at the head of the "
         u"table does not tempt you. Beside it you do your best, remembering what was promised to "
         u"whom and noticing which question has been left out. All day you match your pace to that "
         u"of others, and in the evening you are tired without being able to say what you have "
@@ -35,7 +35,7 @@ constexpr Reading rows[] = {
         u"a good deal has been settled about you. A choice that would please one friend and "
         u"disappoint another can keep you so long that the day for choosing goes by. As a partner "
         u"you are tender, and quick to learn what the person beside you is afraid of. Company in "
-        u"the ordinary hours, at the shopping and over the dishes, means more to you than great "
+        u"the ordinary hours, on errands and over the dishes, means more to you than great "
         u"occasions. Little by little you take on the bedtime and the tastes of whoever shares "
         u"your life, until an old photograph, with a red coat in it that you used to love, gives "
         u"you a start. Your road leads back to the owner of that coat. It goes by way of small "
@@ -48,7 +48,7 @@ constexpr Reading rows[] = {
         u"conversation going. Stories improve in your telling: the fish grows, the rain gets "
         u"heavier, and those who were there smile and let it pass. You have a real gift with "
         u"words, color or sound, and work that lets it be seen keeps you cheerful, on a stage or "
-        u"behind a market stall. Shut away from people, you grow careless and carry each paper "
+        u"behind a market stand. Shut away from people, you grow careless and carry each paper "
         u"upstairs in person, for the talk on the way. New projects get your best weekend. Then a "
         u"fresher notion calls, and the cupboards fill up with good beginnings. Only now and then "
         u"is a piece of work carried past the point where nobody is clapping; such a thing "
@@ -182,11 +182,11 @@ constexpr Reading rows[] = {
          u"leave alone. Where the rest are satisfied that a thing works, you want to know what it "
          u"is for. A conversation with you passes over the weather and is soon at the matters that "
          u"people lie awake about, which some find a relief and others a fright. Jobs are taken up "
-         u"for the idea in them, and when the idea wears thin you go about like a lodger until the "
-         u"next one comes, in art, counsel, invention or a cause. The openness that lets ideas in "
-         u"lets everything else in as well. Hurry, a flickering light or another person's temper "
-         u"goes straight to your nerves, and a piece of great good news can tire you as much as "
-         u"bad.\r\n"
+         u"for the idea in them, and when the idea wears thin you go around like a lodger until "
+         u"the next one comes, in art, counsel, invention or a cause. The openness that lets ideas "
+         u"in lets everything else in as well. Hurry, a flickering light or another person's "
+         u"temper goes straight to your nerves, and a piece of great good news can tire you as "
+         u"much as bad.\r\n"
          u"In love you look for a soul, and learn with some surprise that it snores. A partner can "
          u"feel measured against someone who does not exist. Yet those who stay get what few "
          u"people are ever given, the sense of having been seen whole, without any need to explain "
@@ -204,10 +204,10 @@ constexpr Reading rows[] = {
          u"outgrow them, and those at home wonder when you are going to settle.\r\n"
          u"Those who work with you are carried along and worn out. In the heat of the work you "
          u"forget that they have birthdays and that the goal was yours to begin with. Your partner "
-         u"talks to you over a meal while you go on moving walls about in your head. Where it goes "
-         u"well, you stop at dusk with everybody else, and your helpers have leave to call the "
-         u"plan too big. Such helpers begin to say \"ours\". After that they guard the thing even "
-         u"when your back is turned."},
+         u"talks to you over a meal while you go on moving walls around in your head. Where it "
+         u"goes well, you stop at dusk with everybody else, and your helpers have leave to call "
+         u"the plan too big. Such helpers begin to say \"ours\". After that they guard the thing "
+         u"even when your back is turned."},
 };
 } // namespace
 

@@ -63,9 +63,9 @@ constexpr Reading rows[] = {
          u"hard on the nerves. Told merely as your own story, it leaves them free and lets you "
          u"sleep."},
     {22, u"People with this Life Path period have their whole concentration on the task at hand "
-         u"and the different ways to achieve it. The task is the size of a town, and you see it "
-         u"built, down to the drains. The room you sit in has given up asking. Sound plans can "
-         u"spend a Sunday rolled up."},
+         u"and the different ways to achieve it. The task is large, meant for many people and many "
+         u"years. Its size frightens you at night, so by day you drive your helpers. They would "
+         u"rather see the fear."},
 };
 } // namespace
 

@@ -25,12 +25,12 @@ constexpr Reading rows[] = {
         u"are expected here. So ride the bus to its last stop, or eat lunch where you cannot read "
         u"the menu, and be home by dark with a story. A plan falls through, and you alone are "
         u"pleased. Promise nothing for next month in this mood."},
-    {6, u"This is a day to maintain balance and harmony in life. Work or homework wants one hour "
-        u"more, and somebody at home counts on the same hour; decide at lunch which of them gets "
-        u"it, and say so early. Flowers on the table and an apology for this morning's tone take "
-        u"little time and change the evening. You notice what others do wrong with the dishes or "
-        u"the driving. Make one of these remarks and swallow the rest. If a friend calls in tears "
-        u"after nine, listen until they are calm and then go to bed."},
+    {6, u"This is a day to maintain balance and harmony in life. Work or school asks for one hour "
+        u"more and somebody at home counts on the same hour; decide at lunch who gets it and tell "
+        u"the other. Flowers on the table and an apology for this morning's tone take little time "
+        u"and change the evening. You notice what others do wrong with the dishes or the driving. "
+        u"Make one of these remarks and swallow the rest. If a friend calls in tears after nine, "
+        u"listen until they are calm and then go to bed."},
     {7, u"There is a tendency to lose your calm and feel disturbed on this day. Noise and "
         u"questions get on your nerves, and you hear a reproach where somebody only asks the "
         u"time. Argue tomorrow. A turn around the block at noon sets you right, and so does a "
@@ -39,9 +39,9 @@ constexpr Reading rows[] = {
         u"weight, on a price, a plan or who is in charge. Hear the likeliest objector, settle it "
         u"by three, and say who does what. By supper you outrank nobody; the movie and other "
         u"people's hair are decided elsewhere."},
-    {9, u"This is a day to cherish the companionship of others. Those you fell out with count, "
-        u"too: an old quarrel looks rather small today. You are inclined to give a stranger your "
-        u"coat and your lunch money; keep the bus fare. At the goodbye, say the warm thing that "
+    {9, u"This is a day to cherish the companionship of others. Sit down with an old friend and "
+        u"ask about the thing they mentioned last time. You are inclined to give away your coat "
+        u"and your lunch money today; keep the bus fare. At the goodbye, say the warm thing that "
         u"you usually save for cards."},
 };
 } // namespace

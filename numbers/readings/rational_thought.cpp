@@ -8,9 +8,9 @@ constexpr Reading rows[] = {
         u"a first sketch lies on the table before the question has been fully stated, and you "
         u"improve it as you go. That a thing has always been done one way is reason enough for "
         u"you to look for another. Checking the proof bores you, and an idea seems truer if it is "
-        u"your own, so the advice you let pass at breakfast is back by supper as your discovery. "
-        u"The plans that last are those that somebody was allowed to attack for ten minutes, "
-        u"while you kept quiet and took notes."},
+        u"your own, so the advice you fought on Monday comes back on Thursday as your discovery. "
+        u"Before you defend a plan, have someone attack it for ten minutes while you only take "
+        u"notes. What is left of it will stand."},
     {2, u"People of this rational number like to discuss things in detail with others before "
         u"coming to a conclusion. You think best across a table, watching a face that tells you "
         u"where your reasoning is thin. Who would be hurt counts with you as much as what is "
@@ -20,9 +20,9 @@ constexpr Reading rows[] = {
     {3, u"People with rational thought number 3 have a creative bend of mind. Your thoughts come "
         u"as pictures and comparisons, and you often understand a problem only on hearing "
         u"yourself tell it to a friend. A talk about the leaking gutter ends in plans for a "
-        u"puppet theater, while the gutter goes on dripping. You persuade easily, and while you "
-        u"talk the first to be persuaded is you, since a thing well said sounds true. Alone "
-        u"again, you find the fact that was left out to make room for the joke."},
+        u"puppet theater, while the gutter goes on dripping. You persuade easily, and the first "
+        u"to be persuaded is you, since a thing well said sounds true to you. Where the joke is "
+        u"best, look for the fact that was left out to make room for it."},
     {4, u"People of this rational thought number are full of different ideas. Yours arrive with "
         u"measurements attached: before you agree to move, you have counted the boxes and paced "
         u"off the hall. You reason step by step, and a leap in another person's argument bothers "
@@ -65,7 +65,7 @@ constexpr Reading rows[] = {
         u"mostly passed on an empty stomach."},
     {11, u"People with this rational thought number are spiritually inclined as well as dynamic in "
          u"nature but they may not be well able to explain how they came by an answer. It reaches "
-         u"you whole, in the bath or in the middle of another person's sentence, and you collect "
+         u"you whole, in the tub or in the middle of another person's sentence, and you collect "
          u"the reasons afterward. You have been right in this way too often to trust slow methods. "
          u"Asked for your grounds, you take offense, and a good answer is lost for want of a way "
          u"to it. You do best to build that way from the far side: if the answer is true, other "
@@ -73,7 +73,7 @@ constexpr Reading rows[] = {
          u"not, and then you have caught a mood that was posing as an insight."},
     {22, u"People with this rational thought number like to dream about bigger things in life. "
          u"Your thinking starts at the far end: you see the street finished, with its lamps lit, "
-         u"and reckon back to the first load of gravel. The way back is marked with prices and "
+         u"and count back to the first load of gravel. The way back is marked with prices and "
          u"trades, so that your daydreams stand up well to questions. It is you who give way. On "
          u"some nights the thing looks too large for one head, and you go back to your books for "
          u"another figure, although the figures were in order a month ago. A piece of it that two "

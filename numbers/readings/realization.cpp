@@ -7,7 +7,7 @@ namespace {
 constexpr Reading rows[] = {
     {1, u"People of this number have a dominating and stubborn nature. In the first half of life "
         u"it is kept on a short leash, out of duty or good manners, and then the leash gets "
-        u"longer. You no longer wait for permission. Work on your own account, a move to another "
+        u"longer. You no longer wait for permission. A business of your own, a move to another "
         u"town, a firm refusal to the relative who has always arranged things: such steps come at "
         u"last, and they come quickly. Advice that you would once have followed to keep the peace "
         u"is heard out and set aside. You are better company for it, since a person who has their "
@@ -54,19 +54,19 @@ constexpr Reading rows[] = {
         u"where and not why. The freedom has one rough edge. Whoever is used to having you near "
         u"hears of a departure when the tickets are bought, and feels cleared out with the rest. "
         u"A few would have loved to come along."},
-    {6, u"You are compassionate and a humanitarian at heart. With the years this gets about: "
+    {6, u"You are compassionate and a humanitarian at heart. With the years this gets around: "
         u"somebody's teenager confides in you, and the school or the clinic asks for you by name. "
         u"You have more to give by then and, oddly, less need of thanks. The old temptation "
         u"stays, which is to hand over the advice before the trouble has been told to its end. "
         u"Those whom you let finish, and then decide for themselves, come back on some fine day "
         u"with nothing wrong at all. They wanted to see you."},
     {7, u"You like to be in isolation and analyze your life. With the years this wish grows "
-        u"stronger, and crowded weekends that were put up with for the sake of others are "
-        u"politely refused. A question that had to wait, in science, faith, history or your own "
-        u"past, begins to claim your evenings. Only your own mistakes are studied too long, like "
-        u"the map of a town that one has left. Rather late comes the discovery that two or three "
-        u"people care about the same question, and that being contradicted by them over supper is "
-        u"a form of company."},
+        u"stronger, and crowded weekends that you once put up with are politely refused. A "
+        u"question that you never had time for, in science, faith, history or your own past, "
+        u"begins to claim your evenings. Your conclusions are worth hearing, and few hear them. "
+        u"The past is picked over too long at times, like a fish with no meat left on it. The "
+        u"good evenings come when two who share your question come to supper and are allowed to "
+        u"be wrong at your table."},
     {8, u"Once you set your goal, you devote your time and energy in achieving that goal. Later "
         u"the goals change size. Enough has been proved by then, or has turned out not to need "
         u"proof, and you ask what the strength is for. You give somebody a start, settle an old "

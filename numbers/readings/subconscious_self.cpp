@@ -19,7 +19,7 @@ constexpr Reading rows[] = {
         u"that you could have managed. You overlook what you had on you all along: some money, a "
         u"map, and a tongue that can ask the man at the counter.\r\n"
         u"In real danger a call for help is right, and nobody makes it sooner than you. Most "
-        u"surprises are smaller. The wrong parcel arrives, the store is shut for inventory, a "
+        u"surprises are smaller. The wrong package arrives, the store is closed for inventory, a "
         u"guest turns up a day early. Ten minutes with the telephone left in your pocket are as a "
         u"rule enough to see what the matter is and to take one sensible step, and the step after "
         u"that is easier. You will still call your friends, but then it will be to tell them how "
@@ -35,9 +35,9 @@ constexpr Reading rows[] = {
         u"and you watch with folded arms. Being hurried makes this worse, since under pressure "
         u"you check the same list a second time and grow stiff toward anyone who suggests leaving "
         u"out a line. Before you touch a single paper, say in one sentence what has to be settled "
-        u"by tonight. The rest can be handed over, or lie there in full view. You will find that "
-        u"untidiness can be endured for a day or two, and that your patience, kept for the right "
-        u"thing, lasts far better than you thought."},
+        u"by tonight. Hand over the rest, or leave it lying there in full view. You will find "
+        u"that untidiness can be endured for a day or two, and that your patience, kept for the "
+        u"right thing, lasts far better than you thought."},
     {5, u"Your interest lies in different fields. You have picked up a little first aid, some "
         u"plain carpentry and enough about engines to know what the noise means. On the day when "
         u"everything goes wrong, one of these scraps turns out to be the thing needed. Surprises "
@@ -121,7 +121,7 @@ constinit const Prose subconsciousSelf{
     u"shows how you meet the second kind, when there is no time to think and something older "
     u"than thought takes over. It is found by counting how many of the nine letter values occur "
     u"in your name. Each value present is a tool within your reach. Where few are held, you "
-    u"look about for help and your efforts scatter; where many are held, you keep your head, "
+    u"look around for help and your efforts scatter; where many are held, you keep your head, "
     u"though you are harder to help. What the name leaves out can still be learned by anybody "
     u"who knows that it is missing."};
 
