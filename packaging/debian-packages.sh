@@ -3,7 +3,7 @@
 
 build_packages="
     ca-certificates cmake g++ ninja-build
-    qt6-base-dev qt6-svg-dev rapidjson-dev libcsv-dev zlib1g-dev
+    qt6-base-dev qt6-svg-dev libcups2-dev rapidjson-dev libcsv-dev zlib1g-dev
     fonts-dejavu-core gzip librsvg2-bin xdg-utils
 "
 
@@ -14,7 +14,7 @@ test_packages="
     $package_packages clang-format clang-tidy libgtest-dev
     appstream desktop-file-utils man-db
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
-    locales openbox poppler-utils python3 qt6-wayland
+    locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
     weston x11-utils xclip xdotool xvfb
 "
 

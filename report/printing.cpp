@@ -1,39 +1,31 @@
 #include "report/printing.h"
 
-#include <QAbstractTextDocumentLayout>
-#include <QPageLayout>
-#include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QTextDocument>
+#include "report/print_job.h"
 
-#include <memory>
+#include <QAbstractTextDocumentLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
-void PrintDocument(const QTextDocument &document) {
-    const QPrinterInfo defaultPrinter = QPrinterInfo::defaultPrinter();
-    if (defaultPrinter.isNull())
-        return;
+namespace {
 
-    QPrinter printer(defaultPrinter, QPrinter::HighResolution);
-    printer.setDocName(u"Orravane"_s);
-    printer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
-
+void PaintPages(const QTextDocument &document, QPagedPaintDevice &paper) {
     // The pane measures in pixels of 96 to the inch.
     constexpr qreal pixelsPerInch = 96;
-    const QSizeF page = printer.pageLayout().paintRect(QPageLayout::Inch).size() * pixelsPerInch;
+    const QSizeF page = paper.pageLayout().paintRect(QPageLayout::Inch).size() * pixelsPerInch;
     const std::unique_ptr<QTextDocument> pages(document.clone());
     pages->setDocumentMargin(0);
     pages->setPageSize(page);
 
     // QTextDocument's own print would do, but it draws the line behind a page break on both
     // pages, once outside the paper, where searching and copying in a PDF still finds it.
-    QPainter painter(&printer);
-    const qreal scale = printer.resolution() / pixelsPerInch;
+    QPainter painter(&paper);
+    const qreal scale = paper.logicalDpiX() / pixelsPerInch;
     painter.scale(scale, scale);
     for (int number = 0; number < pages->pageCount(); ++number) {
-        if (number > 0 && !printer.newPage())
+        if (number > 0 && !paper.newPage())
             return;
         const QRectF view(QPointF(0, number * page.height()), page);
         QAbstractTextDocumentLayout::PaintContext context;
@@ -45,4 +37,14 @@ void PrintDocument(const QTextDocument &document) {
         pages->documentLayout()->draw(&painter, context);
         painter.restore();
     }
+}
+
+} // namespace
+
+void PrintDocument(const QTextDocument &document) {
+    const std::unique_ptr<PrintJob> job = PrintJob::ForDefaultPrinter(u"Orravane"_s);
+    if (job == nullptr)
+        return;
+    PaintPages(document, job->Pages());
+    job->Submit();
 }

@@ -55,23 +55,107 @@ private:
     const QTemporaryDir copy_;
 };
 
+/// The file that is written under this name: the one that a link leads to.
+QFileInfo FileBehind(const QString &name) {
+    const QFileInfo file(name);
+    if (!file.isSymLink())
+        return file;
+    const QString end = file.canonicalFilePath();
+    return QFileInfo(end.isEmpty() ? file.symLinkTarget() : end);
+}
+
+/// The toolkit's save dialog or the desktop's own. What has to be said about a name is said
+/// here, and so about the file that will be written: the desktop's dialog knows only what was
+/// typed, without the ending that comes behind it.
 class SaveDialog final : public QFileDialog {
 public:
-    using QFileDialog::QFileDialog;
+    SaveDialog(QWidget *parent, const QString &title, const QString &folder)
+        : QFileDialog(parent, title, folder) {
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        setOption(DontConfirmOverwrite); // accept() does that
+    }
+
+    /// Shows the dialog until a file is chosen that can be written and, where there is one
+    /// already, may be replaced. Returns its path, or nothing on Cancel.
+    QString AskForName() {
+        int result = Rejected;
+        do {
+            opensAgain_ = false;
+            result = exec();
+        } while (result != Accepted && opensAgain_);
+        return result == Accepted ? name_ : QString();
+    }
 
 protected:
     void accept() override {
+        if (isAsking_) // the desktop's dialog does not know of the question in front of it
+            return;
         // The dialog adds no ending to a name that a folder has, and looks for such a folder
         // in the current one. It has to look in the folder that it shows.
         const CurrentFolder folder(directory().absolutePath());
-        const QDir place = QFileInfo(selectedFiles().value(0)).dir();
-        if (place.exists())
+        name_ = selectedFiles().value(0);
+        if (QFileInfo(name_).isDir() && !IsOfTheDesktop()) {
+            QFileDialog::accept(); // goes into that folder
+            return;
+        }
+        isAsking_ = true;
+        const bool mayBeWritten = MayBeWritten(name_);
+        isAsking_ = false;
+        if (mayBeWritten) {
             QFileDialog::accept();
-        else
-            QMessageBox::warning(this, windowTitle(),
-                                 tr("The folder %1 does not exist.")
-                                     .arg(QDir::toNativeSeparators(place.absolutePath())));
+        } else if (IsOfTheDesktop()) { // has had its say and closes; the toolkit's just stays
+            opensAgain_ = true;
+            if (const QDir place = QFileInfo(name_).dir(); place.exists())
+                setDirectory(place);
+            selectFile(QFileInfo(name_).fileName());
+        }
     }
+
+    void reject() override {
+        if (!isAsking_)
+            QFileDialog::reject();
+    }
+
+    void done(int result) override {
+        opensAgain_ = false;
+        QFileDialog::done(result);
+    }
+
+private:
+    bool IsOfTheDesktop() const { return testAttribute(Qt::WA_DontShowOnScreen); }
+
+    /// Whether a file of this name can be written and, where there is one already, may be
+    /// replaced. Tells the user if not, or asks.
+    bool MayBeWritten(const QString &name) {
+        const QFileInfo file = FileBehind(name);
+        const QString folder = QDir::toNativeSeparators(file.absolutePath());
+        const QString path = QDir::toNativeSeparators(file.absoluteFilePath());
+        if (!file.dir().exists())
+            return Refuse(tr("The folder %1 does not exist.").arg(folder));
+        if (file.exists() && (!file.isFile() || !file.isWritable()))
+            return Refuse(tr("The file %1 cannot be replaced. Choose another name.").arg(path));
+        if (!QFileInfo(file.absolutePath()).isWritable())
+            return Refuse(tr("Nothing can be written in the folder %1.").arg(folder));
+        return !file.exists() ||
+               QMessageBox::warning(Front(), windowTitle(),
+                                    tr("%1 already exists.\nDo you want to replace it?")
+                                        .arg(QDir::toNativeSeparators(name)),
+                                    QMessageBox::Yes | QMessageBox::No,
+                                    QMessageBox::No) == QMessageBox::Yes;
+    }
+
+    bool Refuse(const QString &message) {
+        QMessageBox::warning(Front(), windowTitle(), message);
+        return false;
+    }
+
+    /// The window that messages stand in front of.
+    QWidget *Front() { return IsOfTheDesktop() ? parentWidget() : this; }
+
+    QString name_;            ///< what was chosen last
+    bool isAsking_ = false;   ///< there is a message or a question in front of the dialog
+    bool opensAgain_ = false; ///< the dialog closes without an end
 };
 
 } // namespace
@@ -86,15 +170,11 @@ void SaveReport(const modReadings::Report &report, const modReadings::RtfFont &f
     // it is destroyed.
     const BorrowedSettings borrowed;
     SaveDialog dialog(parent, title, folder);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter(u"Rich Text Format (*.rtf)"_s);
     // A name without an ending gets ".txt" although the content is RTF. Odd, and settled.
     dialog.setDefaultSuffix(u"txt"_s);
-    QString name;
-    QObject::connect(&dialog, &QFileDialog::fileSelected,
-                     [&](const QString &file) { name = file; });
-    if (dialog.exec() != QDialog::Accepted || name.isEmpty())
+    const QString name = dialog.AskForName();
+    if (name.isEmpty())
         return;
     folder = dialog.directory().absolutePath();
     WriteWhole(name, modReadings::ToRtf(report, font));

@@ -64,7 +64,8 @@ public slots:
     /// Prints the whole report on the default printer, with no dialog. Silent where there
     /// is no printer.
     void cmdPrint_Click();
-    /// Saves the report as RTF under a name asked for. Silent on Cancel and on failure.
+    /// Saves the report as RTF under a name asked for. Silent on Cancel and on a failure to
+    /// write.
     void cmdSave_Click();
     void picProceed_Click();
     void picPrint_Click();

@@ -37,11 +37,16 @@ using modReadings::NodePosition;
 
 namespace {
 
-/// A modal message with the application's title. Returns the button pressed; Escape is
-/// No where there is one.
+/// A modal message with the application's title. Returns the button pressed. In a question
+/// Enter is Yes and Escape is No.
 QMessageBox::StandardButton Ask(QWidget *parent, QMessageBox::Icon icon, const QString &text,
                                 QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, App::Title(), text, buttons, parent);
+    if ((buttons & QMessageBox::Yes) != 0) {
+        // Left to the toolkit, the default is the button that the desktop puts first.
+        box.setDefaultButton(QMessageBox::Yes);
+        box.setEscapeButton(QMessageBox::No);
+    }
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -1,17 +1,19 @@
 #pragma once
 
-// Whether another Orravane of this user is running.
+// Whether another Orravane of this user is running on this machine.
 
-#include <QLockFile>
+#include "shell/file_lock.h"
+
+#include <vector>
 
 class SingleInstance {
 public:
-    SingleInstance();
-
-    /// True when another running process holds the lock. A lock that a crash left behind
-    /// does not count, nor does a place where no lock can be written.
+    /// True when another one is running. Otherwise this object is from now on the running
+    /// one, until it is destroyed or the process ends in whatever way. Programs that the
+    /// process has started do not count. Where no file at all can be locked, nobody can
+    /// tell, and the answer is false.
     bool AnotherIsRunning();
 
 private:
-    QLockFile lock_;
+    std::vector<FileLock> locks_;
 };

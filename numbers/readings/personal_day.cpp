@@ -39,10 +39,10 @@ constexpr Reading rows[] = {
         u"weight, on a price, a plan or who is in charge. Hear the likeliest objector, settle it "
         u"by three, and say who does what. By supper you outrank nobody; the movie and other "
         u"people's hair are decided elsewhere."},
-    {9, u"This is a day to cherish the companionship of others. Look in on an old friend and ask "
-        u"about the thing they mentioned last time. You are inclined to give away your coat and "
-        u"your lunch money today; keep the bus fare. At the goodbye, say the warm thing that you "
-        u"usually save for cards."},
+    {9, u"This is a day to cherish the companionship of others. Sit down with an old friend and "
+        u"ask about the thing they mentioned last time. You are inclined to give away your coat "
+        u"and your lunch money today; keep the bus fare. At the goodbye, say the warm thing that "
+        u"you usually save for cards."},
 };
 } // namespace
 

@@ -8,7 +8,7 @@ constexpr Reading rows[] = {
         u"a first sketch lies on the table before the question has been fully stated, and you "
         u"improve it as you go. That a thing has always been done one way is reason enough for "
         u"you to look for another. Checking the proof bores you, and an idea seems truer if it is "
-        u"your own, so the advice you fought at breakfast comes back by supper as your discovery. "
+        u"your own, so the advice you fought on Monday comes back on Thursday as your discovery. "
         u"Before you defend a plan, have someone attack it for ten minutes while you only take "
         u"notes. What is left of it will stand."},
     {2, u"People of this rational number like to discuss things in detail with others before "
@@ -20,9 +20,9 @@ constexpr Reading rows[] = {
     {3, u"People with rational thought number 3 have a creative bend of mind. Your thoughts come "
         u"as pictures and comparisons, and you often understand a problem only on hearing "
         u"yourself tell it to a friend. A talk about the leaking gutter ends in plans for a "
-        u"puppet theater, while the gutter goes on dripping. You persuade easily, and while you "
-        u"talk the first to be persuaded is you, since a thing well said sounds true. Where the "
-        u"joke is best, a fact has usually been left out to make room for it."},
+        u"puppet theater, while the gutter goes on dripping. You persuade easily, and the first "
+        u"to be persuaded is you, since a thing well said sounds true to you. Where the joke is "
+        u"best, look for the fact that was left out to make room for it."},
     {4, u"People of this rational thought number are full of different ideas. Yours arrive with "
         u"measurements attached: before you agree to move, you have counted the boxes and paced "
         u"off the hall. You reason step by step, and a leap in another person's argument bothers "

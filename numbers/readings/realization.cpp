@@ -64,9 +64,9 @@ constexpr Reading rows[] = {
         u"stronger, and crowded weekends that you once put up with are politely refused. A "
         u"question that you never had time for, in science, faith, history or your own past, "
         u"begins to claim your evenings. Your conclusions are worth hearing, and few hear them. "
-        u"Only the past is picked over too long, like a fish with no meat left on it. The good "
-        u"evenings come when two who share your question come to supper and are allowed to be "
-        u"wrong at your table."},
+        u"The past is picked over too long at times, like a fish with no meat left on it. The "
+        u"good evenings come when two who share your question come to supper and are allowed to "
+        u"be wrong at your table."},
     {8, u"Once you set your goal, you devote your time and energy in achieving that goal. Later "
         u"the goals change size. Enough has been proved by then, or has turned out not to need "
         u"proof, and you ask what the strength is for. You give somebody a start, settle an old "

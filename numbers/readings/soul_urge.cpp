@@ -111,8 +111,8 @@ constexpr Reading rows[] = {
         u"examine the liking until it is cold.\r\n"
         u"Tell one friend a thought before you have finished it. Being seen in the middle of not "
         u"knowing is what you are afraid of, and it is also the only way that anyone gets in. As "
-        u"for the great questions, you keep asking, and now and then music, a hill or a sleeping "
-        u"animal answers. Some of what you are looking for does not come in the form of proof."},
+        u"for the great questions, keep asking, but let music, a hill or a sleeping animal answer "
+        u"now and then. Some of what you are looking for does not come in the form of proof."},
     {8, u"People with destiny number 8 tend to get satisfaction from financial and material "
         u"achievements. As an inner wish it is about having an effect: you want your signature to "
         u"change what happens, and you want to see the result standing there.\r\n"

@@ -35,9 +35,9 @@ constexpr Reading rows[] = {
         u"and you watch with folded arms. Being hurried makes this worse, since under pressure "
         u"you check the same list a second time and grow stiff toward anyone who suggests leaving "
         u"out a line. Before you touch a single paper, say in one sentence what has to be settled "
-        u"by tonight. You can hand over the rest, or leave it lying there in full view. You will "
-        u"find that untidiness can be endured for a day or two, and that your patience, kept for "
-        u"the right thing, lasts far better than you thought."},
+        u"by tonight. Hand over the rest, or leave it lying there in full view. You will find "
+        u"that untidiness can be endured for a day or two, and that your patience, kept for the "
+        u"right thing, lasts far better than you thought."},
     {5, u"Your interest lies in different fields. You have picked up a little first aid, some "
         u"plain carpentry and enough about engines to know what the noise means. On the day when "
         u"everything goes wrong, one of these scraps turns out to be the thing needed. Surprises "

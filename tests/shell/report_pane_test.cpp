@@ -1,8 +1,8 @@
+#include "report/print_job.h"
 #include "tests/shell/window_test.h"
 
 #include <QClipboard>
 #include <QMimeData>
-#include <QPrinterInfo>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -294,7 +294,7 @@ private slots:
     // --- Printing where there is no printer
 
     void PrintWithoutAPrinterDoesNothing() {
-        QVERIFY(QPrinterInfo::defaultPrinter().isNull());
+        QVERIFY(PrintJob::ForDefaultPrinter(u"nothing"_s) == nullptr);
         const std::u16string report = ReportText();
         Click(form.Picture2->picPrint);
         form.cmdPrint->click();

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <optional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 // The report as a file, through the real save dialog.
 
@@ -118,7 +119,6 @@ private slots:
             QCOMPARE(files->nameFilters(), QStringList{u"Rich Text Format (*.rtf)"_s});
             QCOMPARE(files->defaultSuffix(), u"txt"_s);
             QCOMPARE(NameBoxOf(dialog)->text(), QString());
-            QVERIFY(!files->testOption(QFileDialog::DontConfirmOverwrite));
             Cancel(dialog);
             looked = true;
         });
@@ -265,6 +265,53 @@ private slots:
         QVERIFY(IsTheReport(PathOf(u"report.rtf"_s)));
     }
 
+    void WhatIsNoFileOfItsOwnKeepsTheDialogOpen() {
+        const QString pipe = PathOf(u"pipe.rtf"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        bool wasStillOpen = false;
+        QString message;
+        Save([&](QDialog &dialog) {
+            message = dialogs.MessageOf([&] { SaveAs(dialog, pipe); });
+            wasStillOpen = dialog.isVisible();
+            Cancel(dialog);
+        });
+        QVERIFY(wasStillOpen);
+        QCOMPARE(message, u"Warning, Orravane: The file %1 cannot be replaced. "
+                          "Choose another name. [OK]"_s.arg(pipe));
+    }
+
+    void AFileIsReplacedWhereALinkLeads() {
+        const QString file = PathOf(u"file.rtf"_s);
+        const QString link = PathOf(u"link.rtf"_s);
+        Write(file, "an earlier report");
+        QVERIFY(QFile::link(file, link));
+        Replace(link);
+        QVERIFY(IsTheReport(file));
+        QVERIFY(QFileInfo(link).isSymLink());
+
+        QVERIFY(QFile::remove(file) && QFile::remove(link));
+        QVERIFY(QFile::link(PathOf(u"gone/file.rtf"_s), link));
+        QString message;
+        Save([&](QDialog &dialog) {
+            message = dialogs.MessageOf([&] { SaveAs(dialog, link); });
+            Cancel(dialog);
+        });
+        QCOMPARE(message,
+                 u"Warning, Orravane: The folder %1 does not exist. [OK]"_s.arg(PathOf(u"gone"_s)));
+    }
+
+    void TheQuestionBeforeAFileIsReplacedHasNoAsItsDefault() {
+        const QString path = PathOf(u"report.rtf"_s);
+        Write(path, "an earlier report");
+        Save([&](QDialog &dialog) {
+            dialogs.Plan([](QDialog &question) { QTest::keyClick(&question, Qt::Key_Return); });
+            SaveAs(dialog, path);
+            QVERIFY(dialog.isVisible());
+            Cancel(dialog);
+        });
+        QCOMPARE(ContentOf(path), QByteArray("an earlier report"));
+    }
+
     void NothingOfTheDialogIsRemembered() {
         const QString path = TemporaryHome::PathOf(u"config/QtProject.conf"_s);
         const QByteArray noted("[FileDialog]\nlastVisited=file:///srv\n\n[Other]\nkey=value\n");
@@ -282,9 +329,13 @@ private slots:
         QFile::remove(path);
     }
 
-    void APlaceThatTakesNoFileIsPassedOverInSilence() {
+    void WhatFailsOnceTheDialogHasClosedIsPassedOverInSilence() {
         const std::u16string report = ReportText();
-        SaveUnder(u"/proc/report.rtf"_s); // nobody can write there
+        {
+            const FullDisk disk(0);
+            SaveUnder(PathOf(u"report.rtf"_s));
+        }
+        QCOMPARE(Files(), QStringList());
         QCOMPARE(ReportText(), report);
         QCOMPARE(Page(), u"Picture2"_s);
         QVERIFY(form.isVisible());

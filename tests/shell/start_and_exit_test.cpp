@@ -3,6 +3,7 @@
 #include "tests/shell/window_test.h"
 
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QDirIterator>
 #include <QSettings>
@@ -333,7 +334,7 @@ private slots:
 
     void TheLockOfAKilledInstanceIsNoReasonToTurnAway() {
         FirstInstance()->Kill();
-        QCOMPARE(Locks().size(), 1); // it had no chance to tidy up
+        QCOMPARE(Locks().size(), 2); // it had no chance to tidy up
         const Outcome outcome = StartAt(usualDay);
         QVERIFY(outcome.loaded);
         QCOMPARE(outcome.message, QString());
@@ -342,20 +343,46 @@ private slots:
 
     void AnInstanceThatIsLockedForDaysIsStillRunning() {
         const auto first = FirstInstance();
-        QCOMPARE(Locks().size(), 1);
-        QFile lock(Locks().constFirst());
-        QVERIFY(lock.open(QIODevice::ReadWrite));
-        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-100),
-                                 QFileDevice::FileModificationTime));
-        lock.close();
+        QCOMPARE(Locks().size(), 2);
+        for (const QString &path : Locks()) {
+            QFile lock(path);
+            QVERIFY(lock.open(QIODevice::ReadWrite));
+            QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-100),
+                                     QFileDevice::FileModificationTime));
+        }
         QCOMPARE(StartAt(usualDay, QMessageBox::Ok).message, refusal_);
     }
 
-    void APlaceWithoutRoomForALockIsNoReasonToTurnAway() {
+    void APlaceWithoutRoomForALockIsNoReasonToTurnAwayTheFirstAndNoneToLetInTheSecond() {
         const FileInPlaceOf data(TemporaryHome::PathOf(u"data"_s));
         const Outcome outcome = StartAt(usualDay);
         QCOMPARE(outcome.message, QString());
         QVERIFY(outcome.loaded);
+        const auto first = FirstInstance();
+        QCOMPARE(StartAt(usualDay, QMessageBox::Ok).message, refusal_);
+    }
+
+    void WhatStandsInTheLockFilePlaysNoPart() {
+        QVERIFY(StartAt(usualDay).loaded); // it is there now
+        const QStringList contents{
+            QString(), u"junk"_s, u"4711\norravane\nanother-machine\n"_s,
+            u"%1\n%2\n%3\n"_s.arg(QCoreApplication::applicationPid())
+                .arg(QFileInfo(QCoreApplication::applicationFilePath()).fileName(),
+                     QSysInfo::machineHostName())};
+        for (const QString &content : contents) {
+            for (const QString &path : Locks()) {
+                QFile lock(path);
+                QVERIFY(lock.open(QIODevice::WriteOnly));
+                lock.write(content.toUtf8());
+            }
+            const Outcome outcome = StartAt(usualDay);
+            QCOMPARE(outcome.message, QString());
+            QVERIFY(outcome.loaded);
+            const auto first = FirstInstance();
+            QCOMPARE(StartAt(usualDay, QMessageBox::Ok).message, refusal_);
+            for (const QString &path : Locks())
+                QCOMPARE(ContentOf(path), content.toUtf8());
+        }
     }
 
     // --- The system's language
@@ -410,6 +437,30 @@ private slots:
             QVERIFY(!run.form.IsUnloaded());
             QCOMPARE(run.form.FrontPage(), run.form.Picture3);
         }
+    }
+
+    void EnterIsYesAndEscapeIsNoOnEveryDesktop() {
+        // Desktops differ in which of the two buttons comes first.
+        for (const auto layout : {QDialogButtonBox::WinLayout, QDialogButtonBox::MacLayout,
+                                  QDialogButtonBox::KdeLayout, QDialogButtonBox::GnomeLayout}) {
+            qApp->setStyleSheet(u"QDialogButtonBox { button-layout: %1 }"_s.arg(layout));
+            for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+                QSettings().setValue(u"LastUpdate"_s, u"2020-01-01T00:00:00"_s);
+                const auto press = [key](QDialog &box) { QTest::keyClick(&box, key); };
+                Run run;
+                run.dialogs.Plan(press);
+                QVERIFY(run.form.Form_Load());
+                QCOMPARE(run.browser.Taken(), key == Qt::Key_Return
+                                                  ? QStringList{QString::fromLatin1(updatePath)}
+                                                  : QStringList());
+                run.form.show();
+                run.dialogs.Plan(press);
+                run.form.picExit->click();
+                QCOMPARE(run.form.isVisible(), key == Qt::Key_Escape);
+                QCOMPARE(run.dialogs.Trouble(), QString());
+            }
+        }
+        qApp->setStyleSheet(QString());
     }
 
     void ThePageOpensOnceHoweverOftenTheWindowIsClosed() {

@@ -22,6 +22,7 @@ TemporaryHome::TemporaryHome() {
     below("XDG_CONFIG_DIRS", "no-system-config");
     below("XDG_DATA_HOME", "data");
     below("XDG_CACHE_HOME", "cache");
+    below("TMPDIR", "temporary");
     below("XDG_RUNTIME_DIR", "runtime");
     QFile::setPermissions(PathOf(QStringLiteral("runtime")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
