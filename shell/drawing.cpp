@@ -11,6 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The device pixels of `logical`: the toolkit, too, rounds the corners and not the size.
+QRect OnDevice(const QTransform &toDevice, const QRect &logical) {
+    const QRectF exact = toDevice.mapRect(QRectF(logical));
+    return {QPoint(qRound(exact.left()), qRound(exact.top())),
+            QPoint(qRound(exact.right()) - 1, qRound(exact.bottom()) - 1)};
+}
+
 /// For its life time, the painter's coordinates are the pixels of its device.
 class DevicePixels {
 public:
@@ -23,7 +30,7 @@ public:
     DevicePixels(const DevicePixels &) = delete;
     DevicePixels &operator=(const DevicePixels &) = delete;
 
-    QRect Place(const QRect &logical) const { return toDevice_.mapRect(logical); }
+    QRect Place(const QRect &logical) const { return OnDevice(toDevice_, logical); }
     qreal Ratio() const { return toDevice_.m11(); }
 
 private:
@@ -32,6 +39,10 @@ private:
 };
 
 } // namespace
+
+QSize DeviceSize(const QPainter &painter, const QRect &place) {
+    return OnDevice(painter.deviceTransform(), place).size();
+}
 
 void DrawBox(QPainter &painter, const QRect &place, const BoxLook &box) {
     const DevicePixels pixels(painter);
@@ -51,7 +62,7 @@ void DrawGround(QPainter &painter, const QRect &place, const QColor &color) {
 }
 
 void DrawArtwork(QPainter &painter, const QString &name, const QRect &place) {
-    const QSize size = painter.deviceTransform().mapRect(place).size();
+    const QSize size = DeviceSize(painter, place);
     const QString key = u"%1@%2x%3"_s.arg(name).arg(size.width()).arg(size.height());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {

@@ -18,6 +18,9 @@ struct BoxLook {
     QColor ground = Qt::transparent; ///< inside the frame
 };
 
+/// The size of `place` in device pixels.
+QSize DeviceSize(const QPainter &painter, const QRect &place);
+
 /// Draws `box` so that its outer edge is that of `place`.
 void DrawBox(QPainter &painter, const QRect &place, const BoxLook &box);
 

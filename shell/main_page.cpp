@@ -38,7 +38,7 @@ QPixmap MainPage::DrawSky(QSize size, qreal ratio) const {
 
 void MainPage::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    const QSize size = painter.deviceTransform().mapRect(rect()).size();
+    const QSize size = DeviceSize(painter, rect());
     if (sky_.size() != size) // the first paint, or the window is on another display now
         sky_ = DrawSky(size, painter.deviceTransform().m11());
     DrawPicture(painter, rect(), sky_);
