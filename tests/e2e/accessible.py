@@ -130,6 +130,13 @@ class AccessibleNode:
     def find_all(self, role):
         return [node for node in self.descendants() if node.role() == role]
 
+    def by_role(self):
+        """All nodes below at once, as a walk takes its time: role to a list of (name, node)."""
+        roles = {}
+        for node in self.descendants():
+            roles.setdefault(node.role(), []).append((node.name(), node))
+        return roles
+
     def click(self):
         left, top, width, height = self.box()
         self.accessibility.desktop.click(left + width // 2, top + height // 2)

@@ -25,9 +25,7 @@ class Accessibility(DesktopTest):
             tree = screen.accessibility.application(program.process)
             self.assertEqual([(window.role(), window.name()) for window in tree.children()],
                              [("frame", "Orravane v1.0")])
-            roles = {}
-            for node in tree.descendants():
-                roles.setdefault(node.role(), []).append((node.name(), node))
+            roles = tree.by_role()
 
             def names(role):
                 return [name for name, _ in roles[role]]

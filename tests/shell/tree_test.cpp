@@ -7,24 +7,18 @@
 
 // The tree of topics: how it stands, and what a click on each node does.
 
+using namespace modReadings;
+
 namespace {
 
-using modReadings::profile;
-using modReadings::store;
-
 /// The calculator of each topic, in the order of the tree.
-constexpr modReadings::Calculator calculators[] = {
-    modReadings::CalcPersonalMonth,   modReadings::CalcHiddenPassion,
-    modReadings::CalcLifePathPeriods, modReadings::CalcPersonalYear,
-    modReadings::CalcPinnacles,       modReadings::CalcSubconsciousSelf,
-    modReadings::CalcLifePath,        modReadings::CalcDestiny,
-    modReadings::CalcKarmicLessons,   modReadings::CalcBirthday,
-    modReadings::CalcChallenges,      modReadings::CalcKarmicDebt,
-    modReadings::CalcBalance,         modReadings::CalcPersonalDay,
-    modReadings::CalcRationalThought, modReadings::CalcHPBridge,
-    modReadings::CalcLEBridge,        modReadings::CalcEssence,
-    modReadings::CalcRealization,     modReadings::CalcInnerDreams,
-    modReadings::CalcPlanes,          modReadings::CalcSoulUrge};
+constexpr Calculator calculators[] = {
+    CalcPersonalMonth, CalcHiddenPassion,    CalcLifePathPeriods, CalcPersonalYear,
+    CalcPinnacles,     CalcSubconsciousSelf, CalcLifePath,        CalcDestiny,
+    CalcKarmicLessons, CalcBirthday,         CalcChallenges,      CalcKarmicDebt,
+    CalcBalance,       CalcPersonalDay,      CalcRationalThought, CalcHPBridge,
+    CalcLEBridge,      CalcEssence,          CalcRealization,     CalcInnerDreams,
+    CalcPlanes,        CalcSoulUrge};
 
 QStringList TopicCaptions() {
     QStringList captions;
@@ -37,7 +31,7 @@ QStringList TopicCaptions() {
 #define COMPARE_STORE(expected)                                                                    \
     do {                                                                                           \
         QStringList unlike;                                                                        \
-        for (const std::string &slot : modReadings::Changed(expected, store))                      \
+        for (const std::string &slot : Changed(expected, store))                                   \
             unlike << QString::fromStdString(slot);                                                \
         QCOMPARE(unlike, QStringList());                                                           \
     } while (false)
@@ -47,8 +41,8 @@ QStringList TopicCaptions() {
 class TreeTest : public WindowTest {
     Q_OBJECT
 
-    const modReadings::ReadingStore marked_ = modReadings::MarkedStore();
-    const modReadings::Report someReport_{{u"some report", false}};
+    const ReadingStore marked_ = MarkedStore();
+    const Report someReport_{{u"some report", false}};
     QString pageBefore_;
 
     /// The five inputs that are asked for, in the order in which they are.
@@ -148,18 +142,18 @@ private slots:
 
         // What becomes of store and report.
         PrepareForClickOn(caption);
-        modReadings::Report report = someReport_;
+        Report report = someReport_;
         if (topic == 22) {
-            report = modReadings::RenderComprehensiveReading();
+            report = RenderComprehensiveReading();
         } else if (topic >= 0) {
-            modReadings::Attempt(calculators[topic]);
-            report = modReadings::RenderTopic(*modReadings::FindTopic(caption.toStdU16String()));
+            Attempt(calculators[topic]);
+            report = RenderTopic(*FindTopic(caption.toStdU16String()));
         }
-        const modReadings::ReadingStore results = store;
+        const ReadingStore results = store;
         if (topic >= 0) {
             QVERIFY(report[0].bold);
             QVERIFY2(QStringView(report[0].text).startsWith(heading), qPrintable(heading));
-            QVERIFY(!modReadings::Changed(marked_, results).empty());
+            QVERIFY(!Changed(marked_, results).empty());
         }
 
         // With all inputs, by the mouse and by both Enter keys. One report is written, while
