@@ -158,8 +158,7 @@ void frmMain::OrderTabStops() {
 
 void frmMain::CentreOnScreen() {
     adjustSize();
-    const QMargins frame =
-        windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+    const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
     const QRect available = screen()->availableGeometry();
     QRect place(QPoint(), size().grownBy(frame));
     place.moveCenter(available.center());

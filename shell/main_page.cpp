@@ -18,8 +18,8 @@ QPixmap MainPage::DrawSky(QSize size, qreal ratio) const {
     const auto covered = [ratio](const QRect &place) {
         return QTransform::fromScale(ratio, ratio).mapRect(place.adjusted(2, 2, -2, -2));
     };
-    const QRegion inSight = QRegion(QRect(QPoint(), size)) - covered(At("TV").place) -
-                            covered(At("Picture1").place);
+    const QRegion inSight =
+        QRegion(QRect(QPoint(), size)) - covered(At("TV").place) - covered(At("Picture1").place);
     QPixmap sky = RenderArtwork(u"background"_s, size, inSight);
 
     // The web address is drawn as a part of the picture, because the host is known only

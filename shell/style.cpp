@@ -79,8 +79,8 @@ QString PageStyle() {
     )"_s;
     // The sheet above names a colour with an at sign in front.
     constexpr std::pair<QLatin1StringView, QColor> colors[] = {
-        {"@violet"_L1, Colors::violet}, {"@gold"_L1, Colors::gold}, {"@night"_L1, Colors::night},
-        {"@shade"_L1, Colors::shade},   {"@mist"_L1, Colors::mist}, {"@haze"_L1, Colors::haze},
+        {"@violet"_L1, Colors::violet}, {"@gold"_L1, Colors::gold},  {"@night"_L1, Colors::night},
+        {"@shade"_L1, Colors::shade},   {"@mist"_L1, Colors::mist},  {"@haze"_L1, Colors::haze},
         {"@glow"_L1, Colors::glow},     {"@paper"_L1, Colors::paper}};
     for (const auto &[name, color] : colors)
         style.replace(name, color.name());

@@ -18,10 +18,11 @@ inline constexpr QColor paleGold{255, 217, 92}; ///< quieter gold, on dark groun
 inline constexpr QColor night{42, 28, 62};      ///< text on gold and on paper
 inline constexpr QColor dusk{58, 43, 78};       ///< frame of the report
 inline constexpr QColor shade{72, 57, 92};      ///< ground of lists and of a focused box
-inline constexpr QColor mist{176, 163, 193};    ///< frames of boxes, scroll bars, selection in a window behind
-inline constexpr QColor haze{146, 131, 166};    ///< frames around groups
-inline constexpr QColor glow{108, 91, 131};     ///< ground under the mouse
-inline constexpr QColor paper{253, 251, 255};   ///< ground of the report
+inline constexpr QColor mist{176, 163,
+                             193}; ///< frames of boxes, scroll bars, selection in a window behind
+inline constexpr QColor haze{146, 131, 166};  ///< frames around groups
+inline constexpr QColor glow{108, 91, 131};   ///< ground under the mouse
+inline constexpr QColor paper{253, 251, 255}; ///< ground of the report
 } // namespace Colors
 
 /// The font of everything: Verdana, or DejaVu Sans, which has its widths. In pixels, because
