@@ -89,6 +89,7 @@ QString PageStyle() {
 
 BoxLook InputBox(bool focused) {
     return {.frame = focused ? Colors::gold : Colors::mist,
+            .width = focused ? 2.0 : 1.0,
             .ground = focused ? Colors::shade : Colors::violet};
 }
 
