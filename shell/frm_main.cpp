@@ -164,3 +164,24 @@ void frmMain::CentreOnScreen() {
     place.moveCenter(available.center());
     move(std::max(place.left(), available.left()), std::max(place.top(), available.top()));
 }
+
+void frmMain::KeepSize() {
+    QWindow *window = windowHandle();
+    QRect place = window->geometry();
+    if (place.size() == minimumSize())
+        return;
+    // The window system knows the limits in the pixels of the display before, and the toolkit
+    // tells it others only when they change.
+    window->setMinimumSize({});
+    window->setMaximumSize({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
+    window->setMinimumSize(minimumSize());
+    window->setMaximumSize(minimumSize());
+    const QPoint middle = place.center();
+    place.setSize(minimumSize());
+    place.moveCenter(middle);
+    const QMargins frame = window->frameMargins();
+    const QRect available = window->screen()->availableGeometry();
+    place.moveTopLeft({std::max(place.left(), available.left() + frame.left()),
+                       std::max(place.top(), available.top() + frame.top())});
+    window->setGeometry(place);
+}

@@ -114,6 +114,7 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -129,6 +130,9 @@ private:
     /// Puts the middle of the window, with as much of its frame as is known, into the
     /// middle of the screen. Where the screen is too small, title bar and menu stay on it.
     void CentreOnScreen();
+    /// Gives the window its size again, around its middle, where the pixels of the display
+    /// have become larger or smaller. Title bar and menu stay on the screen.
+    void KeepSize();
 
     /// Shows one of the three pages, which covers the other two.
     void BringToFront(QWidget *page);

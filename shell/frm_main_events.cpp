@@ -102,6 +102,13 @@ void frmMain::UnloadAllForms() {
             form->Unload();
 }
 
+void frmMain::showEvent(QShowEvent *event) {
+    QMainWindow::showEvent(event);
+    // Queued: first the toolkit itself has to take note of the new display.
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::KeepSize,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+}
+
 void frmMain::closeEvent(QCloseEvent *event) {
     Unload();
     QMainWindow::closeEvent(event);

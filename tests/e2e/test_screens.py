@@ -169,6 +169,34 @@ class Screens(DesktopTest):
     def test_scale_2_5(self):
         self.check_pages(2.5, (1920, 1440))
 
+    def test_a_move_to_a_screen_with_another_ratio(self):
+        with Desktop("screens-two", size=(2400, 1000)) as screen:
+            screen.run("xrandr", "--setmonitor", "left", "1000/265x1000/265+0+0", "screen")
+            screen.run("xrandr", "--setmonitor", "right", "1400/370x1000/265+1000+0", "none")
+            program = screen.orravane({"QT_SCREEN_SCALE_FACTORS": "left=1;right=1.25"})
+            self.check_edges(program)
+            for name, scale, to in (("right", 1.25, (1150, 5)), ("left", 1, (60, 300))):
+                screen.xdotool("windowmove", program.window, *to)
+                program.scale = scale
+                width = math.floor(CLIENT[0] * scale + 0.5)
+
+                def fits():
+                    program.left, program.top, program.width, program.height = screen.geometry(
+                        program.window)
+                    return program.width == width
+
+                wait_for(f"the window to be {width} pixels wide", fits)
+                program.menu_height = program.height - math.floor(CLIENT[1] * scale)
+                screen.park_mouse()
+                wait_for("the page to be painted", lambda:
+                         program.part("Picture1").colours()[PAGE_COLOUR] > 60000 * scale * scale)
+                program.keep(name)
+                self.check_edges(program)
+                left, top, width, height = program.frame()
+                self.assertGreaterEqual(top, 0)
+                self.assertGreaterEqual(left, 0)
+            self.assert_quiet(screen)
+
     def test_a_screen_that_is_too_small(self):
         with Desktop("screens-small", size=(800, 600)) as screen:
             process = screen.start({"QT_SCALE_FACTOR": "2"})

@@ -179,8 +179,7 @@ private slots:
                 for (int x = 0; x < with.width(); ++x)
                     marked += Contrast(with.pixelColor(x, y), without.pixelColor(x, y)) >= 3;
             qInfo("%s: %d pixels", qPrintable(stop->objectName()), marked);
-            QVERIFY2(marked >= 60,
-                     qPrintable(u"%1 has %2"_s.arg(stop->objectName()).arg(marked)));
+            QVERIFY2(marked >= 60, qPrintable(u"%1 has %2"_s.arg(stop->objectName()).arg(marked)));
         } while (Focus() != start);
     }
 
@@ -232,8 +231,7 @@ private slots:
             for (int x = 1; x < place.width(); ++x) {
                 if (text.adjusted(-2, -2, 2, 2).contains(x, y))
                     continue;
-                const double contrast =
-                    Contrast(place.pixelColor(x, y), place.pixelColor(0, y));
+                const double contrast = Contrast(place.pixelColor(x, y), place.pixelColor(0, y));
                 QVERIFY2(contrast < 1.1, qPrintable(u"%1, %2: %3"_s.arg(x).arg(y).arg(contrast)));
             }
         }
@@ -264,7 +262,8 @@ private slots:
     }
 
     void MessagesHaveACrispSignAndNoIconsOnTheirButtons() {
-        for (const auto &[icon, name] : std::initializer_list<std::pair<QMessageBox::Icon, QString>>{
+        for (const auto &[icon, name] :
+             std::initializer_list<std::pair<QMessageBox::Icon, QString>>{
                  {QMessageBox::Critical, u"message-critical"_s},
                  {QMessageBox::Warning, u"message-warning"_s}}) {
             QMessageBox box(icon, u"title"_s, u"text"_s,
@@ -272,9 +271,9 @@ private slots:
             for (const QAbstractButton *button : box.buttons())
                 QVERIFY(button->icon().isNull());
             const QImage sign = box.iconPixmap().toImage().convertToFormat(QImage::Format_ARGB32);
-            QCOMPARE(sign, RenderArtwork(name, sign.size())
-                               .toImage()
-                               .convertToFormat(QImage::Format_ARGB32));
+            QCOMPARE(
+                sign,
+                RenderArtwork(name, sign.size()).toImage().convertToFormat(QImage::Format_ARGB32));
             const QIcon drawn = QApplication::style()->standardIcon(
                 icon == QMessageBox::Critical ? QStyle::SP_MessageBoxCritical
                                               : QStyle::SP_MessageBoxWarning);
