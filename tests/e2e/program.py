@@ -62,6 +62,7 @@ class Program:
         self.desktop, self.process, self.scale, self.moves = desktop, process, scale, 0
         self.pressed = 0.0  # when the mouse was pressed last
         self.window = wait_for("the program's window", self._mapped_window)
+        self.await_centred()
         self.left, self.top, self.width, self.height = desktop.geometry(self.window)
         self.menu_height = self.height - round(CLIENT[1] * scale)
         wait_for("the window to be painted", lambda: self.part("Picture1").colours()[PAGE_COLOUR] > 100)
@@ -87,6 +88,22 @@ class Program:
         return self.process.returncode
 
     # Places
+
+    def await_centred(self):
+        """Waits until the window stands with its frame in the middle of the screen, where it
+        moves to as soon as it has one."""
+        slack = math.ceil(self.scale)
+
+        def centred():
+            left, top, width, height = self.frame()
+            return (abs(left + width / 2 - self.desktop.start_size[0] / 2) <= slack and
+                    abs(top + height / 2 - self.desktop.start_size[1] / 2) <= slack)
+
+        try:
+            wait_for("the window to be centred", centred)
+        except AssertionError:
+            raise AssertionError(f"the window with its frame is at {self.frame()} on a screen "
+                                 f"of {self.desktop.start_size}") from None
 
     def frame(self):
         """The place of the window with its frame on the screen: left, top, width, height."""

@@ -60,8 +60,8 @@ class Screens(DesktopTest):
             self.assertEqual(functions & (4 | 8 | 16 | 32), 4 | 32)
 
             # The frame with its title bar is in the middle of the screen, but for a rounding.
-            left, top, width, height = self.await_centred(program)
-            self.assertGreater(height, program.height + 10)
+            program.await_centred()
+            self.assertGreater(program.frame()[3], program.height + 10)
 
             screen.park_mouse()
             picture = program.keep("input")
@@ -99,23 +99,6 @@ class Screens(DesktopTest):
                                    program.part("lblHyperlink").colours().items()
                                    if near(colour, (255, 217, 92))), 50 * scale)
             self.assert_quiet(screen)
-
-    def await_centred(self, program):
-        """Waits until the frame stands in the middle of the screen; gives its place."""
-        screen = program.desktop
-        slack = math.ceil(program.scale)
-
-        def centred():
-            program.left, program.top = screen.geometry(program.window)[:2]
-            frame = program.frame()
-            left, top, width, height = frame
-            return frame if (abs(left + width / 2 - screen.size[0] / 2) <= slack and
-                             abs(top + height / 2 - screen.size[1] / 2) <= slack) else None
-
-        try:
-            return wait_for("the window to be centred", centred)
-        except AssertionError:
-            self.fail(f"the frame is at {program.frame()} on a screen of {screen.size}")
 
     def check_edge(self, program, control, colour, width):
         """The frame of a control is on all four sides of the same thickness, the one that
@@ -173,6 +156,7 @@ class Screens(DesktopTest):
         with Desktop("screens-two", size=(2400, 1000)) as screen:
             screen.run("xrandr", "--setmonitor", "left", "1000/265x1000/265+0+0", "screen")
             screen.run("xrandr", "--setmonitor", "right", "1400/370x1000/265+1000+0", "none")
+            screen.start_size = (1000, 1000)
             program = screen.orravane({"QT_SCREEN_SCALE_FACTORS": "left=1;right=1.25"})
             self.check_edges(program)
             for name, scale, to in (("right", 1.25, (1150, 5)), ("left", 1, (60, 300))):
