@@ -14,8 +14,8 @@ test_packages="
     $package_packages clang-format clang-tidy libgtest-dev
     appstream desktop-file-utils man-db
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
-    libreoffice-writer-nogui locales openbox poppler-utils python3 qt6-wayland unrtf
-    weston x11-utils xclip xdotool xvfb
+    libreoffice-writer-nogui locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
+    unrtf weston x11-utils x11-xserver-utils xclip xdotool xvfb
 "
 
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
