@@ -12,8 +12,8 @@ public:
     explicit Page(QWidget *parent) : QWidget(parent) {}
 
 protected:
-    // Not marked as opaque: the toolkit would leave out what lies below, and where the
-    // display has 1.25 pixels to the logical one, rounding would leave a row that nobody paints.
+    // Not marked as opaque, so that the toolkit paints what lies below as well: with 1.25
+    // pixels of the display to the logical one, the edges of the two need not meet.
     void paintEvent(QPaintEvent *) override {
         QPainter painter(this);
         DrawGround(painter, rect(), Colors::violet);
