@@ -1,6 +1,7 @@
 #include "shell/app.h"
 
 #include "shell/image_list.h"
+#include "shell/style.h"
 #include "version.h"
 
 #include <QApplication>
@@ -21,6 +22,8 @@ void App::Identify() {
     QApplication::setDesktopFileName(u"orravane"_s);
     QIcon icon; // drawn here: the toolkit would load a plugin for it and draw more sizes
     for (const int size : {16, 32, 64})
-        icon.addPixmap(RenderArtwork(u"orravane"_s, {size, size}, 1));
+        icon.addPixmap(RenderArtwork(u"orravane"_s, {size, size}));
     QApplication::setWindowIcon(icon);
+    QApplication::setStyle(new DesktopStyle);
+    QApplication::setFont(WindowFont());
 }

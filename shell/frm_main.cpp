@@ -15,10 +15,14 @@
 #include "shell/topic_tree_view.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +34,6 @@ frmMain::frmMain() {
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                    Qt::MSWindowsFixedSizeDialogHint);
-    setFont(WindowFont());
 
     auto *clientArea = new QWidget(this);
     clientArea->setFixedSize(At("picMain").place.size());
@@ -41,6 +44,7 @@ frmMain::frmMain() {
     BuildMenus();
     ConnectEvents();
     OrderTabStops();
+    qApp->installEventFilter(this);
 }
 
 frmMain::~frmMain() = default;
@@ -91,6 +95,7 @@ void frmMain::BuildMenus() {
 }
 
 void frmMain::ConnectEvents() {
+    connect(Picture1, &InputPage::enterPressed, this, &frmMain::cmdNext_Click);
     connect(Picture1->txtFirstName, &NameBox::keyPress, this, &frmMain::txtFirstName_KeyPress);
     connect(Picture1->txtMiddleName, &NameBox::keyPress, this, &frmMain::txtMiddleName_KeyPress);
     connect(Picture1->txtLastName, &NameBox::keyPress, this, &frmMain::txtLastName_KeyPress);
@@ -153,6 +158,30 @@ void frmMain::OrderTabStops() {
 
 void frmMain::CentreOnScreen() {
     adjustSize();
+    const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
     const QRect available = screen()->availableGeometry();
-    move(available.center() - rect().center());
+    QRect place(QPoint(), size().grownBy(frame));
+    place.moveCenter(available.center());
+    move(std::max(place.left(), available.left()), std::max(place.top(), available.top()));
+}
+
+void frmMain::KeepSize() {
+    QWindow *window = windowHandle();
+    QRect place = window->geometry();
+    if (place.size() == minimumSize())
+        return;
+    // The window system knows the limits in the pixels of the display before, and the toolkit
+    // tells it others only when they change.
+    window->setMinimumSize({});
+    window->setMaximumSize({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
+    window->setMinimumSize(minimumSize());
+    window->setMaximumSize(minimumSize());
+    const QPoint middle = place.center();
+    place.setSize(minimumSize());
+    place.moveCenter(middle);
+    const QMargins frame = window->frameMargins();
+    const QRect available = window->screen()->availableGeometry();
+    place.moveTopLeft({std::max(place.left(), available.left() + frame.left()),
+                       std::max(place.top(), available.top() + frame.top())});
+    window->setGeometry(place);
 }

@@ -10,6 +10,8 @@
 
 #include <QMainWindow>
 
+#include <optional>
+
 class HelpPage;
 class ImageButton;
 class InputPage;
@@ -113,6 +115,8 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void BuildMenus();
@@ -124,7 +128,12 @@ private:
     void UnloadAllForms();
     /// Runs Form_Unload and hides the window. Does so once, however often it is called.
     void Unload();
+    /// Puts the middle of the window, with as much of its frame as is known, into the
+    /// middle of the screen. Where the screen is too small, title bar and menu stay on it.
     void CentreOnScreen();
+    /// Gives the window its size again, around its middle, where the pixels of the display
+    /// have become larger or smaller. Title bar and menu stay on the screen.
+    void KeepSize();
 
     /// Shows one of the three pages, which covers the other two.
     void BringToFront(QWidget *page);
@@ -144,4 +153,10 @@ private:
     SingleInstance instance_;
     QWidget *frontPage_ = nullptr;
     bool unloaded_ = false;
+    bool centredWithFrame_ = false;
+
+    // When the mouse was pressed, in milliseconds of the events' own clock.
+    std::optional<quint64> lastPress_;    ///< unless a key was pressed since
+    std::optional<quint64> turningPress_; ///< the press that brought the page to the front
+    bool swallowRelease_ = false;         ///< the press that belongs to it was swallowed
 };

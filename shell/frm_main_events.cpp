@@ -24,6 +24,8 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyleHints>
+#include <QWindow>
 
 #include <cmath>
 #include <utility>
@@ -103,6 +105,13 @@ void frmMain::UnloadAllForms() {
     for (QWidget *window : QApplication::topLevelWidgets())
         if (auto *form = qobject_cast<frmMain *>(window))
             form->Unload();
+}
+
+void frmMain::showEvent(QShowEvent *event) {
+    QMainWindow::showEvent(event);
+    // Queued: first the toolkit itself has to take note of the new display.
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::KeepSize,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
 }
 
 void frmMain::closeEvent(QCloseEvent *event) {
@@ -215,13 +224,18 @@ void frmMain::mnuAbout_Click() {
 }
 
 void frmMain::BringToFront(QWidget *page) {
+    if (page != frontPage_)
+        turningPress_ = lastPress_;
     page->raise();
     frontPage_ = page;
 
-    // "&Proceed" and "&Print" share a key: it belongs to the one whose page is in front.
-    const QKeySequence alt_P(Qt::ALT | Qt::Key_P);
-    cmdNext->setShortcut(page == Picture2 ? QKeySequence() : alt_P);
-    cmdPrint->setShortcut(page == Picture2 ? alt_P : QKeySequence());
+    // A letter belongs to the command button whose image button is to be seen.
+    const auto setLetter = [page](QPushButton *button, const QWidget *itsPage, Qt::Key letter) {
+        button->setShortcut(page == itsPage ? QKeySequence(Qt::ALT | letter) : QKeySequence());
+    };
+    setLetter(cmdNext, Picture1, Qt::Key_P);
+    setLetter(cmdPrint, Picture2, Qt::Key_P);
+    setLetter(cmdSave, Picture2, Qt::Key_S);
 
     // Nothing on a covered page may keep the focus or the mouse. A button there can have
     // captured the mouse: the keyboard may change the page while the mouse rests on it.
@@ -238,6 +252,44 @@ bool frmMain::IsReachable(const QWidget *control) const {
         if (page != frontPage_ && page->isAncestorOf(control))
             return false;
     return true;
+}
+
+bool frmMain::eventFilter(QObject *watched, QEvent *event) {
+    switch (event->type()) {
+    case QEvent::ShortcutOverride: // comes before every key, also one that is a shortcut
+        lastPress_.reset();
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+        const quint64 now = static_cast<QMouseEvent *>(event)->timestamp();
+        const auto interval =
+            static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+        if (turningPress_ && now - *turningPress_ < interval &&
+            qobject_cast<ImageButton *>(watched) != nullptr) {
+            // The second half of a double click, on a button that has just come to the front.
+            swallowRelease_ = true;
+            return true;
+        }
+        swallowRelease_ = false;
+        lastPress_ = now;
+        break;
+    }
+    case QEvent::MouseButtonRelease:
+        if (swallowRelease_ && qobject_cast<ImageButton *>(watched) != nullptr) {
+            swallowRelease_ = false;
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    if (!centredWithFrame_ && watched == windowHandle() &&
+        !windowHandle()->frameMargins().isNull()) {
+        // The window manager has put the frame around the window.
+        centredWithFrame_ = true;
+        CentreOnScreen();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 /// Covered pages are not hidden, so without this Tab would reach their controls too.

@@ -1,15 +1,12 @@
 #include "shell/image_button.h"
 
-#include "shell/focus_frame.h"
+#include "shell/drawing.h"
 #include "shell/image_list.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPixmapCache>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -91,28 +88,21 @@ bool ImageButton::event(QEvent *event) {
 
 void ImageButton::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
+        if (!event->isAutoRepeat())
+            click();
         return;
     }
     QAbstractButton::keyPressEvent(event);
 }
 
 void ImageButton::paintEvent(QPaintEvent *) {
-    const qreal ratio = devicePixelRatioF();
-    const QString key =
-        u"%1@%2x%3@%4"_s.arg(ImageList::Key(picture_)).arg(width()).arg(height()).arg(ratio);
-    QPixmap picture;
-    if (!QPixmapCache::find(key, &picture)) {
-        picture = ImageList::Picture(picture_, size(), ratio);
-        QPixmapCache::insert(key, picture);
-    }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, picture);
+    DrawArtwork(painter, ImageList::Key(picture_), rect());
     if (hasFocus()) { // around the pill, or around the circle that stands in the middle
-        QRectF frame = rect();
+        QRect frame = rect();
         if (frame.width() < 2 * frame.height())
-            frame = QRectF((frame.width() - frame.height()) / 2, 0, frame.height(), frame.height());
-        DrawFocusFrame(painter, frame, frame.height() / 2);
+            frame = QRect((frame.width() - frame.height()) / 2, 0, frame.height(), frame.height());
+        DrawFocusFrame(painter, frame, frame.height() / 2.0);
     }
 }
 

@@ -19,14 +19,8 @@ QString ImageList::Key(int position) {
     return QLatin1StringView(keys.at(static_cast<std::size_t>(position) - 1));
 }
 
-QPixmap ImageList::Picture(int position, QSize size, qreal devicePixelRatio) {
-    return RenderArtwork(Key(position), size, devicePixelRatio);
-}
-
-QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio,
-                      const QRegion &inSight) {
-    QPixmap picture((QSizeF(size) * devicePixelRatio).toSize());
-    picture.setDevicePixelRatio(devicePixelRatio);
+QPixmap RenderArtwork(const QString &name, QSize size, const QRegion &inSight) {
+    QPixmap picture(size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     if (!inSight.isEmpty())

@@ -14,16 +14,13 @@ namespace ImageList {
 /// Number of images; positions run from 1 to this.
 inline constexpr int count = 10;
 
-/// The key of an image: the button's word, with "-hyper" behind it for the hover form.
+/// The key of the image at `position` (1 to 10), which is the name of its drawing: the
+/// button's word, with "-hyper" behind it for the hover form.
 QString Key(int position);
-
-/// The image at `position` (1 to 10), drawn at `size` logical pixels for a display with
-/// `devicePixelRatio` device pixels to the logical one.
-QPixmap Picture(int position, QSize size, qreal devicePixelRatio);
 
 } // namespace ImageList
 
-/// Any drawing of the resources, `name` without folder and ending. Outside `inSight`, in
-/// logical pixels, it stays transparent; an empty region stands for all of it.
-QPixmap RenderArtwork(const QString &name, QSize size, qreal devicePixelRatio,
-                      const QRegion &inSight = {});
+/// Any drawing of the resources, `name` without folder and ending, at `size` device pixels.
+/// Outside `inSight`, in device pixels, it stays transparent; an empty region stands for all
+/// of it. Everything that is drawn from the artwork comes through here.
+QPixmap RenderArtwork(const QString &name, QSize size, const QRegion &inSight = {});

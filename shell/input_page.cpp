@@ -4,11 +4,11 @@
 #include "shell/image_button.h"
 #include "shell/name_box.h"
 
+#include <QKeyEvent>
 #include <QLocale>
-#include <QStyledItemDelegate>
 
 InputPage::InputPage(QWidget *parent) : Page(parent) {
-    Frame1 = Placed(new QGroupBox(tr("Note: "), this), At("Frame1"));
+    Frame1 = Placed(new Group(tr("Note: "), this), At("Frame1"));
     Label2 = Placed(
         new QLabel(tr("This program has been designed keeping in mind date settings according to "
                       "MM/DD/YYYY format"),
@@ -18,7 +18,7 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
     Label2->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     Label2->setContentsMargins(0, 0, 44, 0); // keeps MM/DD/YYYY on one line
 
-    fraName = Placed(new QGroupBox(tr("Name"), this), At("fraName"));
+    fraName = Placed(new Group(tr("Name"), this), At("fraName"));
     Label1 = Placed(new QLabel(tr("* First Name"), fraName), At("Label1"));
     txtFirstName = Placed(new NameBox(fraName), At("txtFirstName"));
     Label4 = Placed(new QLabel(tr("Middle Name"), fraName), At("Label4"));
@@ -26,13 +26,13 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
     Label5 = Placed(new QLabel(tr("* Last Name"), fraName), At("Label5"));
     txtLastName = Placed(new NameBox(fraName), At("txtLastName"));
 
-    fraBirthDay = Placed(new QGroupBox(tr("* Birth Day"), this), At("fraBirthDay"));
+    fraBirthDay = Placed(new Group(tr("* Birth Day"), this), At("fraBirthDay"));
     Label6 = Placed(new QLabel(tr("Month"), fraBirthDay), At("Label6"));
-    cboMonth = Placed(new QComboBox(fraBirthDay), At("cboMonth"));
+    cboMonth = Placed(new DateList(fraBirthDay), At("cboMonth"));
     Label3 = Placed(new QLabel(tr("Date"), fraBirthDay), At("Label3"));
-    cboDate = Placed(new QComboBox(fraBirthDay), At("cboDate"));
+    cboDate = Placed(new DateList(fraBirthDay), At("cboDate"));
     Label7 = Placed(new QLabel(tr("Year"), fraBirthDay), At("Label7"));
-    cboYear = Placed(new QComboBox(fraBirthDay), At("cboYear"));
+    cboYear = Placed(new DateList(fraBirthDay), At("cboYear"));
 
     picProceed = Placed(new ImageButton(7, tr("Proceed"), this), At("picProceed"));
 
@@ -52,10 +52,6 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
 }
 
 void InputPage::FillLists() {
-    for (QComboBox *list : {cboMonth, cboDate, cboYear}) {
-        list->setMaxVisibleItems(12);
-        list->setItemDelegate(new QStyledItemDelegate(list)); // draws by the style sheet
-    }
     for (int day = 1; day <= 31; ++day)
         cboDate->addItem(QString::number(day));
     const QLocale locale = QLocale::system();
@@ -69,4 +65,15 @@ void InputPage::SelectFirstDates() {
     cboMonth->setCurrentIndex(0);
     cboDate->setCurrentIndex(0);
     cboYear->setCurrentIndex(0);
+}
+
+void InputPage::keyPressEvent(QKeyEvent *event) {
+    // Keys come here when the control that has the focus makes no use of them.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || (event->modifiers() & ~Qt::KeypadModifier) != 0) {
+        Page::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat()) // a missing name would bring up its message for ever
+        emit enterPressed();
 }

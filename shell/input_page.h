@@ -2,10 +2,10 @@
 
 // Picture1, the page where the person is entered.
 
+#include "shell/date_list.h"
+#include "shell/group.h"
 #include "shell/page.h"
 
-#include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 
 class ImageButton;
@@ -23,21 +23,29 @@ public:
     /// Sets month, date and year, in this order, to their first entries.
     void SelectFirstDates();
 
-    QGroupBox *Frame1;
+    Group *Frame1;
     QLabel *Label2;
-    QGroupBox *fraName;
+    Group *fraName;
     QLabel *Label1;
     NameBox *txtFirstName;
     QLabel *Label4;
     NameBox *txtMiddleName;
     QLabel *Label5;
     NameBox *txtLastName;
-    QGroupBox *fraBirthDay;
+    Group *fraBirthDay;
     QLabel *Label6;
-    QComboBox *cboMonth;
+    DateList *cboMonth;
     QLabel *Label3;
-    QComboBox *cboDate;
+    DateList *cboDate;
     QLabel *Label7;
-    QComboBox *cboYear;
+    DateList *cboYear;
     ImageButton *picProceed;
+
+signals:
+    /// Enter was pressed in a name box or on a closed list. A key that is held down counts
+    /// once, and what an input method needs to end its text does not count.
+    void enterPressed();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 };

@@ -1,6 +1,6 @@
 #include "shell/link_label.h"
 
-#include "shell/focus_frame.h"
+#include "shell/drawing.h"
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
@@ -72,7 +72,7 @@ void LinkLabel::paintEvent(QPaintEvent *event) {
         }
     } else if (hasFocus() || underMouse()) { // a line, as the label has no room for a frame
         QPainter painter(this);
-        painter.fillRect(QRect(0, height() - 1, sizeHint().width(), 1),
-                         palette().color(foregroundRole()));
+        DrawGround(painter, QRect(0, height() - 1, sizeHint().width(), 1),
+                   palette().color(foregroundRole()));
     }
 }

@@ -1,5 +1,8 @@
 #include "shell/name_box.h"
 
+#include "shell/drawing.h"
+#include "shell/style.h"
+
 #include <QKeyEvent>
 
 #include <limits>
@@ -8,20 +11,45 @@ NameBox::NameBox(QWidget *parent) : QLineEdit(parent) {
     setMaxLength(std::numeric_limits<int>::max()); // the box itself sets no limit to a name
 }
 
-void NameBox::keyPressEvent(QKeyEvent *event) {
-    const QString text = event->text();
-    if (text.size() == 1 && text.front().isPrint() && text.front().unicode() <= 0x7FFF) {
-        const auto typed = static_cast<qint16>(text.front().unicode());
-        qint16 KeyAscii = typed;
+QString NameBox::Filtered(QString typed) {
+    for (QChar &character : typed) {
+        if (!character.isPrint() || character.unicode() > std::numeric_limits<qint16>::max())
+            continue;
+        auto KeyAscii = static_cast<qint16>(character.unicode());
         emit keyPress(KeyAscii);
-        if (KeyAscii != typed) {
-            QKeyEvent changed(event->type(), event->key(), event->modifiers(),
-                              QString(QChar(KeyAscii)), event->isAutoRepeat(),
-                              static_cast<quint16>(event->count()));
-            QLineEdit::keyPressEvent(&changed);
-            event->setAccepted(changed.isAccepted());
-            return;
-        }
+        character = QChar(KeyAscii);
     }
-    QLineEdit::keyPressEvent(event);
+    return typed;
+}
+
+void NameBox::keyPressEvent(QKeyEvent *event) {
+    if (composing_ && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        return; // meant for the input method
+    const QString typed = event->text();
+    const QString text = typed.size() == 1 ? Filtered(typed) : typed;
+    if (text == typed) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    QKeyEvent changed(event->type(), event->key(), event->modifiers(), text, event->isAutoRepeat(),
+                      static_cast<quint16>(event->count()));
+    QLineEdit::keyPressEvent(&changed);
+    event->setAccepted(changed.isAccepted());
+}
+
+void NameBox::inputMethodEvent(QInputMethodEvent *event) {
+    composing_ = !event->preeditString().isEmpty();
+    QInputMethodEvent changed(event->preeditString(), event->attributes());
+    changed.setCommitString(Filtered(event->commitString()), event->replacementStart(),
+                            event->replacementLength());
+    QLineEdit::inputMethodEvent(&changed);
+    event->setAccepted(changed.isAccepted());
+}
+
+void NameBox::paintEvent(QPaintEvent *event) {
+    {
+        QPainter painter(this);
+        DrawBox(painter, rect(), InputBox(hasFocus()));
+    }
+    QLineEdit::paintEvent(event);
 }

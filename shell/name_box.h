@@ -1,7 +1,7 @@
 #pragma once
 
-// A text box that lets its form look at, and change, each character key before the box
-// takes it.
+// A text box that lets its form look at, and change, each character that is typed before
+// the box takes it.
 
 #include <QLineEdit>
 
@@ -12,10 +12,19 @@ public:
     explicit NameBox(QWidget *parent);
 
 signals:
-    /// A key that types one character is about to be taken. The receiver may change it
-    /// in place. Pasted and composed text does not come this way.
+    /// A character is about to be taken, from a key or from an input method, such as a
+    /// keyboard on the screen. The receiver may change it in place. Pasted text does not
+    /// come this way, nor does what an input method still composes.
     void keyPress(qint16 &KeyAscii);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+
+private:
+    /// `typed`, each character as the receivers of keyPress() leave it.
+    QString Filtered(QString typed);
+
+    bool composing_ = false; ///< an input method shows text that it has not committed
 };

@@ -1,20 +1,21 @@
 #pragma once
 
-// What the three stacked pages share: the violet ground, and that they cover what lies
-// under them, which then need not be painted.
+// What the three stacked pages share: the violet ground. It covers what lies under them.
 
+#include "shell/drawing.h"
 #include "shell/style.h"
 
-#include <QPaintEvent>
-#include <QPainter>
 #include <QWidget>
 
 class Page : public QWidget {
 public:
-    explicit Page(QWidget *parent) : QWidget(parent) { setAttribute(Qt::WA_OpaquePaintEvent); }
+    explicit Page(QWidget *parent) : QWidget(parent) {}
 
 protected:
-    void paintEvent(QPaintEvent *event) override {
-        QPainter(this).fillRect(event->rect(), Colors::violet);
+    // Not marked as opaque, so that the toolkit paints what lies below as well: with 1.25
+    // pixels of the display to the logical one, the edges of the two need not meet.
+    void paintEvent(QPaintEvent *) override {
+        QPainter painter(this);
+        DrawGround(painter, rect(), Colors::violet);
     }
 };

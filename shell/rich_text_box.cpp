@@ -1,5 +1,7 @@
 #include "shell/rich_text_box.h"
 
+#include "shell/style.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -7,7 +9,7 @@
 
 #include <utility>
 
-RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent) {
+RichTextBox::RichTextBox(QWidget *parent) : Framed(parent) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setUndoRedoEnabled(false);
@@ -69,22 +71,26 @@ void RichTextBox::keyPressEvent(QKeyEvent *event) {
             break;
         }
     }
-    QTextEdit::keyPressEvent(event);
+    Framed::keyPressEvent(event);
 }
 
 void RichTextBox::mousePressEvent(QMouseEvent *event) {
-    QTextEdit::mousePressEvent(event);
+    Framed::mousePressEvent(event);
     emit mouseDown();
 }
 
 void RichTextBox::mouseMoveEvent(QMouseEvent *event) {
-    QTextEdit::mouseMoveEvent(event);
+    Framed::mouseMoveEvent(event);
     emit mouseMoved();
 }
 
 void RichTextBox::mouseReleaseEvent(QMouseEvent *event) {
-    QTextEdit::mouseReleaseEvent(event);
+    Framed::mouseReleaseEvent(event);
     emit mouseUp();
     if (viewport()->rect().contains(event->position().toPoint()))
         emit clicked();
+}
+
+BoxLook RichTextBox::BoxNow() const {
+    return hasFocus() ? BoxLook{Colors::gold, 2, 0} : BoxLook{Colors::dusk, 1, 0};
 }

@@ -4,10 +4,11 @@
 // does not edit.
 
 #include "report/report.h"
+#include "shell/framed.h"
 
 #include <QTextEdit>
 
-class RichTextBox : public QTextEdit {
+class RichTextBox : public Framed<QTextEdit> {
     Q_OBJECT
 
 public:
@@ -30,6 +31,7 @@ signals:
     void clicked();
 
 protected:
+    BoxLook BoxNow() const override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

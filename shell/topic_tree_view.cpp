@@ -1,10 +1,14 @@
 #include "shell/topic_tree_view.h"
 
+#include "shell/style.h"
+
 #include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 
-TopicTreeView::TopicTreeView(QWidget *parent) : QTreeWidget(parent) {
+using namespace Qt::StringLiterals;
+
+TopicTreeView::TopicTreeView(QWidget *parent) : Framed(parent) {
     setColumnCount(1);
     setHeaderHidden(true);
     setIndentation(16);
@@ -46,5 +50,29 @@ void TopicTreeView::keyPressEvent(QKeyEvent *event) {
         emit nodeClick(currentItem());
         return;
     }
-    QTreeWidget::keyPressEvent(event);
+    Framed::keyPressEvent(event);
+}
+
+QItemSelectionModel::SelectionFlags TopicTreeView::selectionCommand(const QModelIndex &index,
+                                                                    const QEvent *) const {
+    // One node is always selected: neither a click beside the nodes nor one with Ctrl takes
+    // the selection away.
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                           : QItemSelectionModel::NoUpdate;
+}
+
+BoxLook TopicTreeView::BoxNow() const { return {hasFocus() ? Colors::gold : Colors::violet, 1, 0}; }
+
+void TopicTreeView::drawBranches(QPainter *painter, const QRect &rect,
+                                 const QModelIndex &index) const {
+    if (!model()->hasChildren(index))
+        return;
+    QRect place(0, 0, 16, 20);
+    place.moveCenter(rect.center());
+    place.moveRight(rect.right());
+    const bool marked = selectionModel()->isSelected(index);
+    DrawArtwork(*painter,
+                u"branch-%1%2"_s.arg(isExpanded(index) ? u"open"_s : u"closed"_s,
+                                     marked ? u"-marked"_s : QString()),
+                place);
 }

@@ -4,10 +4,11 @@
 // afterwards, as the Proceed pass does.
 
 #include "report/topic_tree.h"
+#include "shell/framed.h"
 
 #include <QTreeWidget>
 
-class TopicTreeView : public QTreeWidget {
+class TopicTreeView : public Framed<QTreeWidget> {
     Q_OBJECT
 
 public:
@@ -25,7 +26,12 @@ signals:
     void nodeClick(QTreeWidgetItem *node);
 
 protected:
+    BoxLook BoxNow() const override;
+    void drawBranches(QPainter *painter, const QRect &rect,
+                      const QModelIndex &index) const override;
     void keyPressEvent(QKeyEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
 
 private:
     QList<QTreeWidgetItem *> nodes_;

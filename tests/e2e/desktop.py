@@ -52,6 +52,7 @@ class Desktop:
     def __init__(self, name, size=(1280, 1024), accessible=False, display=True, user=None):
         self.name = name
         self.size = size
+        self.start_size = size  # of the monitor that programs come up on
         self.with_accessibility = accessible
         self.with_display = display
         self.user = user

@@ -1,12 +1,15 @@
 """The running program, and what a user does with it by mouse and keyboard."""
 
 import csv
+import math
 import pathlib
+import time
 import unittest
 
 from readings import expected_runs, plain_text, today
 from waiting import wait_for
 
+TWIPS_TO_PIXEL = 15
 TABLES = pathlib.Path(__file__).parents[1] / "shell"  # shared with the tests of the window
 
 
@@ -16,24 +19,27 @@ def _table(name):
 
 
 def _places():
-    """Where the controls stand: left, top, width, height in twips, from the client area."""
+    """Where the controls stand: left, top, right, bottom in logical pixels, from the client
+    area."""
     places = {"": (0, 0, 0, 0)}
     for row in _table("places.csv"):
         left, top = places[row["container"]][:2]
-        places[row["name"]] = (left + int(row["left"]), top + int(row["top"]), int(row["width"]),
-                               int(row["height"]))
+        x, y, width, height = (math.floor(int(row[name]) / TWIPS_TO_PIXEL + 0.5)
+                               for name in ("left", "top", "width", "height"))
+        places[row["name"]] = (left + x, top + y, left + x + width, top + y + height)
     return places
 
 
-PLACES = _places()
-CLIENT = (626, 440)  # 9390 by 6600 twips, 15 to the pixel
-TWIPS_TO_PIXEL = 15
+PIXELS = _places()
+CLIENT = (626, 440)  # 9390 by 6600 twips
 
 TOPICS = [row["caption"] for row in _table("topics.csv")]
 COMPREHENSIVE = "Comprehensive Reading"
 
 # The rows of the tree once a report is open: the user branch is closed, the other open.
 ROWS = ["User Information", "Numerology", *TOPICS, COMPREHENSIVE, "Help"]
+DOUBLE_CLICK = 0.45  # seconds; the display's interval is 0.4
+
 ROW_HEIGHT = 20  # logical pixels
 TREE_PADDING = 4
 
@@ -42,12 +48,21 @@ GOLD = (255, 199, 6)
 TOPIC_INK = (128, 0, 128)
 
 
+def frame_extents(desktop, window):
+    """How far the frame reaches beyond a window: left, right, top, bottom; None when it has
+    none yet."""
+    text = desktop.run("xprop", "-id", str(window), "_NET_FRAME_EXTENTS", check=False).decode()
+    return [int(number) for number in text.split("=")[1].split(",")] if "=" in text else None
+
+
 class Program:
     """The running program and its window."""
 
     def __init__(self, desktop, process, scale=1):
         self.desktop, self.process, self.scale, self.moves = desktop, process, scale, 0
+        self.pressed = 0.0  # when the mouse was pressed last
         self.window = wait_for("the program's window", self._mapped_window)
+        self.await_centred()
         self.left, self.top, self.width, self.height = desktop.geometry(self.window)
         self.menu_height = self.height - round(CLIENT[1] * scale)
         wait_for("the window to be painted", lambda: self.part("Picture1").colours()[PAGE_COLOUR] > 100)
@@ -74,12 +89,36 @@ class Program:
 
     # Places
 
+    def await_centred(self):
+        """Waits until the window stands with its frame in the middle of the screen, where it
+        moves to as soon as it has one."""
+        slack = math.ceil(self.scale)
+
+        def centred():
+            left, top, width, height = self.frame()
+            return (abs(left + width / 2 - self.desktop.start_size[0] / 2) <= slack and
+                    abs(top + height / 2 - self.desktop.start_size[1] / 2) <= slack)
+
+        try:
+            wait_for("the window to be centred", centred)
+        except AssertionError:
+            raise AssertionError(f"the window with its frame is at {self.frame()} on a screen "
+                                 f"of {self.desktop.start_size}") from None
+
+    def frame(self):
+        """The place of the window with its frame on the screen: left, top, width, height."""
+        left, right, top, bottom = frame_extents(self.desktop, self.window)
+        x, y, width, height = self.desktop.geometry(self.window)
+        return x - left, y - top, width + left + right, height + top + bottom
+
     def box(self, control):
         """The place of a control on the screen: left, top, width, height."""
-        left, top, width, height = (twips / TWIPS_TO_PIXEL * self.scale
-                                    for twips in PLACES[control])
-        return (round(self.left + left), round(self.top + self.menu_height + top), round(width),
-                round(height))
+        left, top, right, bottom = PIXELS[control]
+        # The menu bar has whole logical pixels; the corners are rounded, and not the size.
+        menu = round(self.menu_height / self.scale)
+        left, top, right, bottom = (math.floor(pixels * self.scale + 0.5)
+                                    for pixels in (left, top + menu, right, bottom + menu))
+        return self.left + left, self.top + top, right - left, bottom - top
 
     def box_around(self, control, margin):
         """The same with so many logical pixels around it, or taken off where negative."""
@@ -116,7 +155,16 @@ class Program:
 
     def click(self, control):
         self.move_to(control)
+        self.click_here(may_double=not control.startswith("pic"))
+
+    def click_here(self, may_double=False):
+        """Clicks where the mouse is. No hand clicks two buttons within the time of a double
+        click, and where the first click turned the page, the second one would be taken for
+        half of one; so this waits, unless `may_double`."""
+        if not may_double:
+            time.sleep(max(0.0, self.pressed + DOUBLE_CLICK - time.monotonic()))
         self.desktop.xdotool("click", 1)
+        self.pressed = time.monotonic()
 
     def click_row(self, caption):
         """Clicks a node of the tree by mouse, once a report is open."""
@@ -127,6 +175,7 @@ class Program:
         x, y = left + width // 2, top + TREE_PADDING * self.scale + (row - first + 0.5) * row_height
         self.desktop.xdotool("mousemove", x, round(y), "click", "--repeat", 12, "--delay", 1,
                              wheel, "click", 1)
+        self.pressed = time.monotonic()
 
     def enter(self, person):
         """Types the name; picks the date by keyboard."""

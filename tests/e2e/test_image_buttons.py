@@ -102,7 +102,7 @@ class ImageButtons(DesktopTest):
 
             program.move_to("picExit")
             self.await_form(program, "picExit", forms["picExit"][1], "lit")
-            screen.xdotool("click", 1)
+            program.click_here()
             question = screen.accessibility.dialog(program.process, "Orravane")
             screen.await_painted(screen.window("Orravane"))
             question.find("push button", "No").click()
@@ -122,7 +122,7 @@ class ImageButtons(DesktopTest):
             plain, hover = self.forms(program, "picSave")
             program.move_to("picSave")
             self.await_form(program, "picSave", hover, "lit")
-            screen.xdotool("click", 1)
+            program.click_here()
             dialog = screen.accessibility.dialog(program.process, "Orravane")
             screen.await_painted(screen.window("Orravane"))
             dialog.find("push button", "Cancel", skip=FILE_LISTS).click()
@@ -148,7 +148,7 @@ class ImageButtons(DesktopTest):
             plain = program.part("picSave")
             program.move_to("picSave")
             wait_for("Save to light up", lambda: self.other(program, "picSave", plain))
-            screen.xdotool("click", 1)
+            program.click_here()
             screen.await_keyboard(screen.window("Orravane"))
             screen.keys("Escape")
             program.await_no_dialog()
@@ -161,9 +161,26 @@ class ImageButtons(DesktopTest):
                      not program.part("RTB").colours()[TOPIC_INK])
             program.move_to("picProceed")
             self.await_form(program, "picProceed", proceed_lit, "lit")
-            screen.xdotool("click", 1)
+            program.click_here()
             program.await_report()
             self.assertEqual(screen.windows("Orravane"), [])
+            self.assert_quiet(screen)
+
+    def test_double_click_on_proceed_stops_at_the_report(self):
+        with Desktop("image-buttons-double-click") as screen:
+            program = screen.orravane()
+            program.enter(MARIA)
+            program.move_to("picProceed")
+            screen.xdotool("click", "--repeat", 2, "--delay", 80, 1)
+            program.await_report()
+            # With the save dialog up, a click on another topic would do nothing.
+            report = program.part("RTB")
+            program.click_row("Essence")
+            wait_for("the other topic", lambda: program.part("RTB") != report)
+            self.assertEqual(screen.windows("Orravane"), [])
+            # A click by itself opens it.
+            program.click("picSave")
+            screen.window("Orravane")
             self.assert_quiet(screen)
 
     def test_release_outside_is_no_click(self):

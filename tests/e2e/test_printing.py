@@ -8,7 +8,7 @@ from desktop import Desktop, DesktopTest
 from documents import PdfText, bold_words, difference, pdf_fonts, words
 from picture import Picture
 from print_queue import PrintQueue
-from program import COMPREHENSIVE, GOLD, TOPICS, TOPIC_INK
+from program import COMPREHENSIVE, PAGE_COLOUR, TOPICS, TOPIC_INK
 from readings import MARIA, plain_text
 from waiting import DEADLINE, wait_for
 
@@ -68,19 +68,19 @@ class Printing(DesktopTest):
 
             # Marked text: the marks are dropped and all is printed.
             marked = program.read_topic("Soul Urge / Heart's Desire Number", MARIA)
-            self.assertGreater(self.report_text(program).colours()[GOLD], 1000)
+            self.assertGreater(self.report_text(program).colours()[PAGE_COLOUR], 1000)
             document = self.print_by_mouse(program, queue)
             self.assert_document(document, marked)
             program.move_to("TV")
             wait_for("the marks to go",
-                     lambda: self.report_text(program).colours()[GOLD] < 1000)
+                     lambda: self.report_text(program).colours()[PAGE_COLOUR] < 1000)
 
             # Some words only, marked by mouse.
             left, top, width, height = program.box("RTB")
             screen.xdotool("mousemove", left + 20, top + 50, "mousedown", 1,
                            "mousemove", left + 120, top + 60,
                            "mousemove", left + 150, top + 65, "mouseup", 1)
-            wait_for("marked words", lambda: self.report_text(program).colours()[GOLD] > 200)
+            wait_for("marked words", lambda: self.report_text(program).colours()[PAGE_COLOUR] > 200)
             document = self.print_by_mouse(program, queue)
             self.assert_document(document, marked)
 

@@ -86,6 +86,7 @@ class UpdateQuestion(DesktopTest):
         return moment
 
     def end(self, program):
+        program.desktop.await_keyboard(program.window)
         program.desktop.keys("alt+F4")
         self.assertEqual(program.await_end(), 0)
 

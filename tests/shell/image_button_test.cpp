@@ -2,6 +2,7 @@
 #include "tests/shell/window_test.h"
 
 #include <QPainter>
+#include <QStyleHints>
 
 // The image buttons: which picture they show while the mouse comes and goes.
 
@@ -52,11 +53,10 @@ private slots:
             QCOMPARE(ImageList::Key(2 * index + 2), words[index] + u"-hyper"_s);
             const QSize size = buttons_[index]->size();
             for (const qreal ratio : {1.0, 2.0}) {
-                const QPixmap quiet = ImageList::Picture(2 * index + 1, size, ratio);
-                const QPixmap bright = ImageList::Picture(2 * index + 2, size, ratio);
+                const QPixmap quiet = RenderArtwork(ImageList::Key(2 * index + 1), size * ratio);
+                const QPixmap bright = RenderArtwork(ImageList::Key(2 * index + 2), size * ratio);
                 QCOMPARE(quiet.size(), size * ratio);
                 QCOMPARE(bright.size(), size * ratio);
-                QCOMPARE(bright.deviceIndependentSize(), QSizeF(size));
                 QVERIFY(Brightness(bright) > Brightness(quiet) + 0.05);
             }
         }
@@ -68,8 +68,8 @@ private slots:
             const auto paints = [&](int position) {
                 QImage expected(button->size(), QImage::Format_ARGB32_Premultiplied);
                 expected.fill(Qt::transparent);
-                QPainter(&expected).drawPixmap(0, 0,
-                                               ImageList::Picture(position, button->size(), 1));
+                QPainter(&expected).drawPixmap(
+                    0, 0, RenderArtwork(ImageList::Key(position), button->size()));
                 QImage shown(button->size(), QImage::Format_ARGB32_Premultiplied);
                 shown.fill(Qt::transparent);
                 button->render(&shown, {}, {}, QWidget::RenderFlags());
@@ -179,6 +179,92 @@ private slots:
         form.TV_NodeClick(Node(u"Enter The Information"_s));
         QCOMPARE(form.Picture2->picSave->Picture(), 9);
         QCOMPARE(form.picHelp->Picture(), 4);
+    }
+
+    // --- The second half of a double click
+
+    /// Presses or releases the left button on a control, at `time` milliseconds.
+    static void Send(QEvent::Type type, QWidget *control, quint64 time) {
+        const QPointF point = QRectF(control->rect()).center();
+        QMouseEvent event(type, point, control->mapToGlobal(point), Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        event.setTimestamp(time);
+        QApplication::sendEvent(control, &event);
+    }
+    static void ClickAt(QWidget *control, quint64 time,
+                        QEvent::Type press = QEvent::MouseButtonPress) {
+        Send(press, control, time);
+        Send(QEvent::MouseButtonRelease, control, time + 1);
+    }
+
+    void ADoubleClickOnProceedStopsAtTheReport() {
+        const auto interval =
+            static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+        ImageButton *save = form.Picture2->picSave;
+        for (const QEvent::Type second : {QEvent::MouseButtonDblClick, QEvent::MouseButtonPress}) {
+            const quint64 start = second == QEvent::MouseButtonPress ? 1'000'000 : 2'000'000;
+            form.TV_NodeClick(Node(u"User Information"_s));
+            EnterSomebody();
+            ClickAt(input.picProceed, start);
+            QCOMPARE(Page(), u"Picture2"_s);
+            // The save dialog would be one that nobody planned.
+            Send(second, save, start + interval - 1);
+            QVERIFY(!save->isDown());
+            Send(QEvent::MouseButtonRelease, save, start + interval);
+            ClickAt(save, start + interval - 1); // a third one
+            // Later it is a click as usual.
+            bool came = false;
+            dialogs.Plan([&](QDialog &dialog) {
+                came = true;
+                dialog.reject();
+            });
+            ClickAt(save, start + interval);
+            QVERIFY(came);
+        }
+    }
+
+    void OnlyAPressBehindTheOneThatTurnedThePageIsSwallowed() {
+        const QStringList opened{u"/orravane-help/"_s};
+        const auto interval =
+            static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+        const QRect node = TV.visualItemRect(Node(u"Help"_s));
+        const auto clickTheHelpNode = [&](quint64 time) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, node.center(), TV.viewport()->mapToGlobal(node.center()),
+                                  Qt::LeftButton,
+                                  type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                                  Qt::NoModifier);
+                event.setTimestamp(time);
+                QApplication::sendEvent(TV.viewport(), &event);
+            }
+        };
+
+        // No page was turned: all presses count, however fast.
+        ClickAt(form.picHelp, 3'000'000);
+        ClickAt(form.picHelp, 3'000'010, QEvent::MouseButtonDblClick);
+        QCOMPARE(browser.Taken(), opened + opened);
+
+        // A click in the tree turned it: a button waits, a link and the tree do not.
+        clickTheHelpNode(4'000'000);
+        QCOMPARE(Page(), u"Picture3"_s);
+        ClickAt(form.picHelp, 4'000'010);
+        QCOMPARE(browser.Taken(), QStringList());
+        ClickAt(help.lblHelp[0], 4'000'020);
+        QCOMPARE(browser.Taken(), opened);
+        clickTheHelpNode(4'000'030); // turns nothing, and so takes no more time away
+        ClickAt(form.picHelp, 4'000'010 + interval);
+        QCOMPARE(browser.Taken(), opened);
+
+        // The keyboard turned it: the press before has nothing to do with it.
+        form.TV_NodeClick(Node(u"User Information"_s));
+        EnterSomebody();
+        Send(QEvent::MouseButtonPress, input.txtFirstName, 5'000'000);
+        Send(QEvent::MouseButtonRelease, input.txtFirstName, 5'000'001);
+        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(Page(), u"Picture2"_s);
+        ClickAt(form.picHelp, 5'000'100);
+        QCOMPARE(browser.Taken(), opened);
     }
 
     void AButtonThatLosesTheMouseWithoutAMoveTurnsPlain() {

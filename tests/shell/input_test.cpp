@@ -37,6 +37,29 @@ private slots:
         QCOMPARE(EntriesOf(input.cboYear), years);
     }
 
+    void TheListsAreFilledInTheirOrder() {
+        // The date before the month before the year, all of one before any of the next.
+        InputPage page(nullptr);
+        QStringList order;
+        const QList<std::pair<QComboBox *, QString>> lists{
+            {page.cboDate, u"date"_s}, {page.cboMonth, u"month"_s}, {page.cboYear, u"year"_s}};
+        for (const auto &[list, name] : lists)
+            connect(list->model(), &QAbstractItemModel::rowsInserted, &page, [&order, name] {
+                if (order.isEmpty() || order.last() != name)
+                    order << name;
+            });
+        page.FillLists();
+        QCOMPARE(order, u"date month year"_s.split(u' '));
+        order.clear();
+        for (const auto &[list, name] : lists) {
+            list->setCurrentIndex(3);
+            connect(list, &QComboBox::currentIndexChanged, &page,
+                    [&order, name](int index) { order << name + QString::number(index); });
+        }
+        page.SelectFirstDates();
+        QCOMPARE(order, u"month0 date0 year0"_s.split(u' '));
+    }
+
     void AListCannotBeTypedIntoOrEmptied() {
         QTest::keyClicks(input.cboYear, u"x"_s);
         QTest::keyClick(input.cboYear, Qt::Key_Delete);
@@ -69,6 +92,23 @@ private slots:
                 QCOMPARE(box->text(), letter);
                 box->clear();
             }
+        }
+    }
+
+    void WhatAnInputMethodCommitsGoesThroughTheSameFilter() {
+        for (NameBox *box : boxes_) {
+            QInputMethodEvent composing(u"ab"_s, {});
+            QApplication::sendEvent(box, &composing);
+            QCOMPARE(box->text(), QString()); // not there yet, and shown as it is composed
+            QCOMPARE(box->inputMethodQuery(Qt::ImCursorPosition).toInt(), 0);
+            QInputMethodEvent commit;
+            commit.setCommitString(u"az AZ-\u00E9\u0159\u4E2D\uFF41\U0001F600"_s);
+            QApplication::sendEvent(box, &commit);
+            QCOMPARE(box->text(), u"AZ AZ-\u00E9\u0159\u4E2D\uFF41\U0001F600"_s);
+            QInputMethodEvent replace; // the first two characters by another one
+            replace.setCommitString(u"b"_s, -static_cast<int>(box->text().size()), 2);
+            QApplication::sendEvent(box, &replace);
+            QVERIFY(box->text().startsWith(u"B AZ-"_s));
         }
     }
 
@@ -204,6 +244,33 @@ private slots:
     }
 
     // --- Reset
+
+    void ResetGoesInItsOrder() {
+        EnterSomebody();
+        input.txtMiddleName->setText(u"MIDDLE"_s);
+        form.TV_NodeClick(Node(u"Help"_s));
+        TV.setFocus();
+        QStringList order;
+        const QObject listener;
+        const auto note = [&](const QString &what) {
+            order << what + (Focus() == input.txtFirstName ? u"!"_s : QString()) + u' ' + Page();
+        };
+        connect(input.txtFirstName, &QLineEdit::textChanged, &listener, [&] { note(u"first"_s); });
+        connect(input.txtMiddleName, &QLineEdit::textChanged, &listener,
+                [&] { note(u"middle"_s); });
+        connect(input.txtLastName, &QLineEdit::textChanged, &listener, [&] { note(u"last"_s); });
+        connect(input.cboMonth, &QComboBox::currentIndexChanged, &listener,
+                [&] { note(u"month"_s); });
+        connect(input.cboDate, &QComboBox::currentIndexChanged, &listener,
+                [&] { note(u"date"_s); });
+        connect(input.cboYear, &QComboBox::currentIndexChanged, &listener,
+                [&] { note(u"year"_s); });
+        form.TV_NodeClick(Node(u"Reset"_s));
+        // The page before everything, the focus behind everything.
+        QCOMPARE(order, (QStringList{u"first Picture1"_s, u"middle Picture1"_s, u"last Picture1"_s,
+                                     u"month Picture1"_s, u"date Picture1"_s, u"year Picture1"_s}));
+        QCOMPARE(Focus(), input.txtFirstName);
+    }
 
     void ResetEmptiesTheInputPageAndNothingElse() {
         ProceedWithSomebody();

@@ -1,5 +1,6 @@
 #include "tests/shell/window_test.h"
 
+#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
@@ -97,21 +98,39 @@ private slots:
         QCOMPARE(Page(), u"Picture2"_s);
     }
 
-    void AltPIsProceedOnTheInputAndHelpPages() {
+    /// Presses Alt and a letter, and leaves time for what it could start.
+    void PressLetter(Qt::Key letter) {
+        QTest::keyClick(&form, letter, Qt::AltModifier);
+        for (const QPushButton *button : {form.cmdNext, form.cmdPrint, form.cmdSave})
+            QTRY_VERIFY(!button->isDown());
+        QApplication::processEvents();
+    }
+
+    void AltPIsProceedOnTheInputPage() {
         EnterSomebody();
         QTest::keyClick(input.txtLastName, Qt::Key_P, Qt::AltModifier);
         QTRY_COMPARE(profile.LastName, u"RIVER"s);
         QCOMPARE(Page(), u"Picture2"_s);
         QCOMPARE(input.txtLastName->text(), u"RIVER"_s); // not typed
+    }
+
+    void NoLetterActsOnTheHelpPage() {
+        ProceedWithSomebody();
         input.txtLastName->setText(u"OTHER"_s);
+        RTB.selectAll();
         form.mnuAbout->trigger();
-        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(profile.LastName, u"OTHER"s);
-        QCOMPARE(Page(), u"Picture2"_s);
-        input.txtLastName->setText(u"THIRD"_s);
-        ClickNode(u"User Information"_s);
-        QTest::keyClick(&form, Qt::Key_P, Qt::AltModifier);
-        QTRY_COMPARE(profile.LastName, u"THIRD"s);
+        PressLetter(Qt::Key_P);
+        PressLetter(Qt::Key_S); // a dialog would be one that nobody planned
+        QCOMPARE(profile.LastName, u"RIVER"s);
+        QVERIFY(RTB.textCursor().hasSelection());
+        QCOMPARE(Page(), u"Picture3"_s);
+    }
+
+    void AltSDoesNothingOnTheInputPage() {
+        EnterSomebody();
+        PressLetter(Qt::Key_S);
+        QCOMPARE(input.txtLastName->text(), u"RIVER"_s);
+        QCOMPARE(Page(), u"Picture1"_s);
     }
 
     void AltPIsPrintOnTheReportPage() {
@@ -126,21 +145,17 @@ private slots:
         QCOMPARE(ReportText(), report);
     }
 
-    void AltSOpensTheSaveDialogOnEveryPage() {
-        EnterSomebody();
-        for (const QString &caption : {u"Essence"_s, u"User Information"_s, u"Help"_s}) {
-            Activate();
-            ClickNode(caption);
-            bool isSaveDialog = false;
-            dialogs.Plan([&](QDialog &dialog) {
-                const auto *files = qobject_cast<QFileDialog *>(&dialog);
-                isSaveDialog = files != nullptr && files->acceptMode() == QFileDialog::AcceptSave;
-                dialog.reject();
-            });
-            QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
-            QTRY_VERIFY(isSaveDialog);
-            QTRY_VERIFY(!form.cmdSave->isDown());
-        }
+    void AltSOpensTheSaveDialogOnTheReportPage() {
+        ProceedWithSomebody();
+        bool isSaveDialog = false;
+        dialogs.Plan([&](QDialog &dialog) {
+            const auto *files = qobject_cast<QFileDialog *>(&dialog);
+            isSaveDialog = files != nullptr && files->acceptMode() == QFileDialog::AcceptSave;
+            dialog.reject();
+        });
+        QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
+        QTRY_VERIFY(isSaveDialog);
+        QTRY_VERIFY(!form.cmdSave->isDown());
     }
 
     void TheMenusOpenByTheirLetters() {
@@ -159,11 +174,65 @@ private slots:
         QCOMPARE(browser.Taken(), QStringList{u"/"_s});
     }
 
-    void EnterInANameBoxDoesNothing() {
+    void EnterInANameBoxOrAClosedListIsProceed() {
+        int year = 1900;
+        for (QWidget *control : std::initializer_list<QWidget *>{
+                 input.txtFirstName, input.txtMiddleName, input.txtLastName, input.cboMonth,
+                 input.cboDate, input.cboYear}) {
+            for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+                form.TV_NodeClick(Node(u"User Information"_s));
+                EnterSomebody();
+                input.cboYear->setCurrentText(QString::number(++year));
+                control->setFocus();
+                QTest::keyClick(control, key,
+                                key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier);
+                QCOMPARE(QString::fromStdU16String(profile.BirthYear), QString::number(year));
+                QCOMPARE(Page(), u"Picture2"_s);
+            }
+        }
+    }
+
+    void EnterWithAMissingNameShowsOneMessageHoweverLongItIsHeld() {
+        input.txtFirstName->setFocus();
+        QVERIFY(dialogs.MessageOf([this] { QTest::keyClick(input.txtFirstName, Qt::Key_Return); })
+                    .contains(u"First Name"_s));
+        for (QWidget *control : std::initializer_list<QWidget *>{input.txtFirstName, input.cboYear})
+            for (int times = 0; times < 3; ++times) {
+                QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+                QApplication::sendEvent(control, &repeated); // a message would be unplanned
+            }
+    }
+
+    void EnterInAnOpenListPicksTheEntryAndNoMore() {
         EnterSomebody();
+        input.cboMonth->setFocus();
+        input.cboMonth->showPopup();
+        QTest::keyClick(input.cboMonth->view(), Qt::Key_Home);
+        QTest::keyClick(input.cboMonth->view(), Qt::Key_Return);
+        QCOMPARE(input.cboMonth->currentText(), u"January"_s);
+        QCOMPARE(Page(), u"Picture1"_s);
+        Activate();
+    }
+
+    void EnterBelongsToTheInputMethodWhileItComposes() {
+        EnterSomebody();
+        input.txtLastName->setFocus();
+        QInputMethodEvent composing(u"wa"_s, {});
+        QApplication::sendEvent(input.txtLastName, &composing);
         QTest::keyClick(input.txtLastName, Qt::Key_Return);
         QCOMPARE(Page(), u"Picture1"_s);
-        QCOMPARE(profile.LastName, u""s);
+        QInputMethodEvent done;
+        done.setCommitString(u"\u308F"_s);
+        QApplication::sendEvent(input.txtLastName, &done);
+        QTest::keyClick(input.txtLastName, Qt::Key_Return);
+        QCOMPARE(Page(), u"Picture2"_s);
+    }
+
+    void EnterWithAnotherKeyDoesNothing() {
+        EnterSomebody();
+        for (const auto modifier : {Qt::AltModifier, Qt::ControlModifier, Qt::ShiftModifier})
+            QTest::keyClick(input.txtLastName, Qt::Key_Return, modifier);
+        QCOMPARE(Page(), u"Picture1"_s);
     }
 };
 

@@ -5,7 +5,10 @@
 #include <QAccessible>
 #include <QGroupBox>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScreen>
+#include <QToolTip>
+#include <QWindow>
 
 // What stands where in the window, and what it says of itself.
 
@@ -28,11 +31,11 @@ private slots:
     }
 
     void TheWindowStandsInTheCentreOfTheScreen() {
-        const QRect frame = form.frameGeometry();
+        const QRect inside = form.geometry();
+        const QRect frame = inside.marginsAdded(form.windowHandle()->frameMargins());
+        QVERIFY(frame != inside); // this display has frames
         const QPoint off = frame.center() - form.screen()->availableGeometry().center();
-        // The frame is not known before it is shown: half of it may be off, and a rounding.
-        const QSize slack = (frame.size() - form.size()) / 2 + QSize(1, 1);
-        QVERIFY2(qAbs(off.x()) <= slack.width() && qAbs(off.y()) <= slack.height(),
+        QVERIFY2(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 1, // a rounding
                  qPrintable(u"%1, %2"_s.arg(off.x()).arg(off.y())));
     }
 
@@ -41,6 +44,25 @@ private slots:
         for (const QWidget *control : form.picMain->findChildren<QWidget *>())
             QVERIFY2(control->font().families().value(0) == u"Verdana",
                      qPrintable(control->objectName()));
+        // Menus, messages, tool tips and what drops out of a box as well.
+        const QString family = u"Verdana"_s;
+        QMessageBox message(&form);
+        QMenu *context = input.txtFirstName->createStandardContextMenu();
+        const QFont fonts[] = {form.menuBar()->font(),
+                               form.menuBar()->actions().at(0)->menu()->font(),
+                               context->font(),
+                               message.font(),
+                               message.addButton(QMessageBox::Yes)->font(),
+                               QToolTip::font(),
+                               QApplication::font("QMenu"),
+                               QApplication::font("QMessageBox")};
+        delete context;
+        for (const QFont &font : fonts) {
+            QCOMPARE(font.families().value(0), family);
+            QCOMPARE(font.pixelSize(), 11);
+        }
+        // In the colours of the desktop.
+        QCOMPARE(message.palette(), QApplication::palette());
     }
 
     void EachControlStandsInItsPlace() {

@@ -406,6 +406,19 @@ private slots:
             << u"janvier f\u00E9vrier mars avril mai juin juillet ao\u00FBt "
                "septembre octobre novembre d\u00E9cembre"_s
             << u"d\u00E9cembre 5"_s;
+        // The language of everything else has no say.
+        QTest::newRow("German by LC_TIME alone")
+            << QStringList{u"LC_ALL="_s, u"LANG=en_US.UTF-8"_s, u"LC_MESSAGES=fr_FR.UTF-8"_s,
+                           u"LC_TIME=de_DE.UTF-8"_s}
+            << u"Januar Februar M\u00E4rz April Mai Juni Juli August September "
+               "Oktober November Dezember"_s
+            << u"Dezember 5"_s;
+        QTest::newRow("English by LC_TIME alone")
+            << QStringList{u"LC_ALL="_s, u"LANG=de_DE.UTF-8"_s, u"LANGUAGE=de"_s,
+                           u"LC_TIME=en_US.UTF-8"_s}
+            << u"January February March April May June July August September "
+               "October November December"_s
+            << u"December 8"_s;
         QTest::newRow("Polish, the form without a day") // with one it would be "stycznia"
             << QStringList{u"LC_ALL=pl_PL.UTF-8"_s}
             << u"stycze\u0144 luty marzec kwiecie\u0144 maj czerwiec lipiec "

@@ -3,7 +3,10 @@
 #include "core/runtime_failure.h"
 #include "numbers/calculators.h"
 #include "report/rendering.h"
+#include "shell/style.h"
 #include "tests/shell/window_test.h"
+
+#include <QTextBlock>
 
 // The tree of topics: how it stands, and what a click on each node does.
 
@@ -95,6 +98,34 @@ private slots:
             QCOMPARE((*node)->font(0).bold(), (*node)->text(0) == u"Comprehensive Reading");
             QVERIFY((*node)->icon(0).isNull());
         }
+        // It differs from the others by its weight alone.
+        QFont font = Node(u"Comprehensive Reading"_s)->font(0).resolve(TV.font());
+        font.setBold(false);
+        const QFont others = Node(u"Essence"_s)->font(0).resolve(TV.font());
+        QCOMPARE(font.families(), others.families());
+        QCOMPARE(font.pixelSize(), others.pixelSize());
+        QCOMPARE(font.pixelSize(), WindowFont().pixelSize());
+        QCOMPARE(QFontInfo(font).family(), QFontInfo(others).family());
+        font.setFamilies(others.families());
+        QCOMPARE(font, others);
+    }
+
+    void ProceedWritesToTheTreeInItsOrder() {
+        EnterSomebody();
+        ClickNode(u"Enter The Information"_s); // its branch will close over it
+        QStringList order;
+        const QObject listener;
+        connect(&TV, &QTreeWidget::itemExpanded, &listener,
+                [&](QTreeWidgetItem *node) { order << u"opens "_s + node->text(0); });
+        connect(&TV, &QTreeWidget::itemCollapsed, &listener,
+                [&](QTreeWidgetItem *node) { order << u"closes "_s + node->text(0); });
+        connect(&TV, &QTreeWidget::itemSelectionChanged, &listener, [&] {
+            const auto selected = TV.selectedItems();
+            order << u"selects "_s + (selected.isEmpty() ? u"nothing"_s : selected[0]->text(0));
+        });
+        Proceed();
+        QCOMPARE(order, (QStringList{u"opens Numerology"_s, u"selects Personal Month"_s,
+                                     u"closes User Information"_s}));
     }
 
     void ProceedOpensNumerologyAtThePersonalMonth() {
@@ -238,6 +269,29 @@ private slots:
         QVERIFY(ReportText().find(u"BirthDay") == std::u16string::npos);
     }
 
+    void TheInkBeforeAnyProceedIsThatOfEveryReading() {
+        // In a window of its own, whose pane has never held a report.
+        for (const QString &caption :
+             {u"Birthday Number"_s, u"Personal Month"_s, u"Comprehensive Reading"_s}) {
+            ReportPage page(nullptr);
+            form.TV_NodeClick(Node(u"Help"_s));
+            EnterSomebody();
+            ClickNode(caption);
+            page.RTB->ShowReport(RTB.ShownReport());
+            for (const RichTextBox *pane : {page.RTB, &RTB}) {
+                const QColor magenta(128, 0, 128);
+                for (QTextBlock block = pane->document()->begin(); block.isValid();
+                     block = block.next()) {
+                    QCOMPARE(block.charFormat().foreground().color(), magenta);
+                    for (auto part = block.begin(); !part.atEnd(); ++part)
+                        QCOMPARE(part.fragment().charFormat().foreground().color(), magenta);
+                }
+                QCOMPARE(pane->textCursor().charFormat().foreground().color(), magenta);
+                QCOMPARE(pane->textCursor().blockCharFormat().foreground().color(), magenta);
+            }
+        }
+    }
+
     void ThePageInFrontIsTheOneThatIsSeen() {
         const QRect place = form.Picture1->geometry();
         for (const auto &[caption, page] : std::initializer_list<std::pair<QString, QWidget *>>{
@@ -285,6 +339,27 @@ private slots:
         COMPARE_STORE(marked_);
         QVERIFY(RTB.ShownReport() == someReport_);
         QCOMPARE(Page(), pageBefore_);
+    }
+
+    void OneNodeIsAlwaysSelected() {
+        ClickNode(u"Enter The Information"_s);
+        const QRect last = TV.visualItemRect(Node(u"Help"_s));
+        const QPoint below(last.center().x(), last.bottom() + 30);
+        const QPoint onNode = TV.visualItemRect(Node(u"Enter The Information"_s)).center();
+        for (const auto modifier : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+            QTest::mouseClick(TV.viewport(), Qt::LeftButton, modifier, below);
+            QVERIFY(IsSelected(u"Enter The Information"_s));
+            QTest::mouseClick(TV.viewport(), Qt::RightButton, modifier, below);
+            QVERIFY(IsSelected(u"Enter The Information"_s));
+            for (int times = 0; times < 2; ++times) {
+                QTest::mouseClick(TV.viewport(), Qt::LeftButton, modifier, onNode);
+                QVERIFY(IsSelected(u"Enter The Information"_s));
+            }
+        }
+        QTest::keyClick(&TV, Qt::Key_Space, Qt::ControlModifier);
+        QVERIFY(IsSelected(u"Enter The Information"_s));
+        QTest::mouseClick(TV.viewport(), Qt::LeftButton, Qt::ControlModifier, last.center());
+        QVERIFY(IsSelected(u"Help"_s));
     }
 
     void AClickOnATopicOpensAndClosesNoBranch() {
