@@ -7,7 +7,8 @@ program=$1
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-"$3" -l -Tascii "$2" | col -b | sed -n '/^TOPICS/,/^INPUT/ s/^       \([A-Z].*\)/\1/p' |
+# Without colour codes, which newer versions write and col does not take out.
+GROFF_NO_SGR=1 "$3" -l -Tascii "$2" | col -b | sed -n '/^TOPICS/,/^INPUT/ s/^       \([A-Z].*\)/\1/p' |
     head -n 22 >"$work/page"
 read_json() {
     "$program" --first Ada --last Moreau --month May --day 7 --year 1984 --today 2027-01-01 \
