@@ -2,6 +2,7 @@
 
 #include "shell/style.h"
 
+#include <QAccessible>
 #include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -16,6 +17,15 @@ TopicTreeView::TopicTreeView(QWidget *parent) : Framed(parent) {
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setAccessibleName(tr("Topics"));
     connect(this, &QTreeWidget::itemClicked, this, &TopicTreeView::nodeClick);
+
+    // Screen readers ask for the nodes by row, and newer versions of the toolkit remember
+    // which node stood in which row. They have to be told that the rows have changed.
+    const auto tellRowsChanged = [this] {
+        QAccessibleTableModelChangeEvent change(this, QAccessibleTableModelChangeEvent::ModelReset);
+        QAccessible::updateAccessibility(&change);
+    };
+    connect(this, &QTreeWidget::itemExpanded, this, tellRowsChanged);
+    connect(this, &QTreeWidget::itemCollapsed, this, tellRowsChanged);
 }
 
 void TopicTreeView::Build() {

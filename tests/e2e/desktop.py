@@ -115,6 +115,8 @@ class Desktop:
             "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.folder}/no-session-bus",
             "DBUS_SYSTEM_BUS_ADDRESS": f"unix:path={self.folder}/no-system-bus",
             "CUPS_SERVER": str(self.folder / "no-cups.sock"),
+            # A desktop's theme remarks on the missing bus; the program has no part in that.
+            "QT_LOGGING_RULES": "qt.qpa.theme.dbus.warning=false",
         }
         for kept in ("TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
             if kept in os.environ:
