@@ -88,10 +88,10 @@ QString FileNames::Of(const modReadings::UserProfile &person, long long line,
                       const QString &ending) const {
     static const QRegularExpression part(u"\\{(first|middle|last|line)\\}"_s);
     const QString number = u"%1"_s.arg(line, 6, 10, '0'_L1);
-    const qsizetype parts = pattern_.count(part);
     const qsizetype lines = pattern_.count(u"{line}"_s);
-    const qsizetype room =
-        mostBytes - 1 - ending.toUtf8().size() - pattern_.toUtf8().size() - lines * number.size();
+    const qsizetype names = pattern_.count(part) - lines;
+    const qsizetype literal = QString(pattern_).remove(part).toUtf8().size();
+    const qsizetype room = mostBytes - 1 - ending.toUtf8().size() - literal - lines * number.size();
     QString name;
     qsizetype end = 0;
     for (const QRegularExpressionMatch &match : part.globalMatch(pattern_)) {
@@ -105,7 +105,7 @@ QString FileNames::Of(const modReadings::UserProfile &person, long long line,
         const std::u16string &value = word == "first"_L1    ? person.FirstName
                                       : word == "middle"_L1 ? person.MiddleName
                                                             : person.LastName;
-        name += Safe(QString::fromStdU16String(value), room / parts);
+        name += Safe(QString::fromStdU16String(value), room / names);
     }
     name += QStringView(pattern_).sliced(end);
     const QChar start = name.front();

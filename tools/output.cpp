@@ -32,6 +32,24 @@ extern "C" void RemoveUnfinishedAndEnd(int signal) {
     raise(signal); // the handler is gone after one call: this ends the program
 }
 
+/// Keeps the signals that end the program waiting for as long as it lives.
+class SignalsWait {
+public:
+    SignalsWait() {
+        sigset_t ending;
+        sigemptyset(&ending);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+            sigaddset(&ending, signal);
+        sigprocmask(SIG_BLOCK, &ending, &before_);
+    }
+    ~SignalsWait() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
+    SignalsWait(const SignalsWait &) = delete;
+    SignalsWait &operator=(const SignalsWait &) = delete;
+
+private:
+    sigset_t before_{};
+};
+
 /// From now on, a signal that ends the program removes `path` first.
 void RemoveOnSignal(const std::string &path) {
     [[maybe_unused]] static const bool installed = [] {
@@ -140,11 +158,14 @@ void Output::OpenBeside(std::string place) {
     const auto folder = place.rfind('/');
     const std::string start = folder == std::string::npos ? "" : place.substr(0, folder + 1);
     std::string temporary = start + ".orravane-XXXXXX";
-    descriptor_ = mkostemp(temporary.data(), O_CLOEXEC);
-    if (descriptor_ < 0)
-        Fail(errno);
+    {
+        const SignalsWait untilItIsKnown; // or a file that nobody knows of would stay
+        descriptor_ = mkostemp(temporary.data(), O_CLOEXEC);
+        if (descriptor_ < 0)
+            Fail(errno);
+        RemoveOnSignal(temporary);
+    }
     owned_ = true;
-    RemoveOnSignal(temporary);
     temporary_ = std::move(temporary);
     place_ = std::move(place);
 

@@ -110,7 +110,8 @@ TEST_F(BatchJobs, GiveTheFilesOfOne) {
     EXPECT_EQ(seen.code, 1);
     EXPECT_GT(seen.folder.size(), 200U);
     options.maxErrors = 5;
-    EXPECT_EQ(Same(options).folder.size(), 26U);
+    // The fifth wrong row is the 32nd; four wrong and three blank ones stand before it.
+    EXPECT_EQ(Same(options).folder.size(), 24U);
 }
 
 TEST_F(BatchJobs, GiveUpWhereOneDoes) {
@@ -179,7 +180,7 @@ TEST_F(BatchJobs, AreRefusedWhereOneIs) {
         const Seen seen = Same(Of({"a.csv", name, "a.csv"}));
         EXPECT_EQ(seen.code, code);
         EXPECT_NE(seen.refusal.find(part), std::string::npos) << seen.refusal;
-        EXPECT_EQ(std::ranges::count(seen.out, '\n'), 200 - 20);
+        EXPECT_EQ(std::ranges::count(seen.out, '\n'), 200 - 19); // blank ones
     }
     const Seen missing = Same(Of({"a.csv", "missing"}));
     EXPECT_EQ(missing.code, 3);
@@ -201,9 +202,11 @@ TEST_F(BatchJobs, ReportAnOutputThatCannotBeWritten) {
     Make("people", Rows(2000));
     Options options = Of({"people"});
     options.output = "/dev/full";
-    const Seen seen = Same(options);
-    EXPECT_EQ(seen.code, 3);
-    EXPECT_NE(seen.refusal.find("/dev/full: No space left"), std::string::npos) << seen.refusal;
+    for (const int jobs : {1, 2}) {
+        const Seen seen = Run(options, jobs);
+        EXPECT_EQ(seen.code, 3);
+        EXPECT_NE(seen.refusal.find("/dev/full: No space left"), std::string::npos) << seen.refusal;
+    }
 }
 
 } // namespace
