@@ -18,8 +18,8 @@ namespace {
 
 constexpr std::size_t slotsOfAWorker = 2;
 constexpr std::size_t slotSize = 8 * LineReader::longestLine; // a header, an open row, the lines
-constexpr std::size_t fullChunk = 256 * 1024;                 // bytes of lines
-constexpr std::size_t linesOfReadings = 16;
+constexpr std::size_t fullChunk = 262'144;                    // bytes of lines
+constexpr std::size_t linesOfReadings = 8;
 constexpr std::size_t linesOfNumbers = 512;
 
 /// The kinds of WorkerMessage.
@@ -291,9 +291,10 @@ private:
 
     /// Waits for what one of the workers says.
     void Listen() {
-        const auto [worker, message] = workers_.Receive();
-        const auto piece = std::ranges::find_if(pieces_, [&, by = worker](const Piece &each) {
-            return each.worker == by && each.slot == message.slot;
+        const WorkerProcesses::Received received = workers_.Receive();
+        const WorkerMessage &message = received.message;
+        const auto piece = std::ranges::find_if(pieces_, [&](const Piece &each) {
+            return each.worker == received.worker && each.slot == message.slot;
         });
         if (message.kind == Written) {
             Finish();
@@ -303,7 +304,7 @@ private:
         piece->failed = message.kind == Failed;
         piece->code = static_cast<ExitCode>(message.second);
         if (!piece->failed && &*piece == &pieces_.back())
-            openRows_ = Unpacker(slots_.Of(worker, message.slot)).Text();
+            openRows_ = Unpacker(slots_.Of(received.worker, message.slot)).Text();
     }
 
     /// Reports the wrong lines of the first chunk and has its bytes written.
