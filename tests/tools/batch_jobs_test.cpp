@@ -53,7 +53,7 @@ protected:
     /// Expects the same of one and of several processes, and returns it.
     Seen Same(const Options &options) const {
         Seen one = Run(options, 1);
-        for (const int jobs : {2, 3, 7})
+        for (const int jobs : {2, 5})
             EXPECT_TRUE(Run(options, jobs) == one) << jobs << " jobs, " << one.refusal;
         return one;
     }
@@ -115,16 +115,16 @@ TEST_F(BatchJobs, GiveTheFilesOfOne) {
 }
 
 TEST_F(BatchJobs, GiveUpWhereOneDoes) {
-    Make("people", Rows(3000));
-    for (const long long most : {1, 2, 3, 50, 429, 430}) {
-        for (const Format format : {Format::Json, Format::Text, Format::Rtf}) {
+    Make("people", Rows(600));
+    for (const long long most : {1, 2, 50, 86, 87}) {
+        for (const Format format : {Format::Json, Format::Text}) {
             Options options = Of({"people"});
             options.format = format;
             options.maxErrors = most;
             const Seen seen = Same(options);
             EXPECT_EQ(seen.code, 1);
-            EXPECT_EQ(seen.refusal.empty(), most == 430);
-            EXPECT_EQ(std::ranges::count(seen.err, '\n'), std::min(most, 429LL));
+            EXPECT_EQ(seen.refusal.empty(), most == 87);
+            EXPECT_EQ(std::ranges::count(seen.err, '\n'), std::min(most, 86LL));
         }
     }
 }
@@ -136,7 +136,7 @@ TEST_F(BatchJobs, ReadRowsThatAreLeftOpenAsOneDoes) {
     std::string often = header;
     std::string always = header;
     std::string quoted = header;
-    for (int index = 0; index < 2000; ++index) {
+    for (int index = 0; index < 500; ++index) {
         now += Row(index) + (index % 33 == 31 ? "1,\"Ann\nor Anna\",Lee,1990-03-07\n" : "");
         often += index % 3 == 0 ? "1,\"Ann\n" : index % 3 == 1 ? "x\n" : Row(index);
         always += "1,\"Ann\n";

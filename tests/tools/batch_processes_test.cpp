@@ -98,7 +98,7 @@ TEST_F(BatchProcesses, EndWithTheirParentAndLeaveNothing) {
 }
 
 TEST_F(BatchProcesses, TellThatOneHasDied) {
-    for (const int signal : {SIGKILL, SIGSEGV}) {
+    for (const int signal : {SIGKILL, SIGUSR1}) {
         Make("out", "before");
         Program program(Waiting({"--output", Path("out")}));
         const std::vector<pid_t> children = TwoChildren(program);
