@@ -32,6 +32,24 @@ extern "C" void RemoveUnfinishedAndEnd(int signal) {
     raise(signal); // the handler is gone after one call: this ends the program
 }
 
+/// Keeps the signals that end the program waiting for as long as it lives.
+class SignalsWait {
+public:
+    SignalsWait() {
+        sigset_t ending;
+        sigemptyset(&ending);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+            sigaddset(&ending, signal);
+        sigprocmask(SIG_BLOCK, &ending, &before_);
+    }
+    ~SignalsWait() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
+    SignalsWait(const SignalsWait &) = delete;
+    SignalsWait &operator=(const SignalsWait &) = delete;
+
+private:
+    sigset_t before_{};
+};
+
 /// From now on, a signal that ends the program removes `path` first.
 void RemoveOnSignal(const std::string &path) {
     [[maybe_unused]] static const bool installed = [] {
@@ -95,10 +113,9 @@ std::string BehindLinks(std::string name) {
 } // namespace
 
 Output::Output(const QString &path, Kind kind)
-    : Output((kind == Kind::InFolder             ? u"--output-dir: "_s + Excerpt(path)
-              : path.isEmpty() || path == "-"_L1 ? u"standard output"_s
-                                                 : u"--output: "_s + Excerpt(path)),
-             kind == Kind::Named) {
+    : Output(kind, kind != Kind::Named                ? u"--output-dir: "_s + Excerpt(path)
+                   : path.isEmpty() || path == "-"_L1 ? u"standard output"_s
+                                                      : u"--output: "_s + Excerpt(path)) {
     const std::string name = QFile::encodeName(path).toStdString();
     if (kind == Kind::Named)
         OpenNamed(name);
@@ -141,11 +158,14 @@ void Output::OpenBeside(std::string place) {
     const auto folder = place.rfind('/');
     const std::string start = folder == std::string::npos ? "" : place.substr(0, folder + 1);
     std::string temporary = start + ".orravane-XXXXXX";
-    descriptor_ = mkostemp(temporary.data(), O_CLOEXEC);
-    if (descriptor_ < 0)
-        Fail(errno);
+    {
+        const SignalsWait untilItIsKnown; // or a file that nobody knows of would stay
+        descriptor_ = mkostemp(temporary.data(), O_CLOEXEC);
+        if (descriptor_ < 0)
+            Fail(errno);
+        RemoveOnSignal(temporary);
+    }
     owned_ = true;
-    RemoveOnSignal(temporary);
     temporary_ = std::move(temporary);
     place_ = std::move(place);
 
@@ -181,13 +201,28 @@ void Output::Write(std::string_view bytes) {
 void Output::Finish() {
     if (temporary_.empty())
         return;
-    if (durable_ && fsync(descriptor_) != 0 && errno != EINVAL && errno != EROFS)
+    if (kind_ == Kind::Named && fsync(descriptor_) != 0 && errno != EINVAL && errno != EROFS)
         Fail(errno);
     owned_ = false;
     if (close(descriptor_) != 0) // some file systems report a full disk only here
         Fail(errno);
-    if (rename(temporary_.c_str(), place_.c_str()) != 0)
-        Fail(errno);
+    PutInPlace();
     unfinished.front() = '\0';
     temporary_.clear();
 }
+
+void Output::PutInPlace() {
+    if (kind_ == Kind::NewInFolder) {
+        // A link does not replace what has appeared meanwhile. Where there are no links the
+        // look before this has to do.
+        const bool linked = link(temporary_.c_str(), place_.c_str()) == 0;
+        if (linked || errno == EEXIST) {
+            unlink(temporary_.c_str());
+            return;
+        }
+    }
+    if (rename(temporary_.c_str(), place_.c_str()) != 0)
+        Fail(errno);
+}
+
+void Output::LeaveUnfinishedToParent() { unfinished.front() = '\0'; }

@@ -27,10 +27,6 @@ std::optional<QString> FromUtf8(std::string_view bytes) {
     return decode.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
-namespace {
-
-/// Whether a terminal might act on it: control characters, separators of lines, and the marks
-/// that turn the direction of what follows.
 bool IsControl(QChar character) {
     const char16_t unit = character.unicode();
     return character.category() == QChar::Other_Control || unit == QChar::LineSeparator ||
@@ -38,6 +34,8 @@ bool IsControl(QChar character) {
            unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
            (unit >= 0x2066 && unit <= 0x2069);
 }
+
+namespace {
 
 /// How a control character is shown.
 QString Escaped(QChar control) {
