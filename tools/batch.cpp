@@ -21,7 +21,7 @@ bool IsBlank(const std::string &line) { return line.find_first_not_of(" \t") == 
 class Batch {
 public:
     explicit Batch(const Options &options)
-        : options_(options), input_(options.batchFile), progress_(input_.Size()),
+        : options_(options), input_(options.batchFile), progress_(input_.Size(), options.verbosity),
           writer_(MakeBatchWriter(options)), number_(options.firstLine - 1) {}
 
     ExitCode Run() {
@@ -33,10 +33,12 @@ public:
             if (!std::exchange(begun_, true) && Begin(found))
                 continue;
             ReadLine(found);
-            progress_.Show(input_.Passed(), ++people_);
+            count_.bytes = input_.Passed();
+            progress_.Show(count_);
         }
         writer_->Finish();
-        return wrong_ == 0 ? ExitCode::Ok : ExitCode::SomeLinesWrong;
+        progress_.Finish(count_);
+        return count_.wrong == 0 ? ExitCode::Ok : ExitCode::SomeLinesWrong;
     }
 
 private:
@@ -75,16 +77,17 @@ private:
         if (options_.outputDir.isEmpty())
             progress_.ClearForOutput();
         writer_->WritePerson(*person, facts);
+        ++count_.people;
     }
 
     void ReportWrong(const LineFacts &facts, const std::string &message) {
         progress_.Clear();
         std::fprintf(stderr, "orravane-report: line %lld: %s\n", number_, message.c_str());
         writer_->WriteError(facts, message);
-        if (++wrong_ == options_.maxErrors)
+        if (++count_.wrong == options_.maxErrors)
             throw Refusal(
                 u"--max-errors: given up at line %1, after %2 wrong lines"_s.arg(number_).arg(
-                    wrong_),
+                    count_.wrong),
                 ExitCode::SomeLinesWrong);
     }
 
@@ -96,8 +99,7 @@ private:
     std::string line_;
     long long number_; ///< of the line
     bool begun_ = false;
-    long long people_ = 0;
-    long long wrong_ = 0;
+    BatchCount count_;
 };
 
 } // namespace

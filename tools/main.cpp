@@ -1,5 +1,6 @@
 #include "core/clock.h"
 #include "tools/batch.h"
+#include "tools/completion.h"
 #include "tools/help.h"
 #include "tools/options.h"
 #include "tools/output.h"
@@ -50,6 +51,9 @@ ExitCode Run(int argc, char *argv[]) {
         break;
     case Options::Task::ListTopics:
         Print({}, TopicList());
+        break;
+    case Options::Task::Completion:
+        Print({}, CompletionFor(options.shell));
         break;
     case Options::Task::Version:
         Print({}, std::string("orravane-report ") + orravaneVersion + '\n');

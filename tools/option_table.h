@@ -24,7 +24,10 @@ enum class OptionId {
     Book,
     Format,
     Output,
+    Quiet,
+    Summary,
     ListTopics,
+    Completion,
     Help,
     Version
 };
@@ -33,7 +36,7 @@ enum class OptionId {
 enum class OptionGroup { OnePerson, ManyPeople, WhatToRead, WhatToWrite, Other };
 
 /// What a shell can offer as the value of an option.
-enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic };
+enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic, Shell };
 
 /// The tasks with which an option goes, as bits of OptionRow::tasks.
 namespace goesWith {

@@ -2,8 +2,10 @@
 
 // The command line of orravane-report.
 
+#include "tools/completion.h"
 #include "tools/formats.h"
 #include "tools/people.h"
+#include "tools/progress.h"
 
 #include <QStringList>
 
@@ -13,7 +15,7 @@
 #include <vector>
 
 struct Options {
-    enum class Task { Person, Book, Batch, ListTopics, Help, Version };
+    enum class Task { Person, Book, Batch, ListTopics, Completion, Help, Version };
 
     Task task = Task::Person;
     PersonInput person;
@@ -25,6 +27,8 @@ struct Options {
     std::optional<long long> maxErrors;      ///< at how many wrong lines a batch gives up
     QString outputDir;                       ///< empty: none
     QString output;                          ///< empty: standard output
+    Progress::Verbosity verbosity = Progress::Verbosity::Person;
+    Shell shell = Shell::Bash; ///< of Task::Completion
 };
 
 /// Throws Refusal, naming the option, unless all arguments behind the program's name are
