@@ -127,6 +127,9 @@ _orravane_report() {
         esac
         COMPREPLY+=("$value")
     done
+    if ((${#COMPREPLY[@]} == 1)); then
+        COMPREPLY=("${COMPREPLY[0]}$quote")
+    fi
 }
 
 complete -F _orravane_report orravane-report

@@ -28,7 +28,7 @@ offers() {
 }
 
 # An interactive shell at a terminal of its own; its one offer is typed out by Tab, and the
-# line then printed in the place of being run.
+# words of the line are then shown and not run.
 bash_typed() {
     python3 - "$bash" "$completions/orravane-report.bash" "$1" <<'TAB'
 import os, pty, re, select, sys, time
@@ -51,9 +51,9 @@ def until(pattern):
     return result
 
 until(rb"@ $")
-os.write(terminal, f"stty -echo; bind 'set enable-bracketed-paste off'; . '{completion}'; orravane-report() {{ printf '<%s>\\n' \"$@\" END; }}\n".encode())
+os.write(terminal, f"stty -echo; bind 'set enable-bracketed-paste off'; . '{completion}'; shown() {{ shift; printf '<%s>\\n' \"$@\" END; }}\n".encode())
 until(rb"@ $")
-os.write(terminal, line.encode() + b"\t\n")
+os.write(terminal, line.encode() + b"\t\x01shown \n")  # from the start of the line
 print(" ".join(re.findall(r"<(.*?)>\r?\n", until(rb"<END>").decode())[:-1]))
 os.write(terminal, b"exit\n")
 os.close(terminal)
