@@ -78,9 +78,9 @@ TEST(ProgressLine, FitsAnyWidth) {
                   static_cast<std::size_t>(std::max(columns, 1)))
             << columns;
     EXPECT_EQ(ProgressLine(count, 1000, 25, 5), "");
-    EXPECT_EQ(ProgressLine(count, 1000, 25, 40), " 25 %  49,990 people  1:15 left  2,000/s");
+    EXPECT_EQ(ProgressLine(count, 1000, 25, 41), " 25 %  49,990 people  1:15 left  2,000/s");
     EXPECT_EQ(ProgressLine(count, 1000, 25, 80),
-              "[#####.................]  25 %  49,990 people  1:15 left  2,000/s  10 wrong lines");
+              "[#####...............]  25 %  49,990 people  1:15 left  2,000/s  10 wrong lines");
 }
 
 TEST(SummaryLine, CountsPeopleAndWrongLines) {
@@ -220,7 +220,7 @@ TEST_F(ProgressBar, SummaryIsThereWithoutATerminalWhenAskedFor) {
     EXPECT_EQ(run.exitCode, 0);
     ASSERT_TRUE(run.err.ends_with('\n'));
     ExpectSummary(run.err.substr(0, run.err.size() - 1), "3 people, 0 wrong lines");
-    ExpectFailed(RunProgram(line + Arguments{"--quiet"}), {"--quiet", "--summary"});
+    ExpectRefused(RunProgram(line + Arguments{"--quiet"}), {"--quiet", "--summary"});
 }
 
 } // namespace
