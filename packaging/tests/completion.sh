@@ -101,7 +101,6 @@ zsh_typed() {
         zpty -w shell "shown() { shift; printf \"<%s>\n\" \"\$@\" END; }; echo READ\"\"Y"
         zpty -r -m shell line "*READY*"
         zpty -n -w shell "$3"$'"'\\t'"'
-        sleep 1
         zpty -w shell $'"'\\x01'"'"shown "
         zpty -r -m shell line "*<END>*"
         print -r -- "$line"
