@@ -57,13 +57,17 @@ void AppendFontName(std::string &rtf, const std::string &family) {
 
 } // namespace
 
-std::string ToRtf(const Report &report, const RtfFont &font) {
+std::string RtfBeginning(const RtfFont &font) {
     std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss\\fcharset0 ";
     AppendFontName(rtf, font.family);
     rtf += ";}}\r\n{\\colortbl ;\\red" + std::to_string(TopicInk.red) + "\\green" +
            std::to_string(TopicInk.green) + "\\blue" + std::to_string(TopicInk.blue) +
            ";}\r\n\\viewkind4\\uc1\\pard\\cf1\\f0\\fs" + std::to_string(font.halfPoints) + ' ';
+    return rtf;
+}
 
+std::string RtfBody(const Report &report) {
+    std::string rtf;
     bool bold = false;
     char16_t before = 0;
     for (const Run &run : report) {
@@ -75,8 +79,12 @@ std::string ToRtf(const Report &report, const RtfFont &font) {
         if (!run.text.empty())
             before = run.text.back();
     }
-    rtf += "\\par\r\n}\r\n";
+    rtf += "\\par\r\n";
     return rtf;
+}
+
+std::string ToRtf(const Report &report, const RtfFont &font) {
+    return RtfBeginning(font).append(RtfBody(report)).append(rtfEnd);
 }
 
 } // namespace modReadings

@@ -1,43 +1,79 @@
 #include "tools/batch_writer.h"
 
-#include "tools/output.h"
+#include "report/rtf.h"
+#include "tools/number_rows.h"
 #include "tools/reading.h"
 #include "tools/refusal.h"
 #include "tools/text.h"
 
 #include <QDir>
+#include <QFileInfo>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// One JSON object a line, all in one output.
-class JsonLines : public BatchWriter {
-public:
-    explicit JsonLines(const Options &options) : options_(options), output_(options.output) {}
+PersonReading ReadAs(const Options &options, const modReadings::UserProfile &person) {
+    PersonReading reading = ReadPerson(person, options.topics);
+    if (options.head)
+        reading.head = HeadOf(reading.person, reading.day);
+    return reading;
+}
 
-    void Begin() override {}
+/// All people in one output.
+class OneOutput : public BatchWriter {
+public:
+    OneOutput(const Options &options, ByteSink &sink, Place place)
+        : options_(options), sink_(sink), between_(place == Place::Behind) {}
+
+    void Begin() override {
+        if (options_.format == Format::Csv || options_.format == Format::Tsv)
+            sink_.Write(HeaderRow(options_.format));
+        else if (options_.format == Format::Rtf)
+            sink_.Write(modReadings::RtfBeginning());
+    }
 
     void WritePerson(const modReadings::UserProfile &person, const LineFacts &line) override {
-        output_.Write(ReadingAsJson(ReadPerson(person, options_.topics), line));
+        if (std::exchange(between_, true) && !BetweenPeople(options_).empty())
+            sink_.Write(BetweenPeople(options_));
+        sink_.Write(Bytes(person, line));
     }
 
     void WriteError(const LineFacts &line, std::string_view message) override {
-        output_.Write(ErrorAsJson(line, message));
+        if (options_.format == Format::Json)
+            sink_.Write(ErrorAsJson(line, message));
+        else if (options_.numbers)
+            sink_.Write(ErrorAsRow(options_.format, line, message));
     }
 
-    void Finish() override { output_.Finish(); }
+    void Finish() override {
+        if (options_.format == Format::Rtf)
+            sink_.Write(modReadings::rtfEnd);
+    }
 
 private:
+    std::string Bytes(const modReadings::UserProfile &person, const LineFacts &line) const {
+        if (options_.numbers)
+            return options_.format == Format::Json ? NumbersAsJson(person, line)
+                                                   : NumbersAsRow(options_.format, person, line);
+        const PersonReading reading = ReadAs(options_, person);
+        if (options_.format == Format::Json)
+            return ReadingAsJson(reading, line);
+        return options_.format == Format::Rtf ? ReadingAsRtfBody(reading) : ReadingAsText(reading);
+    }
+
     const Options &options_;
-    Output output_;
+    ByteSink &sink_;
+    bool between_; ///< whether the next person stands behind another
 };
 
-/// One file a person, named after the line. A wrong line has none.
+/// One file a person. A wrong line has none.
 class FilesInFolder : public BatchWriter {
 public:
     explicit FilesInFolder(const Options &options)
-        : options_(options), ending_(options.format == Format::Rtf ? u"rtf"_s : u"txt"_s) {}
+        : options_(options), ending_(options.format == Format::Rtf ? u".rtf"_s : u".txt"_s) {}
 
     // Only now, so that a batch that is refused leaves no folder behind.
     void Begin() override {
@@ -48,9 +84,13 @@ public:
     }
 
     void WritePerson(const modReadings::UserProfile &person, const LineFacts &line) override {
-        const QString name = u"person-%1.%2"_s.arg(line.number, 6, 10, '0'_L1).arg(ending_);
-        Output file(QDir(options_.outputDir).filePath(name), Output::Kind::InFolder);
-        file.Write(ReadingAs(options_.format, ReadPerson(person, options_.topics)));
+        const QString path =
+            options_.outputDir + u'/' + options_.fileNames.Of(person, line.number, ending_);
+        const QFileInfo present(path);
+        if (options_.noClobber && (present.exists() || present.isSymLink()))
+            return;
+        Output file(path, options_.noClobber ? Output::Kind::NewInFolder : Output::Kind::InFolder);
+        file.Write(ReadingAs(options_.format, ReadAs(options_, person)));
         file.Finish();
     }
 
@@ -65,8 +105,24 @@ private:
 
 } // namespace
 
-std::unique_ptr<BatchWriter> MakeBatchWriter(const Options &options) {
+std::unique_ptr<BatchWriter> MakeBatchWriter(const Options &options, ByteSink *sink, Place place) {
     if (options.outputDir.isEmpty())
-        return std::make_unique<JsonLines>(options);
+        return std::make_unique<OneOutput>(options, *sink, place);
     return std::make_unique<FilesInFolder>(options);
+}
+
+std::string_view BetweenPeople(const Options &options) {
+    if (!options.outputDir.isEmpty())
+        return {};
+    if (options.format == Format::Text)
+        return "\n";
+    return options.format == Format::Rtf ? modReadings::rtfPageBreak : std::string_view();
+}
+
+std::string AnswerTo(const modReadings::UserProfile &person, const Options &options) {
+    if (!options.numbers)
+        return ReadingAs(options.format, ReadAs(options, person));
+    if (options.format == Format::Json)
+        return NumbersAsJson(person, {});
+    return HeaderRow(options.format) + NumbersAsRow(options.format, person, {});
 }

@@ -4,8 +4,10 @@
 
 #include "core/user_profile.h"
 #include "tools/options.h"
+#include "tools/output.h"
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 class BatchWriter {
@@ -22,7 +24,7 @@ public:
     /// Writes what stands in the place of a person who could not be read, if anything.
     virtual void WriteError(const LineFacts &line, std::string_view message) = 0;
 
-    /// Called behind the last line.
+    /// Called behind the last line, if Begin was called.
     virtual void Finish() = 0;
 
 protected:
@@ -31,6 +33,18 @@ protected:
     BatchWriter &operator=(const BatchWriter &) = delete;
 };
 
-/// The writer that `options` ask for. It lives no longer than they. It and all its functions
-/// throw Refusal with ExitCode::CannotReadOrWrite when the output cannot be written.
-std::unique_ptr<BatchWriter> MakeBatchWriter(const Options &options);
+/// Whether a writer has the first people of the output or later ones.
+enum class Place { AtTheBeginning, Behind };
+
+/// The writer that `options` ask for, which writes to `sink`; one that makes files in a folder
+/// needs none. It lives no longer than both. It and all its functions throw Refusal with
+/// ExitCode::CannotReadOrWrite when the output cannot be written.
+std::unique_ptr<BatchWriter> MakeBatchWriter(const Options &options, ByteSink *sink,
+                                             Place place = Place::AtTheBeginning);
+
+/// What stands between two people of the output that `options` ask for. A writer that begins
+/// behind others writes it before its first person too.
+std::string_view BetweenPeople(const Options &options);
+
+/// What `options` ask for about one person alone.
+std::string AnswerTo(const modReadings::UserProfile &person, const Options &options);

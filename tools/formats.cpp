@@ -1,5 +1,6 @@
 #include "tools/formats.h"
 
+#include "core/months.h"
 #include "core/text.h"
 #include "report/rtf.h"
 #include "tools/text.h"
@@ -55,6 +56,30 @@ std::string Line(rapidjson::StringBuffer &buffer) {
     return {buffer.GetString(), buffer.GetSize()};
 }
 
+/// UTF-8 with "\r\n" as "\n".
+void AppendPlain(std::string &out, std::u16string_view text) {
+    std::ranges::copy_if(AsUtf8(text), std::back_inserter(out), [](char c) { return c != '\r'; });
+}
+
+/// A date as a person writes it: "November 21, 2026".
+std::u16string LongDate(std::u16string_view month, int day, int year) {
+    const std::string rest = ' ' + std::to_string(day) + ", " + std::to_string(year);
+    return std::u16string(month).append(rest.begin(), rest.end());
+}
+
+/// Head and topics as one report, an empty line between them.
+modReadings::Report Joined(const PersonReading &reading) {
+    modReadings::Report whole = reading.head;
+    for (const TopicReading &topic : reading.topics) {
+        if (!whole.empty())
+            whole.back().text += u"\r\n\r\n";
+        whole.insert(whole.end(), topic.report.begin(), topic.report.end());
+    }
+    return whole;
+}
+
+} // namespace
+
 std::string IsoDate(std::chrono::year_month_day date) {
     char text[32];
     std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(date.year()),
@@ -62,23 +87,36 @@ std::string IsoDate(std::chrono::year_month_day date) {
     return text;
 }
 
-/// UTF-8 with "\r\n" as "\n".
-void AppendPlain(std::string &out, std::u16string_view text) {
-    std::ranges::copy_if(AsUtf8(text), std::back_inserter(out), [](char c) { return c != '\r'; });
+modReadings::Report HeadOf(const modReadings::UserProfile &person,
+                           std::chrono::year_month_day day) {
+    QString name = QString::fromStdU16String(person.FirstName);
+    for (const std::u16string &part : {person.MiddleName, person.LastName})
+        if (!part.empty())
+            name += u' ' + QString::fromStdU16String(part);
+    const std::u16string born =
+        LongDate(person.BirthMonth, modReadings::NumberFromText(person.BirthDay),
+                 modReadings::NumberFromText(person.BirthYear));
+    const std::u16string read =
+        LongDate(modReadings::englishMonths[static_cast<unsigned>(day.month()) - 1],
+                 static_cast<int>(static_cast<unsigned>(day.day())), static_cast<int>(day.year()));
+    return {{QString::fromStdString(OneLine(name)).toStdU16String(), true},
+            {u"\r\nBorn " + born + u"\r\nRead for " + read, false}};
 }
-
-} // namespace
 
 std::string ReadingAsText(const PersonReading &reading) {
     std::string text;
-    for (const TopicReading &topic : reading.topics) {
+    const auto append = [&text](const modReadings::Report &report) {
         if (!text.empty())
             text += '\n';
-        for (const Run &run : topic.report)
+        for (const Run &run : report)
             AppendPlain(text, run.text);
         if (!text.ends_with('\n'))
             text += '\n';
-    }
+    };
+    if (!reading.head.empty())
+        append(reading.head);
+    for (const TopicReading &topic : reading.topics)
+        append(topic.report);
     return text;
 }
 
@@ -125,13 +163,11 @@ std::string ReadingAsJson(const PersonReading &reading, const LineFacts &line) {
 }
 
 std::string ReadingAsRtf(const PersonReading &reading) {
-    modReadings::Report whole;
-    for (const TopicReading &topic : reading.topics) {
-        if (!whole.empty())
-            whole.back().text += u"\r\n\r\n";
-        whole.insert(whole.end(), topic.report.begin(), topic.report.end());
-    }
-    return modReadings::ToRtf(whole);
+    return modReadings::ToRtf(Joined(reading));
+}
+
+std::string ReadingAsRtfBody(const PersonReading &reading) {
+    return modReadings::RtfBody(Joined(reading));
 }
 
 std::string ReadingAs(Format format, const PersonReading &reading) {
@@ -141,6 +177,8 @@ std::string ReadingAs(Format format, const PersonReading &reading) {
     case Format::Rtf:
         return ReadingAsRtf(reading);
     case Format::Text:
+    case Format::Csv:
+    case Format::Tsv:
         break;
     }
     return ReadingAsText(reading);

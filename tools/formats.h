@@ -9,9 +9,17 @@
 #include <string>
 #include <string_view>
 
-enum class Format { Text, Json, Rtf };
+enum class Format { Text, Json, Rtf, Csv, Tsv };
 
-/// Blocks as in the pane with plain line breaks, an empty line between topics.
+/// Who is read, as it stands above the first topic: the names, the dates of birth and of the
+/// reading. What a terminal might act on in a name is written out.
+modReadings::Report HeadOf(const modReadings::UserProfile &person, std::chrono::year_month_day day);
+
+/// "2026-11-21".
+std::string IsoDate(std::chrono::year_month_day date);
+
+/// The head, if there is one, and blocks as in the pane with plain line breaks, an empty line
+/// between topics.
 std::string ReadingAsText(const PersonReading &reading);
 
 /// What else is known of a person or an error in a batch.
@@ -25,10 +33,13 @@ struct LineFacts {
 /// "\r\n".
 std::string ReadingAsJson(const PersonReading &reading, const LineFacts &line = {});
 
-/// One document, an empty line between topics.
+/// One document: the head, if there is one, and the topics, an empty line between topics.
 std::string ReadingAsRtf(const PersonReading &reading);
 
-/// One of the three above.
+/// What ReadingAsRtf puts between its beginning and its end, for a document of many.
+std::string ReadingAsRtfBody(const PersonReading &reading);
+
+/// One of the three above: Text, Json or Rtf.
 std::string ReadingAs(Format format, const PersonReading &reading);
 
 /// The object that stands in the place of a person who could not be read.

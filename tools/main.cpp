@@ -1,5 +1,6 @@
 #include "core/clock.h"
 #include "tools/batch.h"
+#include "tools/batch_writer.h"
 #include "tools/completion.h"
 #include "tools/help.h"
 #include "tools/options.h"
@@ -68,7 +69,7 @@ ExitCode Run(int argc, char *argv[]) {
     case Options::Task::Person: {
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
         const auto person = CheckPerson(options.person, u"--"_s);
-        Print(options.output, ReadingAs(options.format, ReadPerson(person, options.topics)));
+        Print(options.output, AnswerTo(person, options));
         break;
     }
     }

@@ -24,28 +24,51 @@ constexpr std::array table{
     OptionRow{Date, OnePerson, "date", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::person, false,
               "Birth date, in place of --month, --day and --year."},
 
-    OptionRow{Batch, ManyPeople, "batch", 0, "FILE", ValueKind::File, goesWith::batch, false,
-              "Read many people, one a line: JSON Lines, or CSV with a header row. - is standard "
-              "input. Prints one JSON object a line."},
+    OptionRow{
+        Batch, ManyPeople, "batch", 0, "FILE", ValueKind::File, goesWith::batch, false,
+        "Read many people, one a line: JSON Lines, or CSV with a header row, packed with gzip "
+        "or not. - is standard input. Further files may follow. Prints one JSON object a "
+        "line."},
+    OptionRow{Delimiter, ManyPeople, "delimiter", 0, "CHAR", ValueKind::Text, goesWith::batch,
+              false,
+              "The input is CSV with this separator: one character, or tab. Default: commas or "
+              "tabs, as the header shows."},
     OptionRow{FirstLine, ManyPeople, "first-line", 0, "N", ValueKind::Number, goesWith::batch,
               false,
               "The number of the input's first line, where it is a piece of a longer one. "
               "Default: 1."},
     OptionRow{MaxErrors, ManyPeople, "max-errors", 0, "N", ValueKind::Number, goesWith::batch,
               false, "Give up at the Nth wrong line. Default: go on to the end."},
+    OptionRow{Jobs, ManyPeople, "jobs", 0, "N", ValueKind::Number, goesWith::batch, false,
+              "Work in N processes, 1 to 256. The output is the same. Default: 1."},
     OptionRow{OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch,
               false, "Write one file a person here, text or rtf, named after the line."},
+    OptionRow{NameTemplate, ManyPeople, "name-template", 0, "TEMPLATE", ValueKind::Text,
+              goesWith::batch, false,
+              "The names of these files, made of {first}, {middle}, {last} and {line}; {line} "
+              "stands first or last. Default: person-{line}."},
+    OptionRow{NoClobber, ManyPeople, "no-clobber", 0, "", ValueKind::None, goesWith::batch, false,
+              "Keep a file that is there already in the folder."},
 
     OptionRow{Today, WhatToRead, "today", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::reading,
               false, "Read for this day instead of today."},
     OptionRow{Topic, WhatToRead, "topic", 0, "CAPTION", ValueKind::Topic, goesWith::reading, true,
               "Read this topic; may be given several times. --list-topics shows the captions. "
               "Default: all topics."},
+    OptionRow{Numbers, WhatToRead, "numbers", 0, "", ValueKind::None, goesWith::reading, false,
+              "Print all numbers without their readings, one flat row a person: json (default), "
+              "csv or tsv."},
     OptionRow{Book, WhatToRead, "book", 0, "", ValueKind::None, goesWith::book, false,
               "Print every reading and fixed text that the program holds."},
 
     OptionRow{OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
-              goesWith::everything, false, "text (default), json or rtf."},
+              goesWith::everything, false,
+              "text (default), json (default of a batch) or rtf; with --numbers json, csv or tsv."},
+    OptionRow{Head, WhatToWrite, "head", 0, "", ValueKind::None, goesWith::reading, false,
+              "Write name, date of birth and date of reading above the first topic, in text and "
+              "rtf. A batch does so by itself."},
+    OptionRow{NoHead, WhatToWrite, "no-head", 0, "", ValueKind::None, goesWith::reading, false,
+              "Leave that out in a batch."},
     OptionRow{Output, WhatToWrite, "output", 'o', "FILE", ValueKind::File, goesWith::everything,
               false,
               "Write to this file, whole or not at all, instead of standard output. - is "

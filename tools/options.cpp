@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int mostJobs = 256;
+
 QString Text(std::string_view text) { return QString::fromUtf8(text); }
 
 QString Dashed(const OptionRow &row) { return u"--"_s + Text(row.name); }
@@ -139,6 +141,19 @@ long long CountFrom(OptionId id, const QString &text) {
     return count;
 }
 
+/// The separator that --delimiter names.
+char DelimiterFrom(const QString &text) {
+    if (text.compare("tab"_L1, Qt::CaseInsensitive) == 0 || text == "\\t"_L1)
+        return '\t';
+    const char16_t unit = text.size() == 1 ? text.front().unicode() : u'\0';
+    const bool letterOrDigit = (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') ||
+                               (unit >= u'a' && unit <= u'z');
+    if (unit != u'\t' && (unit < u' ' || unit > u'~' || unit == u'"' || letterOrDigit))
+        throw Refusal(u"--delimiter: \"%1\" is not allowed; give one character of ASCII that is no "
+                      "letter, digit or quotation mark, or tab."_s.arg(Excerpt(text)));
+    return static_cast<char>(unit);
+}
+
 std::optional<Format> FormatFrom(const QString &text) {
     if (text == "text"_L1)
         return Format::Text;
@@ -146,6 +161,10 @@ std::optional<Format> FormatFrom(const QString &text) {
         return Format::Json;
     if (text == "rtf"_L1)
         return Format::Rtf;
+    if (text == "csv"_L1)
+        return Format::Csv;
+    if (text == "tsv"_L1)
+        return Format::Tsv;
     return std::nullopt;
 }
 
@@ -195,7 +214,7 @@ Options ParseOptions(const QStringList &arguments) {
         return options;
     }
 
-    if (!line.Words().isEmpty())
+    if (!line.Words().isEmpty() && !line.Given(Batch))
         throw Refusal(u"\"%1\" is not an option; see --help for what is allowed."_s.arg(
             Excerpt(line.Words().constFirst())));
     line.RefuseDoubled();
@@ -213,29 +232,56 @@ Options ParseOptions(const QStringList &arguments) {
     if (line.Given(OptionId::Format)) {
         const auto format = FormatFrom(line.Value(OptionId::Format));
         if (!format)
-            throw Refusal(u"--format: \"%1\" is not allowed; give text, json or rtf."_s.arg(
-                Excerpt(line.Value(OptionId::Format))));
+            throw Refusal(
+                u"--format: \"%1\" is not allowed; give text, json or rtf, and "
+                "with --numbers json, csv or tsv."_s.arg(Excerpt(line.Value(OptionId::Format))));
         options.format = *format;
-    } else if (options.task == Options::Task::Batch && !line.Given(OutputDir)) {
+    } else if (line.Given(Numbers) ||
+               (options.task == Options::Task::Batch && !line.Given(OutputDir))) {
         options.format = ::Format::Json;
     }
+    options.numbers = line.Given(Numbers);
+    const bool isRow = options.format == ::Format::Csv || options.format == ::Format::Tsv;
+    const bool isPage = options.format == ::Format::Text || options.format == ::Format::Rtf;
+    if (isRow && !options.numbers)
+        throw Refusal(
+            u"--format: \"%1\" goes with --numbers only."_s.arg(line.Value(OptionId::Format)));
+    if (isPage && options.numbers)
+        throw Refusal(u"--format: \"%1\" does not go with --numbers; give json, csv or tsv."_s.arg(
+            line.Value(OptionId::Format)));
     if (options.task == Options::Task::Book && options.format == ::Format::Rtf)
         throw Refusal(u"--format: \"rtf\" does not go with --book; give text or json."_s);
+    for (const OptionId id : {Topic, OutputDir, Head, NoHead})
+        if (options.numbers && line.Given(id))
+            throw Refusal(
+                u"%1 does not go with --numbers; leave one of them out."_s.arg(Dashed(id)));
+    for (const OptionId id : {Head, NoHead})
+        if (line.Given(id) && !isPage)
+            throw Refusal(u"%1 goes with the formats text and rtf only."_s.arg(Dashed(id)));
+    if (line.Given(Head) && line.Given(NoHead))
+        throw Refusal(u"--head does not go with --no-head; leave one of them out."_s);
+    options.head =
+        isPage && !line.Given(NoHead) && (line.Given(Head) || options.task == Options::Task::Batch);
 
     for (const OptionId id : {Batch, Output, OutputDir})
         if (line.Given(id) && line.Value(id).isEmpty())
             throw Refusal(u"%1 is empty; give the name of a %2."_s.arg(
                 Dashed(id), id == OutputDir ? u"folder"_s : u"file, or - for the standard one"_s));
-    options.batchFile = line.Value(Batch);
+    if (line.Given(Batch))
+        options.batchFiles = QStringList(line.Value(Batch)) + line.Words();
+    if (options.batchFiles.contains(QString()))
+        throw Refusal(u"--batch: one of the files has an empty name."_s);
+    if (options.batchFiles.count(u"-"_s) > 1)
+        throw Refusal(u"--batch: - is standard input and can be read only once."_s);
     options.output = line.Value(Output);
     options.outputDir = line.Value(OutputDir);
     if (options.task == Options::Task::Batch) {
         const bool files = line.Given(OutputDir);
         if (files && options.format == ::Format::Json)
             throw Refusal(u"--format: \"json\" does not go with --output-dir; give text or rtf."_s);
-        if (!files && options.format != ::Format::Json)
-            throw Refusal(u"--format: only json goes to one output with --batch; "
-                          "give --output-dir DIR for text and rtf."_s);
+        for (const OptionId id : {NameTemplate, NoClobber})
+            if (!files && line.Given(id))
+                throw Refusal(u"%1 goes with --output-dir only; see --help."_s.arg(Dashed(id)));
         if (files && line.Given(Output))
             throw Refusal(u"--output does not go with --output-dir; leave one of them out."_s);
     }
@@ -249,6 +295,19 @@ Options ParseOptions(const QStringList &arguments) {
         options.firstLine = CountFrom(FirstLine, line.Value(FirstLine));
     if (line.Given(MaxErrors))
         options.maxErrors = CountFrom(MaxErrors, line.Value(MaxErrors));
+    if (line.Given(Delimiter))
+        options.delimiter = DelimiterFrom(line.Value(Delimiter));
+    if (line.Given(Jobs)) {
+        const long long jobs = CountFrom(Jobs, line.Value(Jobs));
+        if (jobs > mostJobs)
+            throw Refusal(
+                u"--jobs: %1 is not allowed; give a whole number from 1 to %2."_s.arg(jobs).arg(
+                    mostJobs));
+        options.jobs = static_cast<int>(jobs);
+    }
+    if (line.Given(NameTemplate))
+        options.fileNames = FileNames(line.Value(NameTemplate));
+    options.noClobber = line.Given(NoClobber);
 
     if (line.Given(Today))
         options.today = DateFrom(line.Value(Today));

@@ -3,6 +3,7 @@
 // The command line of orravane-report.
 
 #include "tools/completion.h"
+#include "tools/file_names.h"
 #include "tools/formats.h"
 #include "tools/people.h"
 #include "tools/progress.h"
@@ -22,10 +23,16 @@ struct Options {
     Format format = Format::Text;
     std::optional<std::chrono::year_month_day> today;
     std::vector<std::u16string_view> topics; ///< captions, never empty
-    QString batchFile;                       ///< "-" for standard input
+    bool numbers = false;                    ///< the numbers alone, a row a person
+    bool head = false;                       ///< whether text and RTF say who is read
+    QStringList batchFiles;                  ///< "-" for standard input
+    std::optional<char> delimiter;           ///< of CSV; none: found out
     long long firstLine = 1;                 ///< the number of the input's first line
     std::optional<long long> maxErrors;      ///< at how many wrong lines a batch gives up
+    int jobs = 1;                            ///< how many processes work on a batch
     QString outputDir;                       ///< empty: none
+    FileNames fileNames;                     ///< of the files in it
+    bool noClobber = false;                  ///< whether files stay that are in it
     QString output;                          ///< empty: standard output
     Progress::Verbosity verbosity = Progress::Verbosity::Person;
     Shell shell = Shell::Bash; ///< of Task::Completion

@@ -95,10 +95,9 @@ std::string BehindLinks(std::string name) {
 } // namespace
 
 Output::Output(const QString &path, Kind kind)
-    : Output((kind == Kind::InFolder             ? u"--output-dir: "_s + Excerpt(path)
-              : path.isEmpty() || path == "-"_L1 ? u"standard output"_s
-                                                 : u"--output: "_s + Excerpt(path)),
-             kind == Kind::Named) {
+    : Output(kind, kind != Kind::Named                ? u"--output-dir: "_s + Excerpt(path)
+                   : path.isEmpty() || path == "-"_L1 ? u"standard output"_s
+                                                      : u"--output: "_s + Excerpt(path)) {
     const std::string name = QFile::encodeName(path).toStdString();
     if (kind == Kind::Named)
         OpenNamed(name);
@@ -181,13 +180,28 @@ void Output::Write(std::string_view bytes) {
 void Output::Finish() {
     if (temporary_.empty())
         return;
-    if (durable_ && fsync(descriptor_) != 0 && errno != EINVAL && errno != EROFS)
+    if (kind_ == Kind::Named && fsync(descriptor_) != 0 && errno != EINVAL && errno != EROFS)
         Fail(errno);
     owned_ = false;
     if (close(descriptor_) != 0) // some file systems report a full disk only here
         Fail(errno);
-    if (rename(temporary_.c_str(), place_.c_str()) != 0)
-        Fail(errno);
+    PutInPlace();
     unfinished.front() = '\0';
     temporary_.clear();
 }
+
+void Output::PutInPlace() {
+    if (kind_ == Kind::NewInFolder) {
+        // A link does not replace what has appeared meanwhile. Where there are no links the
+        // look before this has to do.
+        const bool linked = link(temporary_.c_str(), place_.c_str()) == 0;
+        if (linked || errno == EEXIST) {
+            unlink(temporary_.c_str());
+            return;
+        }
+    }
+    if (rename(temporary_.c_str(), place_.c_str()) != 0)
+        Fail(errno);
+}
+
+void Output::LeaveUnfinishedToParent() { unfinished.front() = '\0'; }

@@ -9,7 +9,19 @@
 #include <string_view>
 #include <utility>
 
-class Output {
+/// Takes bytes, one piece behind the other.
+class ByteSink {
+public:
+    virtual ~ByteSink() = default;
+    virtual void Write(std::string_view bytes) = 0;
+
+protected:
+    ByteSink() = default;
+    ByteSink(const ByteSink &) = delete;
+    ByteSink &operator=(const ByteSink &) = delete;
+};
+
+class Output final : public ByteSink {
 public:
     enum class Kind {
         /// What the option --output names. Empty or "-" is standard output. "/dev/stdout",
@@ -20,7 +32,9 @@ public:
         /// A file in the folder of --output-dir. What stands there is replaced, whatever it
         /// is but a folder: a link is not followed, a pipe not waited for. The file is not
         /// forced to the disk, since a batch makes many.
-        InFolder
+        InFolder,
+        /// The same, but what stands there stays, and this file is given up.
+        NewInFolder
     };
 
     /// A file is written under another name beside its place and takes that place in
@@ -29,28 +43,31 @@ public:
     explicit Output(const QString &path, Kind kind = Kind::Named);
 
     /// Gives up what Finish has not put in place.
-    ~Output();
-    Output(const Output &) = delete;
-    Output &operator=(const Output &) = delete;
+    ~Output() override;
 
     /// Appends `bytes`; on anything but a file they are on their way when this returns.
-    void Write(std::string_view bytes);
+    void Write(std::string_view bytes) override;
 
     /// Puts the file in its place. Without this call no file appears.
     void Finish();
 
+    /// To be called in a child process: an unfinished file is the parent's, and stays when a
+    /// signal ends the child.
+    static void LeaveUnfinishedToParent();
+
 private:
     /// The members alone: once this has run, the destructor runs too when the rest fails.
-    Output(QString shownName, bool durable) : name_(std::move(shownName)), durable_(durable) {}
+    Output(Kind kind, QString shownName) : name_(std::move(shownName)), kind_(kind) {}
 
     void OpenNamed(const std::string &name);
     void OpenBeside(std::string place);
+    void PutInPlace();
     [[noreturn]] void Fail(int error) const;
 
-    QString name_;          ///< in messages
+    QString name_; ///< in messages
+    Kind kind_;
     int descriptor_ = -1;   ///< -1 once nothing is left to do
     bool owned_ = false;    ///< whether the descriptor is closed in the end
-    bool durable_ = true;   ///< whether the file is forced to the disk
     std::string place_;     ///< where the file goes; empty for anything but a file
     std::string temporary_; ///< under which name it is written
 };

@@ -291,14 +291,19 @@ auto ColumnsNamed(std::string_view line, char separator) {
 
 bool PeopleLines::Begin(const std::string &line) {
     RefuseOtherKinds(line);
-    if (BeginsObject(line))
+    if (BeginsObject(line) && !given_)
         return false;
-    separator_ = ColumnsNamed(line, '\t') > ColumnsNamed(line, ',') ? '\t' : ',';
+    separator_ = given_ ? *given_ : ColumnsNamed(line, '\t') > ColumnsNamed(line, ',') ? '\t' : ',';
     for (const char other : {';', '|', ':', ' '})
         if (ColumnsNamed(line, other) > std::max<std::ptrdiff_t>(1, ColumnsNamed(line, separator_)))
             throw Refusal(
-                u"the columns of the header are separated by \"%1\"; give commas or tabs"_s.arg(
-                    QLatin1Char(other)));
+                given_ ? u"the columns of the header are separated by \"%1\" and not as "
+                         "--delimiter says"_s.arg(QLatin1Char(other))
+                       : u"the columns of the header are separated by \"%1\"; give commas or tabs, "
+                         "or --delimiter \"%1\""_s.arg(QLatin1Char(other)));
+    if (given_ && ColumnsNamed(line, separator_) == 0)
+        throw Refusal(u"the line is no CSV header with the separator of --delimiter; "_s +
+                      neededColumns);
     if (ColumnsNamed(line, separator_) == 0)
         return false;
 

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 struct PersonLine {
@@ -19,6 +20,9 @@ struct PersonLine {
 
 class PeopleLines {
 public:
+    /// With a separator, the input is CSV with it and nothing else.
+    explicit PeopleLines(std::optional<char> separator = {}) : given_(separator) {}
+
     /// Takes the first line that is not blank. Returns true when it was a header and holds
     /// no person. Throws Refusal for a header with a doubled or missing column, and for the
     /// beginning of an input that is recognised as something else: columns with another
@@ -28,6 +32,13 @@ public:
     /// What `line` holds. Nothing for the rest of a row that was refused before because it
     /// goes on behind a line break. Throws Refusal for a line that is no person.
     std::optional<PersonLine> Parse(const std::string &line);
+
+    /// The rows whose end is still open, for another PeopleLines that goes on with the next
+    /// line; usually empty.
+    const std::string &OpenRows() const { return open_; }
+
+    /// Goes on behind lines that another has read, which left `rows` open.
+    void ContinueBehind(std::string rows) { open_ = std::move(rows); }
 
 private:
     struct Column {
@@ -40,6 +51,7 @@ private:
     std::optional<PersonLine> ParseCsv(const std::string &line);
     std::optional<PersonLine> PersonIn(const CsvRow &row) const;
 
+    std::optional<char> given_;
     std::vector<Column> columns_; ///< empty for JSON Lines
     char separator_ = ',';
     std::string open_; ///< the rows since one whose quotation mark is open

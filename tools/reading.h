@@ -23,6 +23,7 @@ struct PersonReading {
     modReadings::UserProfile person;
     std::chrono::year_month_day day; ///< the day for which the person is read
     std::vector<TopicReading> topics;
+    modReadings::Report head{}; ///< above the topics in text and RTF; empty: none
 };
 
 /// The captions of all topics, in the order of the pass.

@@ -63,7 +63,7 @@ protected:
         options.task = Options::Task::Batch;
         options.format = Format::Json;
         options.topics = {u"Personal Day"};
-        options.batchFile = QString::fromStdString(Path("people"));
+        options.batchFiles = {QString::fromStdString(Path("people"))};
         options.output = QString::fromStdString(Path("answers"));
         testing::internal::CaptureStderr(); // to a file
         EXPECT_EQ(RunBatch(options), expected);
@@ -102,7 +102,7 @@ TEST_F(BatchMemory, DoesNotGrowWithTheLengthOfALine) {
         Options options;
         options.format = Format::Json;
         options.topics = {u"Personal Day"};
-        options.batchFile = QString::fromStdString(Path(name));
+        options.batchFiles = {QString::fromStdString(Path(name))};
         options.output = QString::fromStdString(Path("answers"));
         testing::internal::CaptureStderr();
         EXPECT_EQ(RunBatch(options), ExitCode::SomeLinesWrong);

@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 #include "report/person.h"
+#include "report/rtf.h"
 #include "tests/tools/batch_answers.h"
 #include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
@@ -34,7 +35,7 @@ protected:
         options.task = Options::Task::Batch;
         options.format = Format::Json;
         options.topics = {u"Personal Day"};
-        options.batchFile = QString::fromStdString(Path("people"));
+        options.batchFiles = {QString::fromStdString(Path("people"))};
         options.output = QString::fromStdString(Path("answers"));
         return options;
     }
@@ -206,8 +207,8 @@ TEST_F(Batch, IsRefusedWhereThereIsNoFileToRead) {
                                        {"folder", "directory"},
                                        {"people/below", "Not a directory"}}) {
         for (Options options : {ToOneFile(), ToAFolder()}) {
-            options.batchFile = QString::fromStdString(Path(name));
-            const std::string shown = OneLine(Excerpt(options.batchFile));
+            options.batchFiles = {QString::fromStdString(Path(name))};
+            const std::string shown = OneLine(Excerpt(options.batchFiles.constFirst()));
             ExpectLine(RefusalOf([&] { RunBatch(options); }, ExitCode::CannotReadOrWrite),
                        {"--batch: the file \"" + shown + "\" cannot be read (", reason});
         }
@@ -310,6 +311,84 @@ TEST_F(Batch, IntoAFolderMakesAFileAPersonNamedAfterTheLine) {
                                                 {"person-000004.txt", Alone(mary, Format::Text)},
                                                 {"person-000002.rtf", Alone(anna, Format::Rtf)},
                                                 {"person-000004.rtf", Alone(mary, Format::Rtf)}}));
+}
+
+TEST_F(Batch, WritesTextAndRtfOfAllIntoOneOutputWithoutWrongLines) {
+    const std::string input = "first,middle,last,month,day,year\nAnna,,Smith,12,29,1985\n\n"
+                              "Cat,,Lee,13,1,1990\nMary Ann,van,der Wal,12,13,1950\n";
+    Options options = ToOneFile();
+    options.format = Format::Text;
+    const Answers text = Run(input, options);
+    EXPECT_EQ(text.code, ExitCode::SomeLinesWrong);
+    EXPECT_EQ(text.out, Alone(anna, Format::Text) + '\n' + Alone(mary, Format::Text));
+    options.format = Format::Rtf;
+    const std::string first = Alone(anna, Format::Rtf);
+    const std::string second = Alone(mary, Format::Rtf);
+    const std::string start = modReadings::RtfBeginning();
+    EXPECT_EQ(Run(input, options).out,
+              first.substr(0, first.size() - 3) + "\\b0\\page\r\n" + second.substr(start.size()));
+    EXPECT_EQ(Run("", options).out, "");
+}
+
+TEST_F(Batch, SaysAboveEachReadingWhoIsRead) {
+    Options options = ToOneFile();
+    options.format = Format::Text;
+    options.head = true;
+    const std::string input =
+        R"({"first":"An\u001bn","middle":"M","last":"Lee","month":2,"day":31,)"
+        R"("year":1990})"
+        "\n";
+    EXPECT_TRUE(Run(input, options)
+                    .out.starts_with("AN\\x1BN M LEE\nBorn February 31, 1990\n"
+                                     "Read for November 16, 2026\n\nYour Personal Day is: "));
+    options.format = Format::Rtf;
+    EXPECT_NE(Run(input, options)
+                  .out.find("\\b AN\\\\x1BN M LEE\\b0 \\par\r\nBorn February 31, 1990\\par\r\n"
+                            "Read for November 16, 2026\\par\r\n\\par\r\n\\b Your Personal Day"),
+              std::string::npos);
+}
+
+TEST_F(Batch, IntoAFolderNamesTheFilesAsItIsTold) {
+    Options options = ToAFolder();
+    options.fileNames = FileNames("{last}-{first}-{line}");
+    Run("first,last,birthdate\n../../x,/etc,1990-03-07\n..,a\nb,1990-03-07\n"
+        "Zoë,Lee,1990-03-07\n",
+        options);
+    const FileMap files = Files();
+    EXPECT_EQ(files.size(), 4U); // nothing beside the folder
+    EXPECT_TRUE(files.contains("people.d/_ETC-.._.._X-000002.txt"));
+    EXPECT_TRUE(files.contains("people.d/LEE-ZOË-000005.txt"));
+}
+
+TEST_F(Batch, IntoAFolderKeepsWhatIsThereWhenToldSo) {
+    std::filesystem::create_directory(Path("people.d"));
+    Make("people.d/person-000001.txt", "mine");
+    std::filesystem::create_symlink("nowhere", Path("people.d/person-000002.txt"));
+    std::filesystem::create_directory(Path("people.d/person-000003.txt"));
+    Options options = ToAFolder();
+    options.noClobber = true;
+    const Answers answers = Run(std::string(annLine) + bobLine + annLine + bobLine, options);
+    EXPECT_EQ(answers.code, ExitCode::Ok);
+    EXPECT_EQ(Read(Path("people.d/person-000001.txt")), "mine");
+    EXPECT_TRUE(std::filesystem::is_symlink(Path("people.d/person-000002.txt")));
+    EXPECT_TRUE(std::filesystem::is_directory(Path("people.d/person-000003.txt")));
+    EXPECT_EQ(Read(Path("people.d/person-000004.txt")),
+              Alone({"Bob", {}, "Ray", "April", "8", "1991"}, Format::Text));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Path("people.d")), {}), 4);
+}
+
+TEST_F(Batch, TakesTheSeparatorThatIsGiven) {
+    Options options = ToOneFile();
+    for (const char separator : {';', '|', ' ', '\t', ','}) {
+        options.delimiter = separator;
+        std::string input = "first;last;birthdate\nAnn;Lee;1990-03-07\n";
+        std::ranges::replace(input, ';', separator);
+        EXPECT_EQ(NamesIn(Run(input, options).out), Names{"ANN LEE"});
+    }
+    for (const char *input : {annLine, "first;last;birthdate\n"})
+        ExpectLine(RefusalOf([&] { Run(input, options); }), {"--batch: line 1: ", "--delimiter"});
+    ExpectLine(RefusalOf([&] { Run("first;last;birthdate\n", ToOneFile()); }),
+               {"--delimiter \";\""});
 }
 
 TEST_F(Batch, MakesTheFolderWithThoseAboveIt) {

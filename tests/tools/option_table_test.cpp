@@ -90,7 +90,10 @@ TEST(Completion, OffersTheFormatsAndShellsThereAre) {
     const std::string script = CompletionFor(Shell::Fish);
     for (const char *format : {"text", "json", "rtf"})
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--format", format}));
-    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf'"), std::string::npos) << script;
+    for (const char *format : {"csv", "tsv"})
+        EXPECT_NO_THROW(ParseOptions({"orravane-report", "--numbers", "--format", format}));
+    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf csv tsv'"), std::string::npos)
+        << script;
     for (const char *shell : {"bash", "zsh", "fish"})
         EXPECT_TRUE(ShellFrom(shell)) << shell;
     EXPECT_FALSE(ShellFrom("Bash"));

@@ -79,15 +79,53 @@ TEST(ParseOptions, TakesFormatDayTopicsAndFile) {
 TEST(ParseOptions, OfABatch) {
     const Options lines = Parsed({"--batch", "-"});
     EXPECT_EQ(lines.task, Options::Task::Batch);
-    EXPECT_EQ(lines.batchFile, "-");
+    EXPECT_EQ(lines.batchFiles, QStringList{"-"});
     EXPECT_EQ(lines.format, Format::Json);
     EXPECT_EQ(Parsed({"--batch", "-", "--format", "json"}).format, Format::Json);
 
     const Options files = Parsed({"--batch", "p.csv", "--output-dir", "d"});
-    EXPECT_EQ(files.batchFile, "p.csv");
+    EXPECT_EQ(files.batchFiles, QStringList{"p.csv"});
     EXPECT_EQ(files.outputDir, "d");
     EXPECT_EQ(files.format, Format::Text);
     EXPECT_EQ(Parsed({"--batch", "-", "--output-dir", "d", "--format", "rtf"}).format, Format::Rtf);
+}
+
+TEST(ParseOptions, OfABatchOfSeveralFilesInSeveralProcesses) {
+    const Options options =
+        Parsed({"--batch", "a.csv", "b.gz", "--jobs", "256", "-", "--delimiter", ";"});
+    EXPECT_EQ(options.batchFiles, (QStringList{"a.csv", "b.gz", "-"}));
+    EXPECT_EQ(options.jobs, 256);
+    EXPECT_EQ(options.delimiter, ';');
+    EXPECT_EQ(Parsed({"--batch", "-"}).jobs, 1);
+    EXPECT_EQ(Parsed({"--batch", "-"}).delimiter, std::nullopt);
+    for (const char *tab : {"tab", "TAB", "\\t", "\t"})
+        EXPECT_EQ(Parsed({"--batch", "-", "--delimiter", tab}).delimiter, '\t');
+    for (const char *value : {"", "ab", "a", "7", "\"", "\n", "é"})
+        ExpectWrong({"--batch", "-", "--delimiter", value}, {"--delimiter: \"", "is not allowed"});
+    for (const char *value : {"0", "257", "-1", "two", ""})
+        ExpectWrong({"--batch", "-", std::string("--jobs=") + value}, {"--jobs: ", "not allowed"});
+}
+
+TEST(ParseOptions, OfNumbers) {
+    for (const Arguments &task : {ann, Arguments{"--batch", "-"}}) {
+        EXPECT_FALSE(Parsed(task).numbers);
+        const Options options = Parsed(task + Arguments{"--numbers"});
+        EXPECT_TRUE(options.numbers);
+        EXPECT_EQ(options.format, Format::Json);
+        EXPECT_EQ(Parsed(task + Arguments{"--numbers", "-f", "csv"}).format, Format::Csv);
+        EXPECT_EQ(Parsed(task + Arguments{"--numbers", "-f", "tsv"}).format, Format::Tsv);
+    }
+}
+
+// In a batch the head tells whose reading it is; one person knows.
+TEST(ParseOptions, OfTheHead) {
+    const Arguments batch{"--batch", "-"};
+    EXPECT_FALSE(Parsed(ann).head);
+    EXPECT_TRUE(Parsed(ann + Arguments{"--head"}).head);
+    EXPECT_TRUE(Parsed(batch + Arguments{"--output-dir", "d"}).head);
+    EXPECT_TRUE(Parsed(batch + Arguments{"-f", "rtf"}).head);
+    EXPECT_FALSE(Parsed(batch + Arguments{"-f", "rtf", "--no-head"}).head);
+    EXPECT_FALSE(Parsed(batch).head);
 }
 
 TEST(ParseOptions, OfTheBookHelpAndVersion) {
@@ -151,7 +189,8 @@ constexpr std::pair<const char *, const char *> valued[]{
     {"--format", "text"},      {"--output", "FILE"},
     {"--batch", "FILE"},       {"--output-dir", "DIR"},
     {"--date", "YYYY-MM-DD"},  {"--first-line", "N"},
-    {"--max-errors", "N"}};
+    {"--max-errors", "N"},     {"--delimiter", "CHAR"},
+    {"--jobs", "N"},           {"--name-template", "TEMPLATE"}};
 
 TEST(ParseOptions, TellsWhichValueIsMissing) {
     for (const auto &[option, allowed] : valued)
@@ -186,8 +225,27 @@ TEST(ParseOptions, RefusesOptionsThatDoNotGoTogether) {
     ExpectWrong({"--book", "--format", "rtf"}, {"--format", "rtf", "--book"});
     ExpectWrong({"--book", "--output-dir", "d"}, {"--output-dir", "--book"});
     ExpectWrong(ann + Arguments{"--output-dir", "d"}, {"--output-dir", "--batch"});
-    for (const char *format : {"text", "rtf"})
-        ExpectWrong({"--batch", "-", "--format", format}, {"--format", "--batch", "--output-dir"});
+    for (const Arguments &arguments :
+         {Arguments{"--jobs", "2"}, Arguments{"--delimiter", ";"}, Arguments{"--no-clobber"},
+          Arguments{"--name-template", "{line}"}})
+        ExpectWrong(ann + arguments, {arguments.front(), "goes with --batch only"});
+    for (const Arguments &arguments :
+         {Arguments{"--no-clobber"}, Arguments{"--name-template", "{line}"}})
+        ExpectWrong(Arguments{"--batch", "-"} + arguments,
+                    {arguments.front(), "goes with --output-dir only"});
+    for (const char *format : {"csv", "tsv"})
+        for (const Arguments &arguments : {ann, Arguments{"--batch", "-"}, Arguments{"--book"}})
+            ExpectWrong(arguments + Arguments{"--format", format}, {"--numbers only"});
+    for (const Arguments &arguments :
+         {Arguments{"--format", "text"}, Arguments{"--format", "rtf"},
+          Arguments{"--topic", "Essence"}, Arguments{"--head"}, Arguments{"--no-head"}})
+        ExpectWrong(ann + Arguments{"--numbers"} + arguments, {arguments.front(), "--numbers"});
+    ExpectWrong({"--batch", "-", "--numbers", "--output-dir", "d"}, {"--output-dir", "--numbers"});
+    ExpectWrong({"--book", "--numbers"}, {"--numbers", "--book"});
+    ExpectWrong(ann + Arguments{"--head", "--no-head"}, {"--head", "--no-head"});
+    ExpectWrong({"--batch", "-", "--head"}, {"--head goes with the formats text and rtf only"});
+    ExpectWrong({"--batch", "-", "a", "-"}, {"--batch: - is standard input"});
+    ExpectWrong({"--batch", "a", ""}, {"--batch: one of the files has an empty name"});
     ExpectWrong({"--batch", "-", "--output-dir", "d", "--format", "json"},
                 {"--format", "--output-dir", "text", "rtf"});
     ExpectWrong({"--batch", "-", "--output-dir", "d", "--output", "f"},

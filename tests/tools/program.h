@@ -70,6 +70,8 @@ public:
     /// Ends the child at once.
     void Kill() { process_.kill(); }
 
+    pid_t Id() const { return static_cast<pid_t>(process_.processId()); }
+
     void Signal(int signal) { kill(static_cast<pid_t>(process_.processId()), signal); }
 
     /// Writes `input`, closes standard input, reads both outputs to their end and waits.

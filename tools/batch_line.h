@@ -1,0 +1,19 @@
+#pragma once
+
+// What becomes of one line of a batch.
+
+#include "tools/batch_input.h"
+#include "tools/batch_writer.h"
+
+#include <optional>
+#include <string>
+
+/// Neither is there for the rest of a row that was refused before.
+struct LineAnswer {
+    bool person = false;              ///< whether a person was read
+    std::optional<std::string> wrong; ///< what is wrong with the line
+};
+
+/// Reads the person of `line` for the present day and has `writer` write the reading, or the
+/// error in its place.
+LineAnswer AnswerLine(const BatchLine &line, PeopleLines &lines, BatchWriter &writer);

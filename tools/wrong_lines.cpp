@@ -1,0 +1,28 @@
+#include "tools/wrong_lines.h"
+
+#include "tools/refusal.h"
+#include "tools/text.h"
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+void WrongLines::Report(long long number, std::size_t file, long long numberInFile,
+                        const std::string &message) {
+    ++count_;
+    last_ = number;
+    progress_.Clear();
+    QString place = u"line %1"_s.arg(number);
+    if (options_.batchFiles.size() > 1)
+        place += u" (the file \"%1\", line %2)"_s
+                     .arg(Excerpt(options_.batchFiles[static_cast<qsizetype>(file)]))
+                     .arg(numberInFile);
+    std::fprintf(stderr, "orravane-report: %s: %s\n", OneLine(place).c_str(), message.c_str());
+}
+
+void WrongLines::RefuseTooMany() const {
+    if (AreTooMany())
+        throw Refusal(
+            u"--max-errors: given up at line %1, after %2 wrong lines"_s.arg(last_).arg(count_),
+            ExitCode::SomeLinesWrong);
+}
