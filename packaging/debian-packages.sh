@@ -12,7 +12,7 @@ package_packages="dpkg-dev file"
 
 test_packages="
     $package_packages clang-format clang-tidy libgtest-dev
-    appstream desktop-file-utils man-db
+    appstream bash desktop-file-utils fish man-db zsh
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
     weston x11-utils x11-xserver-utils xclip xdotool xvfb

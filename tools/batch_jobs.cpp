@@ -153,17 +153,21 @@ private:
         answer.bytes.clear();
         const auto writer = MakeBatchWriter(options_, &answer, Place::Behind);
         std::vector<Wrong> wrong;
+        std::uint64_t people = 0;
         while (const std::uint64_t number = chunk.Number()) { // 0 ends them
             line_.number = static_cast<long long>(number);
             line_.tooLong = chunk.Number() != 0;
             line_.text = chunk.Text();
-            if (auto message = AnswerLine(line_, lines_, *writer))
+            LineAnswer answered = AnswerLine(line_, lines_, *writer);
+            people += answered.person ? 1 : 0;
+            if (answered.wrong)
                 wrong.push_back({static_cast<std::uint64_t>(line_.number), answer.bytes.size(),
-                                 std::move(*message)});
+                                 std::move(*answered.wrong)});
         }
 
         Packer packer(memory_.Of(worker_, slot));
         packer.Put(std::string_view(lines_.OpenRows()));
+        packer.Put(people);
         packer.Put(std::uint64_t{answer.bytes.size()});
         packer.Put(std::uint64_t{wrong.size()});
         for (const Wrong &each : wrong) {
@@ -204,7 +208,8 @@ public:
               Worker(options, output, slots_, worker, parent).Run();
           }) {}
 
-    void Run() {
+    /// Returns how many people were read.
+    long long Run() {
         ReadLine();
         for (;;) {
             while (lineThere_ && MayHandOut())
@@ -217,6 +222,7 @@ public:
         }
         if (inputFailure_)
             std::rethrow_exception(inputFailure_);
+        return people_;
     }
 
 private:
@@ -230,6 +236,7 @@ private:
         long long before;      ///< the number of the line before its file
         bool mayLeaveOpen;     ///< whether rows of CSV may go on in the next chunk
         std::size_t lines = 0; ///< how many it has
+        long long people = 0;  ///< who were read
         long long passed = 0;  ///< bytes of the input behind it
         State state = State::InWork;
         bool failed = false;
@@ -316,6 +323,7 @@ private:
             throw Refusal(QString::fromUtf8(line), piece.code);
         }
         answer.Text(); // the open rows
+        piece.people = static_cast<long long>(answer.Number());
         std::uint64_t end = answer.Number();
         for (std::uint64_t left = answer.Number(); left != 0 && !wrong_.AreTooMany(); --left) {
             const auto number = static_cast<long long>(answer.Number());
@@ -343,8 +351,8 @@ private:
         pieces_.pop_front();
         free_[piece.worker].push_back(piece.slot);
         wrong_.RefuseTooMany();
-        people_ += static_cast<long long>(piece.lines);
-        progress_.Show(piece.passed, people_);
+        people_ += piece.people;
+        progress_.Show({piece.passed, people_, wrong_.Count()});
     }
 
     const Options &options_;
@@ -368,7 +376,8 @@ private:
 
 } // namespace
 
-void AnswerInProcesses(const Options &options, BatchInput &input, Output *output,
-                       const std::function<void()> &begin, Progress &progress, WrongLines &wrong) {
-    Dispatcher(options, input, output, begin, progress, wrong).Run();
+long long AnswerInProcesses(const Options &options, BatchInput &input, Output *output,
+                            const std::function<void()> &begin, Progress &progress,
+                            WrongLines &wrong) {
+    return Dispatcher(options, input, output, begin, progress, wrong).Run();
 }

@@ -17,6 +17,7 @@
 
 /// Answers all lines of `input` in options.jobs processes, to `output` or into the folder.
 /// Calls `begin` before the first person. Refuses as one process would, having written what
-/// that would have written; and when one of the processes dies.
-void AnswerInProcesses(const Options &options, BatchInput &input, Output *output,
-                       const std::function<void()> &begin, Progress &progress, WrongLines &wrong);
+/// that would have written; and when one of the processes dies. Returns how many people were read.
+long long AnswerInProcesses(const Options &options, BatchInput &input, Output *output,
+                            const std::function<void()> &begin, Progress &progress,
+                            WrongLines &wrong);

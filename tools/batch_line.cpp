@@ -8,8 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-std::optional<std::string> AnswerLine(const BatchLine &line, PeopleLines &lines,
-                                      BatchWriter &writer) {
+LineAnswer AnswerLine(const BatchLine &line, PeopleLines &lines, BatchWriter &writer) {
     const modReadings::FixedClock oneDay(
         modReadings::Clock::Date()); // the same for the check and the reading
     LineFacts facts{line.number, {}};
@@ -19,14 +18,14 @@ std::optional<std::string> AnswerLine(const BatchLine &line, PeopleLines &lines,
             throw Refusal(u"the line is longer than 1 MB, which no person needs"_s);
         std::optional<PersonLine> parsed = lines.Parse(line.text);
         if (!parsed)
-            return std::nullopt;
+            return {};
         facts.further = std::move(parsed->further);
         person = CheckPerson(parsed->person);
     } catch (const Refusal &refusal) {
         std::string message = OneLine(refusal.Line());
         writer.WriteError(facts, message);
-        return message;
+        return {false, std::move(message)};
     }
     writer.WritePerson(person, facts);
-    return std::nullopt;
+    return {true, {}};
 }

@@ -8,7 +8,12 @@
 #include <optional>
 #include <string>
 
+/// Neither is there for the rest of a row that was refused before.
+struct LineAnswer {
+    bool person = false;              ///< whether a person was read
+    std::optional<std::string> wrong; ///< what is wrong with the line
+};
+
 /// Reads the person of `line` for the present day and has `writer` write the reading, or the
-/// error in its place. Returns what is wrong with the line, if anything.
-std::optional<std::string> AnswerLine(const BatchLine &line, PeopleLines &lines,
-                                      BatchWriter &writer);
+/// error in its place.
+LineAnswer AnswerLine(const BatchLine &line, PeopleLines &lines, BatchWriter &writer);

@@ -21,7 +21,7 @@ bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 /// Whether `character` stands in a file name as it is, on the systems of others too.
 bool IsAllowed(QChar character) {
     constexpr QStringView separators = u"/\\:*?\"<>|";
-    return !IsControl(character) && character.category() != QChar::Other_Format &&
+    return !ActsOnTerminal(character.unicode()) && character.category() != QChar::Other_Format &&
            !separators.contains(character);
 }
 

@@ -1,6 +1,7 @@
 #include "core/clock.h"
 #include "tools/batch.h"
 #include "tools/batch_writer.h"
+#include "tools/completion.h"
 #include "tools/help.h"
 #include "tools/options.h"
 #include "tools/output.h"
@@ -51,6 +52,9 @@ ExitCode Run(int argc, char *argv[]) {
         break;
     case Options::Task::ListTopics:
         Print({}, TopicList());
+        break;
+    case Options::Task::Completion:
+        Print({}, CompletionFor(options.shell));
         break;
     case Options::Task::Version:
         Print({}, std::string("orravane-report ") + orravaneVersion + '\n');

@@ -74,8 +74,16 @@ constexpr std::array table{
               "Write to this file, whole or not at all, instead of standard output. - is "
               "standard output."},
 
+    OptionRow{Quiet, WhatToWrite, "quiet", 'q', "", ValueKind::None, goesWith::everything, false,
+              "Show no progress and no summary at a terminal; messages about what is wrong "
+              "stay."},
+    OptionRow{Summary, WhatToWrite, "summary", 0, "", ValueKind::None, goesWith::batch, false,
+              "Sum the batch up on standard error, even where that is no terminal."},
+
     OptionRow{ListTopics, Other, "list-topics", 0, "", ValueKind::None, goesWith::everything, false,
               "Print the captions of the topics, one a line."},
+    OptionRow{Completion, Other, "completion", 0, "SHELL", ValueKind::Shell, goesWith::everything,
+              false, "Print what makes a shell complete these options: bash, zsh or fish."},
     OptionRow{Help, Other, "help", 'h', "", ValueKind::None, goesWith::everything, false,
               "Show this help."},
     OptionRow{Version, Other, "version", 'V', "", ValueKind::None, goesWith::everything, false,

@@ -31,7 +31,10 @@ enum class OptionId {
     Head,
     NoHead,
     Output,
+    Quiet,
+    Summary,
     ListTopics,
+    Completion,
     Help,
     Version
 };
@@ -40,7 +43,7 @@ enum class OptionId {
 enum class OptionGroup { OnePerson, ManyPeople, WhatToRead, WhatToWrite, Other };
 
 /// What a shell can offer as the value of an option.
-enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic };
+enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic, Shell };
 
 /// The tasks with which an option goes, as bits of OptionRow::tasks.
 namespace goesWith {

@@ -204,6 +204,16 @@ Options ParseOptions(const QStringList &arguments) {
             return options;
         }
 
+    if (line.Given(Completion)) {
+        const auto shell = ShellFrom(line.Value(Completion).toStdString());
+        if (!shell)
+            throw Refusal(u"--completion: \"%1\" is not allowed; give bash, zsh or fish."_s.arg(
+                Excerpt(line.Value(Completion))));
+        options.task = Options::Task::Completion;
+        options.shell = *shell;
+        return options;
+    }
+
     if (!line.Words().isEmpty() && !line.Given(Batch))
         throw Refusal(u"\"%1\" is not an option; see --help for what is allowed."_s.arg(
             Excerpt(line.Words().constFirst())));
@@ -275,6 +285,12 @@ Options ParseOptions(const QStringList &arguments) {
         if (files && line.Given(Output))
             throw Refusal(u"--output does not go with --output-dir; leave one of them out."_s);
     }
+    if (line.Given(Quiet) && line.Given(Summary))
+        throw Refusal(u"--quiet does not go with --summary; leave one of them out."_s);
+    if (line.Given(Quiet))
+        options.verbosity = Progress::Verbosity::Quiet;
+    else if (line.Given(Summary))
+        options.verbosity = Progress::Verbosity::Summary;
     if (line.Given(FirstLine))
         options.firstLine = CountFrom(FirstLine, line.Value(FirstLine));
     if (line.Given(MaxErrors))

@@ -2,9 +2,11 @@
 
 // The command line of orravane-report.
 
+#include "tools/completion.h"
 #include "tools/file_names.h"
 #include "tools/formats.h"
 #include "tools/people.h"
+#include "tools/progress.h"
 
 #include <QStringList>
 
@@ -14,7 +16,7 @@
 #include <vector>
 
 struct Options {
-    enum class Task { Person, Book, Batch, ListTopics, Help, Version };
+    enum class Task { Person, Book, Batch, ListTopics, Completion, Help, Version };
 
     Task task = Task::Person;
     PersonInput person;
@@ -32,6 +34,8 @@ struct Options {
     FileNames fileNames;                     ///< of the files in it
     bool noClobber = false;                  ///< whether files stay that are in it
     QString output;                          ///< empty: standard output
+    Progress::Verbosity verbosity = Progress::Verbosity::Person;
+    Shell shell = Shell::Bash; ///< of Task::Completion
 };
 
 /// Throws Refusal, naming the option, unless all arguments behind the program's name are

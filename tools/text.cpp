@@ -27,12 +27,11 @@ std::optional<QString> FromUtf8(std::string_view bytes) {
     return decode.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
-bool IsControl(QChar character) {
-    const char16_t unit = character.unicode();
-    return character.category() == QChar::Other_Control || unit == QChar::LineSeparator ||
-           unit == QChar::ParagraphSeparator || unit == 0x061C || unit == 0x200E ||
-           unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
-           (unit >= 0x2066 && unit <= 0x2069);
+bool ActsOnTerminal(char32_t character) {
+    return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == 0x061C ||
+           character == 0x200E || character == 0x200F ||
+           (character >= 0x2028 && character <= 0x202E) ||
+           (character >= 0x2066 && character <= 0x2069);
 }
 
 namespace {
@@ -56,7 +55,7 @@ QString Escaped(QChar control) {
 std::string OneLine(const QString &text) {
     QString line;
     for (const QChar character : text)
-        line += IsControl(character) ? Escaped(character) : QString(character);
+        line += ActsOnTerminal(character.unicode()) ? Escaped(character) : QString(character);
     return ToUtf8(line.toStdU16String());
 }
 

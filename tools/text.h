@@ -17,9 +17,9 @@ std::string_view AsUtf8(std::u16string_view text);
 /// `bytes` as text, or nothing when they are not UTF-8.
 std::optional<QString> FromUtf8(std::string_view bytes);
 
-/// Whether a terminal might act on it: a control character, a separator of lines, or a mark that
-/// turns the direction of what follows.
-bool IsControl(QChar character);
+/// Whether a terminal might act on it: control characters, separators of lines, and the marks
+/// that turn the direction of what follows.
+bool ActsOnTerminal(char32_t character);
 
 /// `text` in UTF-8 with its control characters and its marks of direction written out ("\n",
 /// "\x1B", "\x202E"): a message that quotes what it was given stays one line and does nothing

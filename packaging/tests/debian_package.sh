@@ -49,4 +49,9 @@ test "$(wc -l <"$work/control/md5sums")" -eq "$(find "$work/data" -type f | wc -
 for file in copyright changelog.Debian.gz; do
     test -s "$work/data/usr/share/doc/orravane/$file" || fail "$file is missing"
 done
+for file in bash-completion/completions/orravane-report zsh/vendor-completions/_orravane-report \
+    fish/vendor_completions.d/orravane-report.fish; do
+    test -s "$work/data/usr/share/$file" || fail "$file is missing"
+done
+test ! -e "$work/data/usr/share/zsh/site-functions" || fail "completion for zsh twice"
 "$4" validate-tree --no-net --strict --override="$5" "$work/data"

@@ -19,6 +19,8 @@ sort -k 2 >"$work/expected" <<'FILES'
 755 bin/orravane
 755 bin/orravane-report
 644 share/applications/orravane.desktop
+644 share/bash-completion/completions/orravane-report
+644 share/fish/vendor_completions.d/orravane-report.fish
 644 share/icons/hicolor/128x128/apps/orravane.png
 644 share/icons/hicolor/16x16/apps/orravane.png
 644 share/icons/hicolor/22x22/apps/orravane.png
@@ -31,6 +33,7 @@ sort -k 2 >"$work/expected" <<'FILES'
 644 share/man/man1/orravane-report.1.gz
 644 share/man/man1/orravane.1.gz
 644 share/metainfo/example.orravane.orravane.metainfo.xml
+644 share/zsh/site-functions/_orravane-report
 FILES
 diff -u "$work/expected" "$work/found"
 test -z "$(find . -type d ! -perm 755)" || fail "a folder that not all can enter"

@@ -62,7 +62,25 @@ TEST(ReadingAsJson, WritesTheDayWithFourDigitsOfTheYear) {
 TEST(ReadingAsJson, EscapesWhatANameMayHold) {
     PersonReading reading = TwoTopics();
     reading.person.FirstName = u"AN\"N\\\t\x7F\x01\n😀";
-    EXPECT_TRUE(ReadingAsJson(reading).starts_with("{\"first\":\"AN\\\"N\\\\\\t\x7F\\u0001\\n😀\""));
+    EXPECT_TRUE(
+        ReadingAsJson(reading).starts_with("{\"first\":\"AN\\\"N\\\\\\t\\u007F\\u0001\\n😀\""));
+}
+
+// JSON is looked at on terminals too. What is no control and turns no direction stays as it is.
+TEST(ReadingAsJson, EscapesWhatMightActOnATerminal) {
+    PersonReading reading = TwoTopics();
+    reading.person.LastName = u"\x7E\x7F\x80\x9B\x9F\xA0\x61C\x61D\x200D\x200E\x200F\x2010"
+                              u"\x2028\x2029\x202A\x202E\x202F\x2065\x2066\x2069\x206A";
+    EXPECT_NE(ReadingAsJson(reading).find(
+                  "\"last\":\"~\\u007F\\u0080\\u009B\\u009F\u00A0\\u061C\u061D\u200D"
+                  "\\u200E\\u200F\u2010\\u2028\\u2029\\u202A\\u202E\u202F\u2065\\u2066"
+                  "\\u2069\u206A\","),
+              std::string::npos)
+        << ReadingAsJson(reading);
+    EXPECT_NE(ErrorAsJson({1, {}}, "a\u202Eb").find("a\\u202Eb"), std::string::npos);
+    const QJsonObject object =
+        QJsonDocument::fromJson(QByteArray::fromStdString(ReadingAsJson(reading))).object();
+    EXPECT_EQ(object["last"].toString().toStdU16String(), reading.person.LastName);
 }
 
 // Every control character, with more behind it than the fast way of the library looks at once.

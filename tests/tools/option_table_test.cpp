@@ -4,7 +4,9 @@
 
 #include "report/topic_tree.h"
 #include "tools/help.h"
+#include "tools/options.h"
 #include "tools/reading.h"
+#include "tools/refusal.h"
 #include "tools/text.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +45,7 @@ TEST(OptionTable, HasEachOptionOnce) {
         EXPECT_EQ(row.value.empty(), row.kind == ValueKind::None) << row.name;
         EXPECT_TRUE(row.help.ends_with('.')) << row.name;
     }
-    EXPECT_EQ(letters, (std::set<char>{'h', 'V', 'o', 'f'}));
+    EXPECT_EQ(letters, (std::set<char>{'h', 'V', 'o', 'f', 'q'}));
 }
 
 TEST(HelpText, HasEveryOptionAndItsDescriptionWithin80Columns) {
@@ -69,6 +71,34 @@ TEST(TopicList, HasEveryCaptionOnALine) {
     for (const std::u16string_view caption : AllCaptions())
         expected += ToUtf8(caption) + '\n';
     EXPECT_EQ(TopicList(), expected + "Comprehensive Reading\n");
+}
+
+// What the shells make of it is tried in the shells themselves.
+TEST(Completion, HasEveryOptionForEveryShell) {
+    for (const auto &[shell, prefix] :
+         {std::pair(Shell::Bash, "--"), {Shell::Zsh, "--"}, {Shell::Fish, " -l "}}) {
+        const std::string script = CompletionFor(shell);
+        for (const OptionRow &row : OptionTable())
+            EXPECT_TRUE(std::regex_search(
+                script, std::regex(prefix + std::string(row.name) + "(?![a-z-])")))
+                << row.name;
+    }
+}
+
+// A value that a shell offers is one that the program takes.
+TEST(Completion, OffersTheFormatsAndShellsThereAre) {
+    const std::string script = CompletionFor(Shell::Fish);
+    for (const char *format : {"text", "json", "rtf"})
+        EXPECT_NO_THROW(ParseOptions({"orravane-report", "--format", format}));
+    for (const char *format : {"csv", "tsv"})
+        EXPECT_NO_THROW(ParseOptions({"orravane-report", "--numbers", "--format", format}));
+    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf csv tsv'"), std::string::npos)
+        << script;
+    for (const char *shell : {"bash", "zsh", "fish"})
+        EXPECT_TRUE(ShellFrom(shell)) << shell;
+    EXPECT_FALSE(ShellFrom("Bash"));
+    EXPECT_NE(script.find("-l completion -x -a 'bash zsh fish'"), std::string::npos) << script;
+    EXPECT_THROW(ParseOptions({"orravane-report", "--completion", "csh"}), Refusal);
 }
 
 // Each has a paragraph under OPTIONS, with its value and its short form, and stands in an

@@ -252,6 +252,8 @@ TEST(PeopleLines, CarryTheFurtherColumnsOfARow) {
     EXPECT_EQ(reader.Parse("007,Ann,Lee,\"a, \x1B\"\"b\"\"xxxxxxxxxxxxxxxxxxxxx\", 1984-02-31,,x"),
               "Ann||Lee||||1984-02-31"
               R"({"id":"007","say \"so\"":"a, \u001B\"b\"xxxxxxxxxxxxxxxxxxxxx"})");
+    EXPECT_TRUE(reader.Parse("1\u202E\u009B,Ann,Lee,,1984-02-31,,")
+                    .ends_with(R"({"id":"1\u202E\u009B","say \"so\"":""})"));
     EXPECT_EQ(reader.Parse(",,,,,,"), R"(|||||{"id":"","say \"so\"":""})");
     ExpectLine(reader.Refused("\xFF,Ann,Lee,,1984-02-31,,"), {"not UTF-8"});
 }

@@ -58,7 +58,9 @@ Program::Program(const Arguments &arguments, const Surroundings &surroundings) {
     if (surroundings.errorTerminal) {
         termios raw{}; // hands on every byte as it was written
         cfmakeraw(&raw);
-        EXPECT_EQ(openpty(&terminal_, &childsEnd, nullptr, &raw, nullptr), 0);
+        winsize size{};
+        size.ws_col = static_cast<unsigned short>(surroundings.terminalColumns);
+        EXPECT_EQ(openpty(&terminal_, &childsEnd, nullptr, &raw, &size), 0);
         fcntl(terminal_, F_SETFD, FD_CLOEXEC);
         fcntl(terminal_, F_SETFL, O_NONBLOCK);
     }

@@ -41,6 +41,7 @@ struct Surroundings {
     std::string inputFile;                                         ///< opened as standard input
     std::string outputFile;        ///< opened as standard output, not captured
     bool errorTerminal = false;    ///< standard error is a terminal
+    int terminalColumns = 0;       ///< how wide that is; 0: it does not say
     bool noInput = false;          ///< standard input is closed
     bool noOutput = false;         ///< standard output is closed
     bool noError = false;          ///< standard error is closed
