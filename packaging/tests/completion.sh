@@ -33,10 +33,13 @@ bash_typed() {
     python3 - "$bash" "$completions/orravane-report.bash" "$1" <<'TAB'
 import os, pty, re, select, sys, time
 shell, completion, line = sys.argv[1:]
+with open("start", "w") as start:
+    start.write(f"stty -echo; bind 'set enable-bracketed-paste off'; . '{completion}'\n"
+                "shown() { shift; printf '<%s>\\n' \"$@\" END; }; PS1='@ '\n")
 child, terminal = pty.fork()
 if child == 0:
-    os.execve(shell, [shell, "--norc", "--noprofile", "-i"],
-              dict(os.environ, TERM="dumb", PS1="@ ", INPUTRC="/dev/null"))
+    os.execve(shell, [shell, "--noprofile", "--rcfile", "start", "-i"],
+              dict(os.environ, TERM="dumb", INPUTRC="/dev/null"))
 seen = b""
 
 def until(pattern):
@@ -50,8 +53,6 @@ def until(pattern):
     result, seen = seen, b""
     return result
 
-until(rb"@ $")
-os.write(terminal, f"stty -echo; bind 'set enable-bracketed-paste off'; . '{completion}'; shown() {{ shift; printf '<%s>\\n' \"$@\" END; }}\n".encode())
 until(rb"@ $")
 os.write(terminal, line.encode() + b"\t\x01shown \n")  # from the start of the line
 print(" ".join(re.findall(r"<(.*?)>\r?\n", until(rb"<END>").decode())[:-1]))

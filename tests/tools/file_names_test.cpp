@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 modReadings::UserProfile Named(const QString &first, const QString &middle, const QString &last) {
@@ -42,7 +44,7 @@ TEST(FileNames, HoldNothingThatAFileSystemOrATerminalTakesAmiss) {
              {" x", "_ x"},
              {"a\\b:c*d?e\"f<g>h|i", "a_b_c_d_e_f_g_h_i"},
              {QString::fromUtf8("a\0b\nc\x1B[2Jd\x7F", 11), "a_b_c_[2Jd_"},
-             {u"a\u202Eb\u200Fc\u2066d\u2028e\u200Bf\u0085g\uFEFFh"_qs, "a_b_c_d_e_f_g_h"},
+             {u"a\u202Eb\u200Fc\u2066d\u2028e\u200Bf\u0085g\uFEFFh"_s, "a_b_c_d_e_f_g_h"},
              {QString(QChar(0xD800)) + "x" + QChar(0xDC00), "_x_"},
              {"😀é", "😀é"}})
         EXPECT_EQ(Name("{first}-{line}", first, "LEE"), name + "-000007.txt");
@@ -54,8 +56,8 @@ TEST(FileNames, HoldNothingThatAFileSystemOrATerminalTakesAmiss) {
 
 // Cut between characters, and never the line.
 TEST(FileNames, AreNoLongerThan255Bytes) {
-    for (const QString &letter : {u"A"_qs, u"Ä"_qs, u"€"_qs, u"😀"_qs})
-        for (const QString &pattern : {u"{first}-{line}"_qs, u"{line}_{first}{last}{first}"_qs,
+    for (const QString &letter : {u"A"_s, u"Ä"_s, u"€"_s, u"😀"_s})
+        for (const QString &pattern : {u"{first}-{line}"_s, u"{line}_{first}{last}{first}"_s,
                                        QString(80, 'x') + "{last}-{line}"}) {
             const QString name =
                 FileNames(pattern).Of(Named(letter.repeated(400), {}, letter.repeated(300)),

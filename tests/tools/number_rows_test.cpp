@@ -8,6 +8,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 using modReadings::Captured;
 using modReadings::UserProfile;
 
@@ -134,7 +136,7 @@ TEST_F(NumberRows, HaveAsManyFieldsAsTheHeader) {
 
 TEST_F(NumberRows, QuoteInCsvAloneAndStayOneLine) {
     const UserProfile odd =
-        Captured({u"A\n\u202E\tb"_qs, "say \"x\"", "Lee, Jr", "March", "7", "1990"});
+        Captured({u"A\n\u202E\tb"_s, "say \"x\"", "Lee, Jr", "March", "7", "1990"});
     const std::string csv = NumbersAsRow(Format::Csv, odd, {3, R"({"id":"a,b"})"});
     EXPECT_TRUE(csv.starts_with("3,A\\n\\x202E\\tB,\"SAY \"\"X\"\"\",\"LEE, JR\",March,")) << csv;
     EXPECT_TRUE(csv.ends_with(",\"{\"\"id\"\":\"\"a,b\"\"}\",\n")) << csv;
