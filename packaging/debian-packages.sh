@@ -3,8 +3,8 @@
 
 build_packages="
     ca-certificates cmake g++ ninja-build
-    qt6-base-dev qt6-svg-dev libcups2-dev rapidjson-dev libcsv-dev zlib1g-dev
-    fonts-dejavu-core gzip librsvg2-bin xdg-utils
+    qt6-base-dev libcups2-dev rapidjson-dev libcsv-dev zlib1g-dev
+    fonts-dejavu-core gzip librsvg2-bin optipng xdg-utils
 "
 
 # dpkg-dev and file find out what the program's package depends on.
