@@ -11,7 +11,7 @@ build_packages="
 package_packages="dpkg-dev file"
 
 test_packages="
-    $package_packages clang-format clang-tidy libgtest-dev
+    $package_packages clang-format clang-tidy g++-mingw-w64-x86-64-posix libgtest-dev
     appstream bash desktop-file-utils fish man-db zsh
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
