@@ -56,7 +56,7 @@ printf '%s\n' '{"first":"Ada","last":"Moreau","month":5,"day":7,"year":1984}' '{
 code=0
 as_user sh -c 'orravane-report --batch /tmp/people 2>/dev/null >reports.jsonl' || code=$?
 [ "$code" -eq 1 ] || fail "a batch with a wrong line ends with $code"
-[ "$(wc -l <"$root/home/reader/reports.jsonl")" -eq 2 ] || fail "two lines gave another number"
+[ "$(wc -l <"$root/home/reader/reports.jsonl")" -eq 2 ] || fail "two people did not give two lines"
 rm "$root/home/reader/reports.jsonl"
 
 step "orravane in a window"
@@ -85,7 +85,7 @@ for _ in $(seq 100); do
     [ "$pixel" = FDFBFF ] && break
     sleep 0.1
 done
-[ "$pixel" = FDFBFF ] || { echo "the report page did not come: $pixel"; exit 1; }
+[ "$pixel" = FDFBFF ] || { echo "the report page did not appear: $pixel"; exit 1; }
 xdotool key alt+f
 xdotool key x
 wait $program
