@@ -1,0 +1,128 @@
+-- Fits the pages of the site together while pandoc converts them: the version and the changes
+-- come from the metainfo, pictures get their sizes, assets an address that changes with them.
+--
+-- Metadata from the command line: `metainfo`, the file with the releases; `root`, the folder
+-- that is published; `pictures`, the folder of the PNG pictures; `host` and `update-path`.
+
+local stringify = pandoc.utils.stringify
+
+local function content(path)
+  local file = assert(io.open(path, 'rb'))
+  local bytes = file:read('a')
+  file:close()
+  return bytes
+end
+
+local function exists(path)
+  return os.rename(path, path) ~= nil
+end
+
+-- The address of a published file. It is another one when the file is another, so that
+-- browsers may keep it for ever.
+local function address(root, name)
+  return '/' .. name .. '?v=' .. pandoc.utils.sha1(content(root .. '/' .. name)):sub(1, 8)
+end
+
+-- The releases, newest first, as blocks; and the version and the day of the newest.
+local function releases(metainfo)
+  local news = pandoc.read(
+    pandoc.pipe('appstreamcli', {'metainfo-to-news', '--format=markdown', metainfo, '-'}, ''),
+    'commonmark').blocks
+  local version, day
+  for _, block in ipairs(news) do
+    local text = stringify(block)
+    version = version or text:match('^Version (%S+)$')
+    day = day or text:match('^Released: (%S+)$')
+  end
+  assert(version and day, 'no release in ' .. metainfo)
+  return news, version, day
+end
+
+-- The files that are offered, as a table with their sizes and sums.
+local function downloads(root)
+  local rows = {}
+  for _, name in ipairs(pandoc.system.list_directory(root .. '/downloads')) do
+    local path = root .. '/downloads/' .. name
+    rows[#rows + 1] = string.format('| [%s](/downloads/%s) | %.1f MB | `%s` |', name, name,
+      #content(path) / 1e6, pandoc.pipe('sha256sum', {path}, ''):match('^%x+'))
+  end
+  table.sort(rows)
+  return pandoc.read('| File | Size | SHA-256 |\n|---|---|---|\n' .. table.concat(rows, '\n'),
+                     'gfm').blocks
+end
+
+local function picture(image, root, pictures)
+  local name = image.src:match('^pictures/(.+)%.png$')
+  if not name then
+    return nil
+  end
+  -- The width and the height of a PNG stand in its bytes 16 to 23.
+  local width, height = string.unpack('>I4I4', content(pictures .. '/' .. name .. '.png'), 17)
+  local first = image.attributes.loading == 'eager'
+  local alt = stringify(image.caption):gsub('&', '&amp;'):gsub('"', '&quot;'):gsub('<', '&lt;')
+  return pandoc.RawInline('html', string.format(
+    '<picture><source srcset="%s" type="image/avif"><img src="%s" width="%d" height="%d"%s alt="%s"></picture>',
+    address(root, 'pictures/' .. name .. '.avif'), address(root, 'pictures/' .. name .. '.png'),
+    width, height, first and ' fetchpriority="high"' or ' loading="lazy" decoding="async"', alt))
+end
+
+function Pandoc(document)
+  local meta, root = document.meta, stringify(document.meta.root)
+  local news, version, day = releases(stringify(meta.metainfo))
+  meta.version, meta.host = version, stringify(meta.host)
+
+  -- A document that stands for itself has its title as its first heading.
+  if not meta.title then
+    assert(document.blocks[1].level == 1, 'a page begins with its title')
+    meta.title = document.blocks:remove(1).content
+    if document.blocks[1].t == 'Para' then
+      meta.lead = pandoc.MetaBlocks {document.blocks:remove(1)}
+    end
+  end
+  meta.asset = {}
+  for key, name in pairs {icon = 'icon.svg', style = 'style.css', wordmark = 'wordmark.svg',
+                          search = 'search.js', lunr = 'lunr.min.js'} do
+    meta.asset[key] = address(root, name)
+  end
+
+  local values = {version = version, day = day, host = meta.host}
+  return document:walk {
+    Image = function(image)
+      return picture(image, root, stringify(meta.pictures))
+    end,
+    Span = function(span)
+      return values[span.classes[1]] and pandoc.Str(values[span.classes[1]])
+    end,
+    Div = function(div)
+      if div.identifier == 'releases' then
+        div.content = pandoc.Pandoc(news):walk {
+          Header = function(header)
+            return pandoc.Header(3, header.content)
+          end}.blocks
+        return div
+      end
+      -- Parts of a page that stand there only where there is something to point at.
+      local missing = {['sample-report'] = not exists(root .. '/sample-report.html'),
+                       ['downloads'] = not exists(root .. '/downloads'),
+                       ['no-downloads'] = exists(root .. '/downloads')}
+      local name = div.identifier ~= '' and div.identifier or div.classes[1]
+      if missing[name] then
+        return {}
+      elseif name == 'downloads' then
+        div.content:extend(downloads(root))
+        return div
+      end
+    end,
+    Link = function(link)
+      if link.target == 'update:' then
+        link.target = stringify(meta['update-path'])
+        return link
+      end
+    end,
+    -- Widths and alignments would be styles inside the page, which its server forbids.
+    Table = function(tab)
+      tab.colspecs = tab.colspecs:map(function() return {pandoc.AlignDefault, nil} end)
+      return tab
+    end,
+  }
+end

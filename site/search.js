@@ -1,0 +1,109 @@
+// Finds sections of the help. The page is its own store: what it shows is what is searched, in
+// the browser, and nothing is sent anywhere. Without script the page stays as it is.
+'use strict';
+
+(() => {
+  const form = document.getElementById('search');
+  const query = document.getElementById('query');
+  const found = document.getElementById('found');
+  const results = document.getElementById('results');
+  const shown = 8;
+  let sections, index;
+
+  // A section is a heading with an address and what stands under it, up to the next heading.
+  function read() {
+    sections = new Map();
+    let section = null;
+    for (const node of document.querySelector('article').children)
+      walk(node);
+    function walk(node) {
+      const heading = /^H[2-6]$/.test(node.tagName) ? node : node.querySelector('h2, h3, h4');
+      if (heading === node) {
+        section = {id: node.id, title: node.textContent.trim(), text: ''};
+        if (node.id)
+          sections.set(node.id, section);
+      } else if (heading) {
+        for (const child of node.children)
+          walk(child);
+      } else if (section) {
+        section.text += node.textContent.replace(/\s+/g, ' ').trim() + ' ';
+      }
+    }
+    index = lunr(function () {
+      this.ref('id');
+      this.field('title', {boost: 8});
+      this.field('text');
+      this.metadataWhitelist = ['position'];
+      for (const one of sections.values())
+        this.add(one);
+    });
+  }
+
+  // Whole words first, then words that begin so, then words with one letter mistyped.
+  function ask(text) {
+    const words = lunr.tokenizer(text).map(String).filter((word) => /\w/.test(word));
+    return index.query((asked) => {
+      for (const word of words) {
+        asked.term(word, {boost: 20});
+        asked.term(word, {boost: 5, usePipeline: false, wildcard: lunr.Query.wildcard.TRAILING});
+        if (word.length > 4)
+          asked.term(word, {boost: 1, usePipeline: false, editDistance: 1});
+      }
+    });
+  }
+
+  // A piece of the section around the first place that was found, with the places marked.
+  function excerpt(section, match) {
+    const places = Object.values(match.matchData.metadata)
+      .flatMap((fields) => (fields.text ? fields.text.position : []))
+      .sort((one, other) => one[0] - other[0]);
+    const first = places.length ? places[0][0] : 0;
+    const start = first < 60 ? 0 : section.text.lastIndexOf(' ', first - 40) + 1;
+    const end = Math.min(section.text.length, start + 170);
+    const line = document.createElement('p');
+    let at = start;
+    for (const [place, length] of places) {
+      if (place < at || place + length > end)
+        continue;
+      line.append(section.text.slice(at, place));
+      line.appendChild(document.createElement('mark')).textContent =
+        section.text.slice(place, place + length);
+      at = place + length;
+    }
+    line.prepend(start ? '… ' : '');
+    line.append(section.text.slice(at, end), end < section.text.length ? ' …' : '');
+    return line;
+  }
+
+  function show() {
+    const text = query.value.trim();
+    results.replaceChildren();
+    found.textContent = '';
+    if (!text)
+      return;
+    if (!index)
+      read();
+    const matches = ask(text);
+    found.textContent = matches.length === 0 ? 'Nothing found. Try another word.'
+      : matches.length === 1 ? 'One section'
+        : matches.length <= shown ? matches.length + ' sections'
+          : 'The best ' + shown + ' of ' + matches.length + ' sections';
+    for (const match of matches.slice(0, shown)) {
+      const section = sections.get(match.ref);
+      const item = results.appendChild(document.createElement('li'));
+      const link = item.appendChild(document.createElement('a'));
+      link.href = '#' + section.id;
+      link.textContent = section.title;
+      item.append(excerpt(section, match));
+    }
+  }
+
+  query.addEventListener('input', show);
+  form.addEventListener('submit', (event) => {
+    event.preventDefault();
+    const best = results.querySelector('a');
+    if (best)
+      best.click();
+  });
+  form.hidden = false;
+})();
