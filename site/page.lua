@@ -119,6 +119,10 @@ function Pandoc(document)
         return link
       end
     end,
+    CodeBlock = function(code)
+      code.attributes.tabindex = '0' -- a long line can be scrolled by keyboard
+      return code
+    end,
     -- Widths and alignments would be styles inside the page, which its server forbids.
     Table = function(tab)
       tab.colspecs = tab.colspecs:map(function() return {pandoc.AlignDefault, nil} end)
