@@ -14,9 +14,8 @@ install_missing $build_packages $package_packages
 export DEB_BUILD_MAINT_OPTIONS=hardening=+all
 CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)"
 LDFLAGS=$(dpkg-buildflags --get LDFLAGS)
-SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
-export CXXFLAGS LDFLAGS SOURCE_DATE_EPOCH
+export CXXFLAGS LDFLAGS
 
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr >/dev/null
 cmake --build "$build"
-(cd "$build" && cpack -G DEB)
+packaging/pack.sh "$build"

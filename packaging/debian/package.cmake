@@ -1,4 +1,4 @@
-# `cpack -G DEB` in the build folder makes orravane_VERSION-1_ARCHITECTURE.deb there.
+# `packaging/pack.sh BUILD` makes orravane_VERSION-1_ARCHITECTURE.deb in the build folder.
 
 # What Debian alone wants. It goes into the package and not into other installations.
 set(changelog ${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian.gz)
@@ -35,8 +35,6 @@ for one person or for every line of a list.")
 
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
