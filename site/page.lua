@@ -2,7 +2,8 @@
 -- come from the metainfo, pictures get their sizes, assets an address that changes with them.
 --
 -- Metadata from the command line: `metainfo`, the file with the releases; `root`, the folder
--- that is published; `pictures`, the folder of the PNG pictures; `host` and `update-path`.
+-- that is published; `pictures`, the folder of the PNG pictures; `host`, `update-path` and
+-- `contact`.
 
 local stringify = pandoc.utils.stringify
 
@@ -117,6 +118,8 @@ function Pandoc(document)
       if link.target == 'update:' then
         link.target = stringify(meta['update-path'])
         return link
+      elseif link.target == 'contact:' then
+        return pandoc.Link(stringify(meta.contact), 'mailto:' .. stringify(meta.contact))
       end
     end,
     CodeBlock = function(code)
