@@ -14,7 +14,7 @@
   function read() {
     sections = new Map();
     let section = null;
-    for (const node of document.querySelector('article').children)
+    for (const node of document.querySelector('.text').children)
       walk(node);
     function walk(node) {
       const heading = /^H[2-6]$/.test(node.tagName) ? node : node.querySelector('h2, h3, h4');
@@ -30,6 +30,8 @@
       }
     }
     index = lunr(function () {
+      // Words as they are written, so that what is found can be marked while one still types.
+      this.pipeline.remove(lunr.stemmer);
       this.ref('id');
       this.field('title', {boost: 8});
       this.field('text');
@@ -39,24 +41,41 @@
     });
   }
 
-  // Whole words first, then words that begin so, then words with one letter mistyped.
+  // The sections in which most words of the question are found, the best first: whole words
+  // before words that begin so, these before other forms, and those with one letter mistyped last.
   function ask(text) {
-    const words = lunr.tokenizer(text).map(String).filter((word) => /\w/.test(word));
-    return index.query((asked) => {
-      for (const word of words) {
-        asked.term(word, {boost: 20});
-        asked.term(word, {boost: 5, usePipeline: false, wildcard: lunr.Query.wildcard.TRAILING});
+    const answers = new Map();
+    for (const token of lunr.tokenizer(text)) {
+      const word = token.toString().replace(/^\W+|\W+$/g, '');
+      if (!word || !lunr.stopWordFilter(word))
+        continue;
+      const stem = lunr.stemmer(new lunr.Token(word)).toString();
+      const matches = index.query((asked) => {
+        const as = (form, options) => asked.term(form, {usePipeline: false, ...options});
+        as(word, {boost: 20});
+        if (word.length > 1)
+          as(word, {boost: 8, wildcard: lunr.Query.wildcard.TRAILING});
+        if (stem.length > 2)
+          as(stem, {boost: 4, wildcard: lunr.Query.wildcard.TRAILING});
         if (word.length > 4)
-          asked.term(word, {boost: 1, usePipeline: false, editDistance: 1});
+          as(word, {boost: 1, editDistance: 1});
+      });
+      for (const match of matches) {
+        const answer = answers.get(match.ref) || {id: match.ref, words: 0, score: 0, places: []};
+        answers.set(match.ref, answer);
+        answer.words += 1;
+        answer.score += match.score;
+        for (const fields of Object.values(match.matchData.metadata))
+          answer.places.push(...(fields.text ? fields.text.position : []));
       }
-    });
+    }
+    return [...answers.values()].sort((one, other) =>
+      other.words - one.words || other.score - one.score);
   }
 
   // A piece of the section around the first place that was found, with the places marked.
-  function excerpt(section, match) {
-    const places = Object.values(match.matchData.metadata)
-      .flatMap((fields) => (fields.text ? fields.text.position : []))
-      .sort((one, other) => one[0] - other[0]);
+  function excerpt(section, places) {
+    places.sort((one, other) => one[0] - other[0]);
     const first = places.length ? places[0][0] : 0;
     const start = first < 60 ? 0 : section.text.lastIndexOf(' ', first - 40) + 1;
     const end = Math.min(section.text.length, start + 170);
@@ -89,12 +108,12 @@
         : matches.length <= shown ? matches.length + ' sections'
           : 'The best ' + shown + ' of ' + matches.length + ' sections';
     for (const match of matches.slice(0, shown)) {
-      const section = sections.get(match.ref);
+      const section = sections.get(match.id);
       const item = results.appendChild(document.createElement('li'));
       const link = item.appendChild(document.createElement('a'));
       link.href = '#' + section.id;
       link.textContent = section.title;
-      item.append(excerpt(section, match));
+      item.append(excerpt(section, match.places));
     }
   }
 
