@@ -1,12 +1,13 @@
 #!/bin/sh
-# make-package.sh [BUILD]
+# make-package.sh [BUILD [CMAKE-OPTION...]]
 # Installs what is missing, builds the Debian package with Debian's own compiler flags and
-# says where it lies.
-# BUILD is the build folder, build/package by default; there the same sources make the same
+# says where it lies. Options are for example -DORRAVANE_SITE_HOST=HOST.
+# BUILD is the build directory, build/package by default; there the same sources make the same
 # bytes, wherever the checkout lies.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/package}
+[ $# -eq 0 ] || shift
 
 . packaging/debian-packages.sh
 install_missing $build_packages $package_packages
@@ -16,6 +17,6 @@ CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)"
 LDFLAGS=$(dpkg-buildflags --get LDFLAGS)
 export CXXFLAGS LDFLAGS
 
-cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr >/dev/null
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr "$@" >/dev/null
 cmake --build "$build"
 packaging/pack.sh "$build"

@@ -26,8 +26,8 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "Orravane makes a numerology report. From the letters of a name, the date of
 birth and today's date it works out twenty-two topics, such as the Life Path,
 the Destiny number or the Personal Year, by the Pythagorean letter chart. Each
-topic has a number, an explanation and a reading; all of them together make the
-Comprehensive Reading. Reports can be printed or saved as Rich Text Format.
+topic has an explanation and a reading, and most have a number; all of them make
+the Comprehensive Reading. Reports can be printed or saved as Rich Text Format.
 .
 The package holds the window, orravane, and the command orravane-report, which
 gives the same readings as text, JSON or Rich Text Format without a display,
