@@ -3,7 +3,8 @@
 --
 -- Metadata from the command line: `metainfo`, the file with the releases; `root`, the folder
 -- that is published; `pictures`, the folder of the PNG pictures; `host`, `update-path` and
--- `contact`.
+-- `contact`; `downloads`, the names of the files that are offered; `sample`, that of the
+-- sample document where there is one.
 
 local stringify = pandoc.utils.stringify
 
@@ -12,10 +13,6 @@ local function content(path)
   local bytes = file:read('a')
   file:close()
   return bytes
-end
-
-local function exists(path)
-  return os.rename(path, path) ~= nil
 end
 
 -- The address of a published file. It is another one when the file is another, so that
@@ -39,17 +36,15 @@ local function releases(metainfo)
   return news, version, day
 end
 
--- The files that are offered, as a table with their sizes and sums.
-local function downloads(root)
-  local rows = {}
-  for _, name in ipairs(pandoc.system.list_directory(root .. '/downloads')) do
+-- The files that are offered, with their sizes and sums.
+local function downloads(root, offered)
+  local items = ''
+  for name in offered:gmatch('%S+') do
     local path = root .. '/downloads/' .. name
-    rows[#rows + 1] = string.format('| [%s](/downloads/%s) | %.1f MB | `%s` |', name, name,
+    items = items .. string.format('- [%s](/downloads/%s), %.1f MB\\\n  `%s`\n', name, name,
       #content(path) / 1e6, pandoc.pipe('sha256sum', {path}, ''):match('^%x+'))
   end
-  table.sort(rows)
-  return pandoc.read('| File | Size | SHA-256 |\n|---|---|---|\n' .. table.concat(rows, '\n'),
-                     'gfm').blocks
+  return pandoc.read(items, 'commonmark').blocks
 end
 
 local function picture(image, root, pictures)
@@ -103,14 +98,14 @@ function Pandoc(document)
         return div
       end
       -- Parts of a page that stand there only where there is something to point at.
-      local missing = {['sample-report'] = not exists(root .. '/sample-report.html'),
-                       ['downloads'] = not exists(root .. '/downloads'),
-                       ['no-downloads'] = exists(root .. '/downloads')}
+      local offered = stringify(meta.downloads)
+      local missing = {['sample-report'] = stringify(meta.sample) == '',
+                       ['downloads'] = offered == '', ['no-downloads'] = offered ~= ''}
       local name = div.identifier ~= '' and div.identifier or div.classes[1]
       if missing[name] then
         return {}
       elseif name == 'downloads' then
-        div.content:extend(downloads(root))
+        div.content:extend(downloads(root, offered))
         return div
       end
     end,
@@ -129,6 +124,10 @@ function Pandoc(document)
     -- Widths and alignments would be styles inside the page, which its server forbids.
     Table = function(tab)
       tab.colspecs = tab.colspecs:map(function() return {pandoc.AlignDefault, nil} end)
+      if #tab.colspecs > 4 then -- on a phone it scrolls by itself
+        return pandoc.Div(tab, pandoc.Attr('', {'scroll'}, {tabindex = '0', role = 'group',
+                                                           ['aria-label'] = 'Wide table'}))
+      end
       return tab
     end,
   }

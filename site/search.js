@@ -37,7 +37,8 @@
       this.field('text');
       this.metadataWhitelist = ['position'];
       for (const one of sections.values())
-        this.add(one);
+        if (one.id !== 'index')
+          this.add(one);
     });
   }
 
@@ -78,7 +79,8 @@
     places.sort((one, other) => one[0] - other[0]);
     const first = places.length ? places[0][0] : 0;
     const start = first < 60 ? 0 : section.text.lastIndexOf(' ', first - 40) + 1;
-    const end = Math.min(section.text.length, start + 170);
+    const end = section.text.length < start + 170 ? section.text.length
+      : section.text.lastIndexOf(' ', start + 170);
     const line = document.createElement('p');
     let at = start;
     for (const [place, length] of places) {

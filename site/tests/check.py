@@ -54,6 +54,11 @@ class Page(html.parser.HTMLParser):
         if re.fullmatch("h[1-6]", tag):
             self.headings.append([int(tag[1]), ""])
 
+    def handle_startendtag(self, tag, attributes):
+        self.handle_starttag(tag, attributes)
+        if tag not in EMPTY:
+            self.handle_endtag(tag)
+
     def handle_endtag(self, tag):
         if not self.open or self.open.pop() != tag:
             raise AssertionError(f"{self.path}: {tag} is closed where it is not open")
@@ -230,6 +235,16 @@ class Site(unittest.TestCase):
         self.assertEqual(shown, releases)
         for page in self.pages.values():
             self.assertIn(f"Orravane {newest}.", page.text, page.path)
+
+    def test_every_file_that_is_offered_is_there_with_its_sum(self):
+        text = file_of(UPDATE_PATH).read_text(encoding="utf-8")
+        shown = re.findall(r'<a href="/downloads/(.+?)">\1</a>.*?<code>([0-9a-f]{64})</code>', text,
+                           re.DOTALL)
+        offered = ROOT / "downloads"
+        there = [(file.name, hashlib.sha256(file.read_bytes()).hexdigest())
+                 for file in (offered.iterdir() if offered.exists() else ())]
+        self.assertEqual(sorted(shown), sorted(there))
+        self.assertEqual("offers no files" in text, not there)
 
     @on_each_page
     def test_readable_without_styles_and_pictures(self, page):

@@ -166,6 +166,7 @@ class Pages(unittest.TestCase):
         for text in ("title:", "+-~^*", "foo:bar~9^x", "<b>", "'", "11/22"):
             with self.subTest(text):
                 search(text)
+        self.assertEqual(search("clipboard"), ["Copying text"])
         self.assertEqual(search("xylophonist"), [])
         self.assertEqual(self.browser.find_element(By.ID, "found").text,
                          "Nothing found. Try another word.")

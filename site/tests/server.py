@@ -42,7 +42,7 @@ class Server:
         text = _replace(text, r"listen 443 ssl", f"listen 127.0.0.1:{self.port} ssl")
         text = _replace(text, r"listen 80;", f"listen 127.0.0.1:{self.plain_port};")
         text = _replace(text, r"listen \[::\].*;", "", 2)
-        text = _replace(text, r"(?m)^ +root [^;]+;", f"root {self.folder}/root;", 2)
+        text = _replace(text, r"(?m)^    root [^;]+;", f"root {self.folder}/root;")
         text = _replace(text, r"/etc/letsencrypt/live/[^/]+/fullchain.pem",
                         f"{self.folder}/certificate.pem")
         text = _replace(text, r"/etc/letsencrypt/live/[^/]+/privkey.pem", f"{self.folder}/key.pem")
