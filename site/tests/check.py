@@ -43,7 +43,7 @@ class Page(html.parser.HTMLParser):
     def __init__(self, path):
         super().__init__()
         self.path, self.elements, self.open, self.text = path, [], [], ""
-        self.headings, self.title = [], ""
+        self.headings, self.columns, self.title = [], [], ""
         self.feed(file_of(path).read_text(encoding="utf-8"))
         self.close()
 
@@ -53,6 +53,8 @@ class Page(html.parser.HTMLParser):
             self.open.append(tag)
         if re.fullmatch("h[1-6]", tag):
             self.headings.append([int(tag[1]), ""])
+        if tag == "th":
+            self.columns.append("")
 
     def handle_startendtag(self, tag, attributes):
         self.handle_starttag(tag, attributes)
@@ -70,6 +72,8 @@ class Page(html.parser.HTMLParser):
             self.text += text
         if self.open and re.fullmatch("h[1-6]", self.open[-1]):
             self.headings[-1][1] += text
+        if "th" in self.open:
+            self.columns[-1] += text
 
     def all(self, *tags):
         return [attributes for tag, attributes in self.elements if tag in tags]
@@ -138,6 +142,7 @@ class Site(unittest.TestCase):
         self.assertEqual(levels[0], 1)
         for level, following in zip(levels, levels[1:]):
             self.assertLessEqual(following, level + 1, page.headings)
+        self.assertNotIn("", page.columns, "a column without a heading")
         self.assertNotIn("@", re.sub(r"\S+@\S+", "", page.text))  # a value not filled in
 
     @on_each_page
