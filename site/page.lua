@@ -121,6 +121,10 @@ function Pandoc(document)
       code.attributes.tabindex = '0' -- a long line can be scrolled by keyboard
       return code
     end,
+    -- Without the kind of numbers, which is the usual one.
+    OrderedList = function(list)
+      return pandoc.OrderedList(list.content, pandoc.ListAttributes(list.start))
+    end,
     -- Widths and alignments would be styles inside the page, which its server forbids.
     Table = function(tab)
       tab.colspecs = tab.colspecs:map(function() return {pandoc.AlignDefault, nil} end)
