@@ -212,7 +212,6 @@ class Site(unittest.TestCase):
             if path and not path.endswith(".png"):  # in place of which the browser takes AVIF
                 content = file_of(path).read_bytes()
                 sizes[path] = len(content if path.endswith(".avif") else gzip.compress(content, 6))
-        print(sizes, sum(sizes.values()))
         self.assertIn("/pictures/topic.avif", sizes)
         self.assertLessEqual(sum(sizes.values()), FIRST_PAGE)
 
