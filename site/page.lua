@@ -97,7 +97,7 @@ function Pandoc(document)
           end}.blocks
         return div
       end
-      -- Parts of a page that stand there only where there is something to point at.
+      -- What stands in a page only where there is something to point at.
       local offered = stringify(meta.downloads)
       local missing = {['sample-report'] = stringify(meta.sample) == '',
                        ['downloads'] = offered == '', ['no-downloads'] = offered ~= ''}

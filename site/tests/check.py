@@ -240,6 +240,19 @@ class Site(unittest.TestCase):
         for page in self.pages.values():
             self.assertIn(f"Orravane {newest}.", page.text, page.path)
 
+    def test_sample_stands_for_itself(self):
+        """The sample document, where there is one, is linked and loads nothing."""
+        there = (ROOT / "sample-report.html").exists()
+        self.assertEqual(there, (SOURCE / "docs/sample-report.html").exists())
+        self.assertEqual("/sample-report.html" in self.pages["/"].addresses(), there)
+        if there:
+            sample = Page("/sample-report.html")
+            self.assertTrue(sample.title)
+            self.assertEqual(sample.all("script", "link", "img", "iframe", "object"), [])
+            addresses = list(sample.addresses())
+            self.assertGreater(len(addresses), 22)
+            self.assertEqual([one for one in addresses if one.lstrip("#") not in sample.ids()], [])
+
     def test_every_file_that_is_offered_is_there_with_its_sum(self):
         text = file_of(UPDATE_PATH).read_text(encoding="utf-8")
         shown = re.findall(r'<a href="/downloads/(.+?)">\1</a>.*?<code>([0-9a-f]{64})</code>', text,

@@ -201,6 +201,23 @@ class Pages(unittest.TestCase):
         self.assert_contrast_in_the_night()
         self.assertEqual(self.complaints(), [])
 
+    def test_sample_document(self):
+        if not (pathlib.Path(os.environ["ORRAVANE_SITE_FOLDER"]) / "root/sample-report.html").exists():
+            self.skipTest("this site has no sample document")
+        _, headers = self.headers("/sample-report.html")
+        self.assertIn("default-src 'none'; style-src 'unsafe-inline'; base-uri",
+                      headers["content-security-policy"])
+        for size in SIZES:
+            for scheme in ("light", "dark"):
+                with self.subTest(size=size, scheme=scheme):
+                    self.device(size, scheme)
+                    self.open("/sample-report.html")
+                    self.look(f"sample-{size}-{scheme}")
+                    self.assertEqual(self.complaints(), [])
+                    self.assertGreater(self.browser.execute_script(
+                        "return document.styleSheets[0].cssRules.length"), 10)
+                    self.assertEqual(self.run_axe()[1], [])
+
     def test_print(self):
         self.device("desktop")
         self.open("/orravane-help/")
