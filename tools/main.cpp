@@ -68,7 +68,7 @@ ExitCode Run(int argc, char *argv[]) {
         return RunBatch(options);
     case Options::Task::Person: {
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
-        const auto person = CheckPerson(options.person, u"--"_s);
+        const auto person = CheckPerson(options.person, InputNames(u"--"_s));
         Print(options.output, AnswerTo(person, options));
         break;
     }
