@@ -103,6 +103,11 @@ void RefuseEndlessEssence(const UserProfile &person, const QString &prefix) {
 
 } // namespace
 
+modReadings::GivenName GivenNameOf(const PersonInput &input) {
+    return {input.first.toStdU16String(), input.middle.toStdU16String(),
+            input.last.toStdU16String()};
+}
+
 UserProfile CheckPerson(const PersonInput &given, const QString &prefix) {
     const auto refusal = [&](QLatin1StringView name, const QString &value, const QString &allowed) {
         return Refusal(value.isEmpty() ? u"%1 is missing or empty; %2"_s.arg(prefix + name, allowed)
