@@ -1,3 +1,5 @@
+#include "numbers/life_path_periods.h"
+
 #include "core/clock.h"
 #include "core/digits.h"
 #include "core/months.h"
@@ -21,6 +23,12 @@ struct PeriodAges {
     int16 firstEnds;  ///< last age of period 1
     int16 secondEnds; ///< last age of period 2
     std::array<std::u16string_view, 3> lines;
+
+    constexpr std::array<Ages, 3> Periods() const {
+        return {{{0, firstEnds},
+                 {static_cast<int16>(firstEnds + 1), secondEnds},
+                 {static_cast<int16>(secondEnds + 1), Ages::open}}};
+    }
 };
 
 // Root 4 breaks the run: its second period lasts 36 years where all others last 27.
@@ -84,12 +92,30 @@ constexpr bool HasAgesWithoutLines(int16 root) {
 static_assert(HasAgesWithoutLines(11));
 static_assert(HasAgesWithoutLines(22));
 
+constexpr bool NamesTheComparedAges(const PeriodAges &row) {
+    for (std::size_t index = 0; index < row.lines.size(); ++index)
+        if (!row.lines[index].empty() && AgesNamedIn(row.lines[index]) != row.Periods()[index])
+            return false;
+    return true;
+}
+static_assert(std::ranges::all_of(ageTable, NamesTheComparedAges));
+
+const PeriodAges *AgesOf(int16 root) {
+    const auto row = std::ranges::find(ageTable, root, &PeriodAges::root);
+    return row == std::end(ageTable) ? nullptr : row;
+}
+
 void AssignLine(std::u16string &slot, std::u16string_view line, int16 number) {
     if (!line.empty())
         slot = std::u16string(line) + DecimalText(number);
 }
 
 } // namespace
+
+std::optional<std::array<Ages, 3>> AgesOfPeriods(int16 root) {
+    const PeriodAges *row = AgesOf(root);
+    return row == nullptr ? std::nullopt : std::optional(row->Periods());
+}
 
 void CalcLifePathPeriods() {
     store.PeriodNumber1 = MonthNumber(profile.BirthMonth);
@@ -106,16 +132,13 @@ void CalcLifePathPeriods() {
     store.PeriodRoot =
         ReduceNumber(Add(store.PeriodNumber2, store.PeriodNumber1, store.PeriodNumber3));
 
-    const auto row = std::ranges::find(ageTable, store.PeriodRoot, &PeriodAges::root);
-    if (row != std::end(ageTable)) {
+    if (const PeriodAges *row = AgesOf(store.PeriodRoot)) {
         // The index of the period, though its heading announces a number. A negative
         // age is in no period and leaves the index of the run before.
-        if (age >= 0 && age <= row->firstEnds)
-            store.LifePathPeriodsNumber = 1;
-        else if (age > row->firstEnds && age <= row->secondEnds)
-            store.LifePathPeriodsNumber = 2;
-        else if (age > row->secondEnds)
-            store.LifePathPeriodsNumber = 3;
+        const std::array<Ages, 3> periods = row->Periods();
+        for (std::size_t index = 0; index < periods.size(); ++index)
+            if (periods[index].Hold(age))
+                store.LifePathPeriodsNumber = static_cast<int16>(index + 1);
 
         AssignLine(store.PeriodLine1, row->lines[0], store.PeriodNumber1);
         AssignLine(store.PeriodLine2, row->lines[1], store.PeriodNumber2);

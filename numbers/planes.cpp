@@ -1,3 +1,5 @@
+#include "numbers/planes.h"
+
 #include "core/reading_store.h"
 #include "core/text.h"
 #include "core/user_profile.h"
@@ -10,10 +12,10 @@ namespace modReadings {
 
 namespace {
 
-constexpr std::u16string_view mentalLetters = u"HAJNPGL";
-constexpr std::u16string_view physicalLetters = u"WEDM";
-constexpr std::u16string_view emotionalLetters = u"ROIZBSTX";
-constexpr std::u16string_view intuitiveLetters = u"FKQUYCV";
+constexpr const Plane &mentalPlane = planes[0];
+constexpr const Plane &physicalPlane = planes[1];
+constexpr const Plane &emotionalPlane = planes[2];
+constexpr const Plane &intuitivePlane = planes[3];
 
 int16 Share(const std::u16string &name, std::u16string_view letters, int16 length) {
     const auto count = std::ranges::count_if(name, [letters](char16_t character) {
@@ -58,30 +60,30 @@ std::u16string Line(const std::u16string &label, int16 percent, const std::u16st
 // No slot is cleared first: a tie leaves the plane of the person before, and the
 // physical rating can be left likewise.
 void CalcPlanes() {
-    store.MentalLabel = u"Mental Ability ";
-    store.PhysicalLabel = u"Physical Ability ";
-    store.EmotionalLabel = u"Emotional Ability ";
-    store.IntuitiveLabel = u"Intuitive Ability ";
+    store.MentalLabel = mentalPlane.label;
+    store.PhysicalLabel = physicalPlane.label;
+    store.EmotionalLabel = emotionalPlane.label;
+    store.IntuitiveLabel = intuitivePlane.label;
 
     const std::u16string name = WholeName();
     const int16 length = Length(name);
-    store.MentalPercent = Share(name, mentalLetters, length);
-    store.PhysicalPercent = Share(name, physicalLetters, length);
-    store.EmotionalPercent = Share(name, emotionalLetters, length);
-    store.IntuitivePercent = Share(name, intuitiveLetters, length);
+    store.MentalPercent = Share(name, mentalPlane.letters, length);
+    store.PhysicalPercent = Share(name, physicalPlane.letters, length);
+    store.EmotionalPercent = Share(name, emotionalPlane.letters, length);
+    store.IntuitivePercent = Share(name, intuitivePlane.letters, length);
 
     const int16 mental = store.MentalPercent;
     const int16 physical = store.PhysicalPercent;
     const int16 emotional = store.EmotionalPercent;
     const int16 intuitive = store.IntuitivePercent;
     if (Dominates(mental, physical, emotional, intuitive))
-        store.PlanesNumber = u"Mental";
+        store.PlanesNumber = mentalPlane.name;
     else if (Dominates(physical, mental, emotional, intuitive))
-        store.PlanesNumber = u"Physical";
+        store.PlanesNumber = physicalPlane.name;
     else if (Dominates(emotional, mental, physical, intuitive))
-        store.PlanesNumber = u"Emotional";
+        store.PlanesNumber = emotionalPlane.name;
     else if (Dominates(intuitive, mental, physical, emotional))
-        store.PlanesNumber = u"Intuitive";
+        store.PlanesNumber = intuitivePlane.name;
 
     Rate(store.MentalRating, mental, 25, 32);
     RatePhysical();

@@ -22,6 +22,25 @@ PersonReading ReadAs(const Options &options, const modReadings::UserProfile &per
     return reading;
 }
 
+/// What one person gets alone.
+std::string BytesOf(const Options &options, const modReadings::UserProfile &person,
+                    const modReadings::GivenName &given) {
+    if (IsDocument(options.format))
+        return DocumentAs(options.format, person, given);
+    return ReadingAs(options.format, ReadAs(options, person));
+}
+
+QString EndingOf(Format format) {
+    switch (format) {
+    case Format::Rtf:
+        return u".rtf"_s;
+    case Format::Html:
+        return u".html"_s;
+    default:
+        return u".txt"_s;
+    }
+}
+
 /// All people in one output.
 class OneOutput : public BatchWriter {
 public:
@@ -73,7 +92,7 @@ private:
 class FilesInFolder : public BatchWriter {
 public:
     explicit FilesInFolder(const Options &options)
-        : options_(options), ending_(options.format == Format::Rtf ? u".rtf"_s : u".txt"_s) {}
+        : options_(options), ending_(EndingOf(options.format)) {}
 
     // Only now, so that a batch that is refused leaves no folder behind.
     void Begin() override {
@@ -90,7 +109,7 @@ public:
         if (options_.noClobber && (present.exists() || present.isSymLink()))
             return;
         Output file(path, options_.noClobber ? Output::Kind::NewInFolder : Output::Kind::InFolder);
-        file.Write(ReadingAs(options_.format, ReadAs(options_, person)));
+        file.Write(BytesOf(options_, person, line.given));
         file.Finish();
     }
 
@@ -121,7 +140,7 @@ std::string_view BetweenPeople(const Options &options) {
 
 std::string AnswerTo(const modReadings::UserProfile &person, const Options &options) {
     if (!options.numbers)
-        return ReadingAs(options.format, ReadAs(options, person));
+        return BytesOf(options, person, GivenNameOf(options.person));
     if (options.format == Format::Json)
         return NumbersAsJson(person, {});
     return HeaderRow(options.format) + NumbersAsRow(options.format, person, {});

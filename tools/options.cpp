@@ -161,6 +161,8 @@ std::optional<Format> FormatFrom(const QString &text) {
         return Format::Json;
     if (text == "rtf"_L1)
         return Format::Rtf;
+    if (text == "html"_L1)
+        return Format::Html;
     if (text == "csv"_L1)
         return Format::Csv;
     if (text == "tsv"_L1)
@@ -233,7 +235,7 @@ Options ParseOptions(const QStringList &arguments) {
         const auto format = FormatFrom(line.Value(OptionId::Format));
         if (!format)
             throw Refusal(
-                u"--format: \"%1\" is not allowed; give text, json or rtf, and "
+                u"--format: \"%1\" is not allowed; give text, json, rtf or html, and "
                 "with --numbers json, csv or tsv."_s.arg(Excerpt(line.Value(OptionId::Format))));
         options.format = *format;
     } else if (line.Given(Numbers) ||
@@ -246,11 +248,16 @@ Options ParseOptions(const QStringList &arguments) {
     if (isRow && !options.numbers)
         throw Refusal(
             u"--format: \"%1\" goes with --numbers only."_s.arg(line.Value(OptionId::Format)));
-    if (isPage && options.numbers)
+    const bool isDocument = IsDocument(options.format);
+    if ((isPage || isDocument) && options.numbers)
         throw Refusal(u"--format: \"%1\" does not go with --numbers; give json, csv or tsv."_s.arg(
             line.Value(OptionId::Format)));
-    if (options.task == Options::Task::Book && options.format == ::Format::Rtf)
-        throw Refusal(u"--format: \"rtf\" does not go with --book; give text or json."_s);
+    if (options.task == Options::Task::Book && (options.format == ::Format::Rtf || isDocument))
+        throw Refusal(u"--format: \"%1\" does not go with --book; give text or json."_s.arg(
+            line.Value(OptionId::Format)));
+    if (isDocument && line.Given(Topic))
+        throw Refusal(u"--topic does not go with the format %1, which has all topics; leave one of "
+                      "them out."_s.arg(line.Value(OptionId::Format)));
     for (const OptionId id : {Topic, OutputDir, Head, NoHead})
         if (options.numbers && line.Given(id))
             throw Refusal(
@@ -278,7 +285,11 @@ Options ParseOptions(const QStringList &arguments) {
     if (options.task == Options::Task::Batch) {
         const bool files = line.Given(OutputDir);
         if (files && options.format == ::Format::Json)
-            throw Refusal(u"--format: \"json\" does not go with --output-dir; give text or rtf."_s);
+            throw Refusal(
+                u"--format: \"json\" does not go with --output-dir; give text, rtf or html."_s);
+        if (!files && isDocument)
+            throw Refusal(u"--format: \"%1\" makes one file a person; give --output-dir."_s.arg(
+                line.Value(OptionId::Format)));
         for (const OptionId id : {NameTemplate, NoClobber})
             if (!files && line.Given(id))
                 throw Refusal(u"%1 goes with --output-dir only; see --help."_s.arg(Dashed(id)));

@@ -103,6 +103,11 @@ void RefuseEndlessEssence(const UserProfile &person, const InputNames &names) {
 
 } // namespace
 
+modReadings::GivenName GivenNameOf(const PersonInput &input) {
+    return {input.first.toStdU16String(), input.middle.toStdU16String(),
+            input.last.toStdU16String()};
+}
+
 InputNames::InputNames(const QString &prefix)
     : first(prefix + "first"_L1), middle(prefix + "middle"_L1), last(prefix + "last"_L1),
       month(prefix + "month"_L1), day(prefix + "day"_L1), year(prefix + "year"_L1),

@@ -3,6 +3,7 @@
 // The people that the report tool reads: what is allowed for each input.
 
 #include "core/user_profile.h"
+#include "report/document.h"
 
 #include <QString>
 
@@ -36,6 +37,9 @@ struct InputNames {
     QString year;
     QString date;
 };
+
+/// The names of `input`, as they were typed.
+modReadings::GivenName GivenNameOf(const PersonInput &input);
 
 /// Checks `input` against what the window's boxes and lists allow: names not empty, an
 /// English month name, its abbreviation or 1 to 12, a day from 1 to 31, a year from 1900 to
