@@ -37,6 +37,7 @@ constexpr QSize skySize(626, 440);
 constexpr QSize windowSize(466, 440);
 constexpr QRect pagePlace(14, 57, 438, 345);
 constexpr QRect footPlace(14, 404, 438, 35);
+constexpr int statusWidth = 340;
 
 struct FormatRow {
     Format format;
@@ -203,6 +204,7 @@ QWidget *DocumentWindow::BuildFoot() {
     auto *row = new QHBoxLayout(foot);
     row->setContentsMargins(0, 0, 0, 0);
     status = new QLabel(foot);
+    status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     busy = new BusyBar(foot);
     busy->setAccessibleName(tr("The PDF is being made"));
     busy->setFixedWidth(110);
@@ -263,7 +265,7 @@ void DocumentWindow::SetBusy(bool isBusy) {
 void DocumentWindow::ShowStatus(const QString &text) {
     status->setToolTip(text);
     status->setAccessibleName(text);
-    status->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, isBusyWidth()));
+    status->setText(fontMetrics().elidedText(text, Qt::ElideMiddle, statusWidth));
     QAccessibleEvent changed(status, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
 }
@@ -317,20 +319,12 @@ void DocumentWindow::Make() {
         reading.head = HeadOf(person, DayOfReading());
         return Write(ReadingAsRtf(reading));
     }
-    const modReadings::Document document = modReadings::MakeDocument(
-        person,
-        {input.first.toStdU16String(), input.middle.toStdU16String(), input.last.toStdU16String()},
-        DayOfReading());
-    switch (chosen.format) {
-    case Format::Markdown:
-        return Write(modReadings::ToMarkdown(document));
-    case Format::Html:
-        return Write(modReadings::ToHtml(document));
-    default:
-        ShowStatus(tr("Making the PDF"));
-        engine_.Start(modReadings::ToHtml(document));
-        SetBusy(IsBusy());
-    }
+    const std::string document = DocumentAs(chosen.format, person, GivenNameOf(input));
+    if (chosen.format != Format::Pdf)
+        return Write(document);
+    ShowStatus(tr("The PDF is being made"));
+    engine_.Start(document);
+    SetBusy(IsBusy());
 }
 
 void DocumentWindow::Cancel() {

@@ -83,7 +83,7 @@ std::string Paragraphs(std::u16string_view text) {
     return paragraphs;
 }
 
-std::string Glance(const NumberGroup &group) {
+std::string GlanceTable(const NumberGroup &group) {
     // The dashes share the width of the page out among the columns.
     std::string table = "**" + Text(group.title) +
                         "**\n\n"
@@ -95,7 +95,7 @@ std::string Glance(const NumberGroup &group) {
     return table + '\n';
 }
 
-std::string Topic(const DocumentTopic &topic) {
+std::string TopicSection(const DocumentTopic &topic) {
     std::string text = Heading(2, Text(topic.heading), topic.id);
     if (!topic.speaksOf.empty())
         text += "*For " + Text(topic.speaksOf) + "*\n\n";
@@ -120,7 +120,7 @@ std::string ToMarkdown(const Document &document) {
 
     markdown += Heading(1, "All numbers at a glance", "glance");
     for (const NumberGroup &group : document.glance)
-        markdown += Glance(group);
+        markdown += GlanceTable(group);
 
     markdown += Heading(1, "In force today", "today");
     for (const InForce &each : document.today)
@@ -135,7 +135,7 @@ std::string ToMarkdown(const Document &document) {
 
     markdown += Heading(1, "The readings", "readings");
     for (const DocumentTopic &topic : document.topics)
-        markdown += Topic(topic);
+        markdown += TopicSection(topic);
     return markdown;
 }
 

@@ -20,7 +20,7 @@ Words ChoicesOf(ValueKind kind) {
         return months;
     }
     case ValueKind::Format:
-        return {"text", "json", "rtf", "html", "csv", "tsv"};
+        return {"text", "json", "rtf", "html", "pdf", "markdown", "csv", "tsv"};
     case ValueKind::Shell:
         return {"bash", "zsh", "fish"};
     default:

@@ -42,7 +42,7 @@ constexpr std::array table{
     OptionRow{Jobs, ManyPeople, "jobs", 0, "N", ValueKind::Number, goesWith::batch, false,
               "Work in N processes, 1 to 256. The output is the same. Default: 1."},
     OptionRow{OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch,
-              false, "Write one file a person here, text, rtf or html, named after the line."},
+              false, "Write one file a person here, in any format but json, named after the line."},
     OptionRow{NameTemplate, ManyPeople, "name-template", 0, "TEMPLATE", ValueKind::Text,
               goesWith::batch, false,
               "The names of these files, made of {first}, {middle}, {last} and {line}; {line} "
@@ -61,10 +61,10 @@ constexpr std::array table{
     OptionRow{Book, WhatToRead, "book", 0, "", ValueKind::None, goesWith::book, false,
               "Print every reading and fixed text that the program holds."},
 
-    OptionRow{
-        OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
-        goesWith::everything, false,
-        "text (default), json (default of a batch), rtf or html; with --numbers json, csv or tsv."},
+    OptionRow{OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
+              goesWith::everything, false,
+              "text (default), json (default of a batch), rtf, html, pdf or markdown; with "
+              "--numbers json, csv or tsv."},
     OptionRow{Head, WhatToWrite, "head", 0, "", ValueKind::None, goesWith::reading, false,
               "Write name, date of birth and date of reading above the first topic, in text and "
               "rtf. A batch does so by itself."},
