@@ -1,6 +1,7 @@
 #include "core/letters.h"
 #include "core/reading_store.h"
 #include "core/text.h"
+#include "core/tracing.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -23,12 +24,16 @@ void CalcHiddenPassion() {
             best = character;
             bestCount = count;
         }
+        TraceLetter(character, 1, true, static_cast<int16>(count));
     }
+    Traced(u"most frequent", std::u16string_view(&best, bestCount == 0 ? 0 : 1));
 
     // A winner without a value, or no character at all, leaves the number of the run
     // before, which then selects its reading again.
     if (const int16 value = ChartValue(best); value != 0)
-        store.HiddenPassionNumber = value;
+        store.HiddenPassionNumber = Traced(u"Hidden Passion Number", value);
+    else
+        TraceLeft(u"Hidden Passion Number", store.HiddenPassionNumber);
     SelectReading(store.HiddenPassionText, store.HiddenPassionNumber, readings::hiddenPassion.rows);
     store.HiddenPassionAbout = readings::hiddenPassion.about;
 }
