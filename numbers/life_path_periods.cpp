@@ -4,6 +4,7 @@
 #include "core/digits.h"
 #include "core/months.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -118,19 +119,21 @@ std::optional<std::array<Ages, 3>> AgesOfPeriods(int16 root) {
 }
 
 void CalcLifePathPeriods() {
-    store.PeriodNumber1 = MonthNumber(profile.BirthMonth);
-    store.PeriodNumber2 = ReduceDigitString(profile.BirthDay);
-    store.PeriodNumber3 = ReduceDigitString(profile.BirthYear);
+    store.PeriodNumber1 = Traced(u"period 1, month", MonthNumber(profile.BirthMonth));
+    store.PeriodNumber2 = Traced(u"period 2, day", ReduceDigitString(profile.BirthDay));
+    store.PeriodNumber3 = Traced(u"period 3, year", ReduceDigitString(profile.BirthYear));
 
     store.PeriodStage1 = readings::periodStage1;
     store.PeriodStage2 = readings::periodStage2;
     store.PeriodStage3 = readings::periodStage3;
 
     // Whole calendar years: a person born in December is a year older on 1 January.
-    const int16 age = Subtract(Clock::Year(), NumberFromText(TrimBlanks(profile.BirthYear)));
+    const int16 birthYear = NumberFromText(TrimBlanks(profile.BirthYear));
+    const int16 age = Traced(u"age", Difference(Clock::Year(), birthYear));
 
     store.PeriodRoot =
-        ReduceNumber(Add(store.PeriodNumber2, store.PeriodNumber1, store.PeriodNumber3));
+        Traced(u"root",
+               ReduceNumber(Total(store.PeriodNumber2, store.PeriodNumber1, store.PeriodNumber3)));
 
     if (const PeriodAges *row = AgesOf(store.PeriodRoot)) {
         // The index of the period, though its heading announces a number. A negative
@@ -139,6 +142,13 @@ void CalcLifePathPeriods() {
         for (std::size_t index = 0; index < periods.size(); ++index)
             if (periods[index].Hold(age))
                 store.LifePathPeriodsNumber = static_cast<int16>(index + 1);
+
+        Traced(u"period 1 ends at age", row->firstEnds);
+        Traced(u"period 2 ends at age", row->secondEnds);
+        if (age >= 0)
+            Traced(u"period now running", store.LifePathPeriodsNumber);
+        else
+            TraceLeft(u"period now running", store.LifePathPeriodsNumber);
 
         AssignLine(store.PeriodLine1, row->lines[0], store.PeriodNumber1);
         AssignLine(store.PeriodLine2, row->lines[1], store.PeriodNumber2);

@@ -3,6 +3,7 @@
 #include "core/digits.h"
 #include "core/months.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -81,6 +82,8 @@ void AssignPinnacle(std::size_t position, int16 value, std::u16string &label,
                     std::u16string &text) {
     if (const PinnacleLines *row = LinesOf(value))
         label = std::u16string(row->lines[position].text) + DecimalText(value);
+    else
+        TraceLeft(u"its line", label);
     SelectReading(text, value, readings::pinnacle.rows);
 }
 
@@ -94,14 +97,15 @@ std::optional<Ages> AgesOfPinnacle(std::size_t position, int16 value) {
 // Day and year enter as they stand and only the month in reduced form, on purpose: so a
 // master number can come out of a whole sum.
 void CalcPinnacles() {
-    const int16 day = NumberFromText(TrimBlanks(profile.BirthDay));
-    const int16 month = MonthNumber(TrimBlanks(profile.BirthMonth));
-    const int16 year = NumberFromText(TrimBlanks(profile.BirthYear));
+    const int16 day = Traced(u"day of birth", NumberFromText(TrimBlanks(profile.BirthDay)));
+    const int16 month = Traced(u"month of birth", MonthNumber(TrimBlanks(profile.BirthMonth)));
+    const int16 year = Traced(u"year of birth", NumberFromText(TrimBlanks(profile.BirthYear)));
 
-    store.PinnacleNumber1 = Reduced(Add(month, day));
-    store.PinnacleNumber2 = Reduced(Add(day, year));
-    store.PinnacleNumber3 = Reduced(Add(store.PinnacleNumber1, store.PinnacleNumber2));
-    store.PinnacleNumber4 = Reduced(Add(month, year));
+    store.PinnacleNumber1 = Traced(u"first pinnacle", Reduced(Total(month, day)));
+    store.PinnacleNumber2 = Traced(u"second pinnacle", Reduced(Total(day, year)));
+    store.PinnacleNumber3 =
+        Traced(u"third pinnacle", Reduced(Total(store.PinnacleNumber1, store.PinnacleNumber2)));
+    store.PinnacleNumber4 = Traced(u"fourth pinnacle", Reduced(Total(month, year)));
 
     AssignPinnacle(0, store.PinnacleNumber1, store.PinnacleLabel1, store.PinnacleText1);
     AssignPinnacle(1, store.PinnacleNumber2, store.PinnacleLabel2, store.PinnacleText2);

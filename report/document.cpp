@@ -313,6 +313,57 @@ std::u16string Shown(char16_t character) {
     return character == u' ' ? u"blank" : u"character without a value";
 }
 
+/// The letters of one kind, each with its value, and how many others there are.
+std::u16string LettersInWords(const NameSheet &sheet, NamePart part) {
+    std::u16string text;
+    for (const NameLetter &letter : sheet.letters)
+        if (letter.part == part && letter.kind != LetterKind::NotCounted)
+            text += Joined(text.empty() ? u"" : u", ", std::u16string(1, letter.character), u" ",
+                           DecimalText(letter.value));
+    return text.empty() ? u"none that counts" : text;
+}
+
+std::u16string SumInWords(std::u16string_view letters, std::u16string_view number,
+                          const NameSum &sum) {
+    return Joined(letters, u" add up to ", InWords(sum), u": ", number, u" ",
+                  DecimalText(sum.number), u". ");
+}
+
+NamePicture PictureOfName() {
+    NamePicture picture;
+    picture.sheet = ReadNameSheet();
+    const NameSheet &sheet = picture.sheet;
+    const auto has = [&](LetterKind kind) {
+        return std::ranges::find(sheet.letters, kind, &NameLetter::kind) != sheet.letters.end();
+    };
+
+    std::u16string &words = picture.text.words;
+    words = Joined(u"First name: ", LettersInWords(sheet, NamePart::First), u". ");
+    if (!profile.MiddleName.empty())
+        words += Joined(u"Middle name: ", LettersInWords(sheet, NamePart::Middle), u". ");
+    words += Joined(u"Last name: ", LettersInWords(sheet, NamePart::Last), u". ");
+    const auto uncounted =
+        std::ranges::count(sheet.letters, LetterKind::NotCounted, &NameLetter::kind);
+    if (uncounted != 0)
+        words += Joined(Number(uncounted), uncounted == 1 ? u" character has no value. "
+                                                          : u" characters have no value. ");
+    words += SumInWords(u"All letters", u"Destiny", sheet.destiny);
+    words += SumInWords(has(LetterKind::YAsVowel) ? u"The letters Y, for want of a vowel,"
+                                                  : u"The vowels",
+                        u"Soul Urge", sheet.soulUrge);
+    words += SumInWords(u"The consonants", u"Inner Dreams", sheet.innerDreams);
+
+    picture.text.id = "name-picture";
+    picture.text.title = u"The name in letters and numbers";
+    picture.text.legend =
+        u"Above a vowel and below a consonant stands its value; what is pale has no value. "
+        u"All letters make the Destiny, the vowels the Soul Urge, the consonants the Inner "
+        u"Dreams.";
+    if (has(LetterKind::YAsVowel))
+        picture.text.legend += u" A name without a vowel counts each Y on both sides.";
+    return picture;
+}
+
 ValuesPicture PictureOfValues() {
     ValuesPicture picture;
     const std::u16string name = WholeName();
@@ -551,6 +602,20 @@ std::u16string LongDate(std::chrono::year_month_day date) {
                     static_cast<int>(date.year()));
 }
 
+std::u16string InWords(const NameSum &sum) {
+    std::u16string text = DecimalText(sum.raw);
+    for (const Trace::Step &step : sum.steps) {
+        if (step.kind == Trace::StepKind::MasterStays) {
+            text += u", which stays";
+            continue;
+        }
+        for (std::size_t index = 0; index < step.terms.size(); ++index)
+            text += Joined(index == 0 ? u", " : u" + ", DecimalText(step.terms[index]));
+        text += Joined(u" = ", DecimalText(step.result));
+    }
+    return text;
+}
+
 Document MakeDocument(const UserProfile &person, const GivenName &given,
                       std::chrono::year_month_day day) {
     const OnAnEmptyStore guard(person);
@@ -562,11 +627,13 @@ Document MakeDocument(const UserProfile &person, const GivenName &given,
     document.born = LongDate(person.BirthMonth, NumberFromText(person.BirthDay),
                              NumberFromText(person.BirthYear));
     document.readFor = LongDate(day);
+    document.day = day;
     document.age = Subtract(Clock::Year(), NumberFromText(person.BirthYear));
     document.topics.reserve(passOrder.size());
     for (const Calculator calculate : passOrder)
         document.topics.push_back(TopicFor(calculate, day, document.age));
     document.glance = Glance(document);
+    document.letters = PictureOfName();
     document.values = PictureOfValues();
     document.life = PictureOfLife(document);
     document.planes = PictureOfPlanes();

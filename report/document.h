@@ -8,6 +8,7 @@
 #include "core/user_profile.h"
 #include "numbers/ages.h"
 #include "numbers/hidden_passion.h"
+#include "numbers/name_sheet.h"
 #include "report/topics.h"
 
 #include <array>
@@ -76,6 +77,12 @@ struct PictureText {
     std::u16string words;  ///< the same as the picture, in words
 };
 
+/// The letters of the name with their values, and the sums that they make.
+struct NamePicture {
+    PictureText text;
+    NameSheet sheet;
+};
+
 /// How often each of the values 1 to 9 occurs in the name.
 struct ValuesPicture {
     PictureText text;
@@ -132,14 +139,16 @@ struct PlanesPicture {
 };
 
 struct Document {
-    std::u16string name;    ///< as it was given, its parts with a blank between
-    std::u16string born;    ///< "March 29, 1985"
-    std::u16string readFor; ///< "November 21, 2026"
+    std::u16string name;             ///< as it was given, its parts with a blank between
+    std::u16string born;             ///< "March 29, 1985"
+    std::u16string readFor;          ///< "November 21, 2026"
+    std::chrono::year_month_day day; ///< the same as a date
 
     std::vector<NumberGroup> glance;
     int16 age = 0; ///< as the calculators count it
     std::vector<InForce> today;
 
+    NamePicture letters;
     ValuesPicture values;
     LifePicture life;
     TimePicture time;
@@ -151,6 +160,9 @@ struct Document {
 /// A date written out: "November 21, 2026".
 std::u16string LongDate(std::u16string_view month, int day, int year);
 std::u16string LongDate(std::chrono::year_month_day date);
+
+/// How a sum becomes its number: "65, 6 + 5 = 11". The sum alone where it is the number.
+std::u16string InWords(const NameSum &sum);
 
 /// The document of `person`, who gave the name `given`, for `day`. It is made on an empty store;
 /// profile and store are afterwards as they were before. EndlessName (numbers/essence.h) must
