@@ -62,7 +62,7 @@ QLabel *Label(const QString &text, QWidget *buddy, QWidget *parent) {
 /// The layout of what is inside a group.
 QGridLayout *Rows(Group *group) {
     auto *rows = new QGridLayout(group);
-    rows->setContentsMargins(14, 20, 14, 12);
+    rows->setContentsMargins(14, 4, 14, 10); // the title has its own room above them
     rows->setHorizontalSpacing(8);
     rows->setVerticalSpacing(8);
     rows->setColumnMinimumWidth(0, 96);
@@ -117,12 +117,15 @@ DocumentWindow::DocumentWindow() {
     groups->addWidget(BuildName());
     groups->addWidget(BuildDates());
     groups->addWidget(BuildDocument());
-    BuildFoot()->setGeometry(footPlace);
+    QWidget *foot = BuildFoot();
+    foot->setGeometry(footPlace);
 
-    // A control that a style sheet touches no longer inherits its font.
-    setStyleSheet(u"* { font-family: \"Verdana\", \"DejaVu Sans\"; font-size: 11px; }"
-                  "DocumentWindow QLabel { color: white; background: transparent; }"_s +
-                  ControlStyle());
+    // On the parts and not on the window, as dialogs keep the desktop's own colours. A control
+    // that a style sheet touches no longer inherits its font.
+    for (QWidget *part : {static_cast<QWidget *>(page), foot})
+        part->setStyleSheet(u"* { font-family: \"Verdana\", \"DejaVu Sans\"; font-size: 11px; }"
+                            "QLabel { color: white; background: transparent; }"_s +
+                            ControlStyle());
 
     connect(make, &CommandButton::clicked, this, &DocumentWindow::Make);
     connect(cancel, &CommandButton::clicked, this, &DocumentWindow::Cancel);
@@ -146,6 +149,7 @@ QWidget *DocumentWindow::BuildName() {
     rows->addWidget(middleName, 1, 1);
     rows->addWidget(Label(tr("* &Last name"), lastName, group), 2, 0);
     rows->addWidget(lastName, 2, 1);
+    rows->setColumnStretch(1, 1);
     return group;
 }
 
@@ -196,6 +200,7 @@ QWidget *DocumentWindow::BuildDocument() {
     rows->addWidget(Label(tr("Forma&t"), format, group), 0, 0);
     rows->addWidget(format, 0, 1);
     rows->addWidget(opens, 1, 1);
+    rows->setColumnStretch(1, 1);
     return group;
 }
 

@@ -130,7 +130,8 @@ std::string ToMarkdown(const Document &document) {
 
     markdown += Heading(1, "The pictures in words", "pictures");
     for (const PictureText *picture :
-         {&document.values.text, &document.life.text, &document.time.text, &document.planes.text})
+         {&document.letters.text, &document.values.text, &document.life.text, &document.time.text,
+          &document.planes.text})
         markdown += Heading(2, Text(picture->title), picture->id) + Paragraphs(picture->words);
 
     markdown += Heading(1, "The readings", "readings");
