@@ -132,7 +132,7 @@ DocumentWindow::DocumentWindow() {
     connect(&engine_, &PdfEngine::answered, this, &DocumentWindow::TakePdf);
     for (DateList *list : {month, year})
         connect(list, &DateList::currentIndexChanged, this, &DocumentWindow::FitDaysToMonth);
-    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
     SetBusy(false);
     firstName->setFocus();
 }

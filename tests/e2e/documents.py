@@ -78,6 +78,20 @@ def flat_document_lines(path):
     return lines
 
 
+def outline_and_lines(path):
+    """The headings of a flat OpenDocument text as (level, text), and all its lines, with plain
+    quotation marks."""
+    def text_of(node):
+        text = "".join(node.itertext()).translate(str.maketrans("\u2018\u2019\u201c\u201d", "''\"\""))
+        return re.sub(r"\s+", " ", text).strip()
+
+    root = xml.etree.ElementTree.parse(path).getroot().find(f"{_OFFICE}body/{_OFFICE}text")
+    outline = [(int(node.get(_TEXT + "outline-level")), text_of(node))
+               for node in root.iter(_TEXT + "h")]
+    lines = [text_of(node) for node in root.iter() if node.tag in (_TEXT + "p", _TEXT + "h")]
+    return outline, [line for line in lines if line]
+
+
 def unrtf_lines(path):
     """The lines that unrtf makes of a rich-text file."""
     text = _output("unrtf", "--text", path)

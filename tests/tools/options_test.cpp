@@ -259,7 +259,7 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
         std::vector<std::string> wrong;
     };
     for (const auto &[option, allowed, wrong] : std::vector<Values>{
-             {"--format", "text, json, rtf or html", {"", "docx", "JSON", "te\nxt"}},
+             {"--format", "text, json, rtf, html, pdf or markdown", {"", "docx", "JSON", "te\nxt"}},
              {"--topic",
               "--list-topics",
               {"", "Lucky Number", "Essence ", "Ess\nence", "Destiny / Expression Number",
