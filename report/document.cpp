@@ -380,10 +380,10 @@ ValuesPicture PictureOfValues() {
         if (picture.letters[value].empty())
             missing.push_back(number);
         else
-            present.push_back(number + u' ' + Times(picture.letters[value].size()));
+            present.push_back(number + u": " + Times(picture.letters[value].size()));
     }
     if (!present.empty())
-        words = Joined(u"The name has the value ", Enumerated(present), u". ");
+        words = Joined(u"The values of the name are ", Enumerated(present), u". ");
     words += missing.empty()       ? u"No value is missing."
              : missing.size() == 1 ? Joined(u"The value ", missing[0], u" is missing.")
                                    : Joined(u"The values ", Enumerated(missing), u" are missing.");

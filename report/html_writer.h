@@ -24,6 +24,7 @@ public:
         return *this;
     }
 
+    HtmlWriter &operator<<(const char *markup) { return *this << std::string_view(markup); }
     HtmlWriter &operator<<(int number);
 
     /// Text, good between tags and between double quotation marks: what has a meaning in HTML
