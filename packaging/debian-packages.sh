@@ -36,7 +36,7 @@ install_missing() {
     as_root=""
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null 2>&1; then
-            echo "These Debian packages are missing, and neither root nor sudo is there to install them:$missing" >&2
+            echo "These Debian packages are missing, and installing them needs root or sudo:$missing" >&2
             return 1
         fi
         as_root="sudo"

@@ -23,7 +23,7 @@ struct Options {
     Format format = Format::Text;
     std::optional<std::chrono::year_month_day> today;
     std::vector<std::u16string_view> topics; ///< captions, never empty
-    bool numbers = false;                    ///< the numbers alone, a row a person
+    bool numbers = false;                    ///< the numbers alone, a row per person
     bool head = false;                       ///< whether text and RTF say who is read
     QStringList batchFiles;                  ///< "-" for standard input
     std::optional<char> delimiter;           ///< of CSV; none: found out

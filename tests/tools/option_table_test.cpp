@@ -92,7 +92,8 @@ TEST(Completion, OffersTheFormatsAndShellsThereAre) {
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--format", format}));
     for (const char *format : {"csv", "tsv"})
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--numbers", "--format", format}));
-    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf html pdf markdown csv tsv'"), std::string::npos)
+    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf html pdf markdown csv tsv'"),
+              std::string::npos)
         << script;
     for (const char *shell : {"bash", "zsh", "fish"})
         EXPECT_TRUE(ShellFrom(shell)) << shell;
