@@ -24,6 +24,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMessageBox>
 #include <QShortcut>
 #include <QUrl>
@@ -132,7 +133,8 @@ DocumentWindow::DocumentWindow() {
     connect(&engine_, &PdfEngine::answered, this, &DocumentWindow::TakePdf);
     for (DateList *list : {month, year})
         connect(list, &DateList::currentIndexChanged, this, &DocumentWindow::FitDaysToMonth);
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
+            &QWidget::close);
     SetBusy(false);
     firstName->setFocus();
 }
@@ -328,7 +330,9 @@ void DocumentWindow::Make() {
     if (chosen.format != Format::Pdf)
         return Write(document);
     ShowStatus(tr("The PDF is being made"));
-    engine_.Start(document);
+    // Where inches are the measure, so is the paper of inches.
+    const bool inches = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    engine_.Start(document, inches ? Paper::Letter : Paper::A4);
     SetBusy(IsBusy());
 }
 

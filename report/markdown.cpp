@@ -90,7 +90,8 @@ std::string GlanceTable(const NumberGroup &group) {
                         "| Topic | Number | |\n"
                         "|:-------------------------|:-------------|:--------------------|\n";
     for (const NumberRow &row : group.rows)
-        table += "| " + Link(Text(row.caption), row.id) + " | " + Text(row.number) + " | " +
+        table += "| " + Link(Text(row.caption), row.id) + " | " +
+                 (row.number.empty() ? std::string("\u2013") : Text(row.number)) + " | " +
                  Text(row.remark) + " |\n";
     return table + '\n';
 }
@@ -98,7 +99,7 @@ std::string GlanceTable(const NumberGroup &group) {
 std::string TopicSection(const DocumentTopic &topic) {
     std::string text = Heading(2, Text(topic.heading), topic.id);
     if (!topic.speaksOf.empty())
-        text += "*For " + Text(topic.speaksOf) + "*\n\n";
+        text += "*It speaks of " + Text(topic.speaksOf) + ", which is in force today.*\n\n";
     for (const DocumentPart &part : topic.parts) {
         if (!part.label.empty())
             text +=

@@ -14,24 +14,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the process runs. It reads documents from its standard input, the length in bytes on
-/// a line before each, and answers each likewise, with "pdf" or "trouble" before the length.
-/// It ends where its input does.
+/// What the process runs. It reads documents from its standard input, the length in bytes and
+/// the size of the pages on a line before each, and answers each with its length likewise, and
+/// "pdf" or "trouble" before it. It ends where its input does.
 constexpr auto script = R"(
 import sys
 sys.path[:] = filter(None, sys.path)  # no module of the current folder
 source, target = sys.stdin.buffer, sys.stdout.buffer
 sys.stdout = sys.stderr  # only answers go there
 
-from weasyprint import HTML
+from weasyprint import CSS, HTML
 
 def load_nothing(url, *_, **__):
     raise ValueError("nothing is loaded: " + url)
 
 while line := source.readline():
-    html = source.read(int(line)).decode()
+    length, paper = line.decode().split()
+    html = source.read(int(length)).decode()
     try:
-        kind, answer = b"pdf", HTML(string=html, url_fetcher=load_nothing).write_pdf()
+        pages = CSS(string="@page { size: %s }" % paper)
+        document = HTML(string=html, url_fetcher=load_nothing)
+        kind, answer = b"pdf", document.write_pdf(stylesheets=[pages])
     except Exception as error:
         kind, answer = b"trouble", f"{type(error).__name__}: {error}".encode()
     target.write(b"%s %d\n" % (kind, len(answer)))
@@ -97,14 +100,15 @@ void PdfEngine::Launch() {
     process_.start(program, command << u"-c"_s << script);
 }
 
-void PdfEngine::Start(const std::string &html) {
+void PdfEngine::Start(const std::string &html, Paper paper) {
     atWork_ = true;
     received_.clear();
     if (process_.state() == QProcess::NotRunning)
         Launch();
     if (!atWork_)
         return;
-    process_.write(QByteArray::number(static_cast<qulonglong>(html.size())) + '\n');
+    process_.write(QByteArray::number(static_cast<qulonglong>(html.size())) +
+                   (paper == Paper::A4 ? " A4\n" : " letter\n"));
     process_.write(html.data(), static_cast<qint64>(html.size()));
 }
 
@@ -116,10 +120,10 @@ void PdfEngine::Cancel() {
     process_.waitForFinished();
 }
 
-PdfAnswer PdfEngine::Make(const std::string &html) {
+PdfAnswer PdfEngine::Make(const std::string &html, Paper paper) {
     PdfAnswer answer;
     waiting_ = &answer;
-    Start(html);
+    Start(html, paper);
     while (atWork_ && process_.waitForReadyRead(-1)) {
     }
     if (atWork_) // it has ended, and said so before it was waited for

@@ -16,6 +16,9 @@ struct PdfAnswer {
     QString trouble; ///< empty: there is a PDF
 };
 
+/// The size of the pages.
+enum class Paper { A4, Letter };
+
 class PdfEngine : public QObject {
     Q_OBJECT
 
@@ -32,7 +35,7 @@ public:
     /// Begins to make a PDF of `html`, a document in UTF-8 from which nothing else is loaded:
     /// no file, no page of the web. The same text gives the same bytes. answered() follows;
     /// only one document is in work at a time.
-    void Start(const std::string &html);
+    void Start(const std::string &html, Paper paper);
 
     /// Ends the work that Start has begun: the process is gone, and answered() does not come.
     void Cancel();
@@ -40,7 +43,7 @@ public:
     bool IsAtWork() const { return atWork_; }
 
     /// The same as Start, but waits for the answer and returns it.
-    PdfAnswer Make(const std::string &html);
+    PdfAnswer Make(const std::string &html, Paper paper);
 
 signals:
     void answered(const PdfAnswer &answer);

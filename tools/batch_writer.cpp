@@ -31,7 +31,7 @@ std::string BytesOf(const Options &options, const modReadings::UserProfile &pers
     std::string document = DocumentAs(options.format, person, given);
     if (options.format != Format::Pdf)
         return document;
-    const PdfAnswer answer = engine->Make(document);
+    const PdfAnswer answer = engine->Make(document, options.paper);
     if (!answer.trouble.isEmpty())
         throw Refusal(answer.trouble, ExitCode::CannotReadOrWrite);
     return answer.pdf.toStdString();

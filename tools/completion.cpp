@@ -23,6 +23,8 @@ Words ChoicesOf(ValueKind kind) {
         return {"text", "json", "rtf", "html", "pdf", "markdown", "csv", "tsv"};
     case ValueKind::Shell:
         return {"bash", "zsh", "fish"};
+    case ValueKind::Paper:
+        return {"a4", "letter"};
     default:
         return {};
     }

@@ -72,6 +72,8 @@ constexpr std::array table{
               "and rtf. A batch has this by default."},
     OptionRow{NoHead, WhatToWrite, "no-head", 0, "", ValueKind::None, goesWith::reading, false,
               "Leave these lines out in a batch."},
+    OptionRow{OptionId::Paper, WhatToWrite, "paper", 0, "SIZE", ValueKind::Paper, goesWith::reading,
+              false, "The pages of a PDF: a4 (default) or letter."},
     OptionRow{Output, WhatToWrite, "output", 'o', "FILE", ValueKind::File, goesWith::everything,
               false,
               "Write to this file instead of standard output. It appears complete or not at all. "

@@ -270,6 +270,15 @@ Options ParseOptions(const QStringList &arguments) {
     for (const OptionId id : {Head, NoHead})
         if (line.Given(id) && !isPage)
             throw Refusal(u"%1 goes with the formats text and rtf only."_s.arg(Dashed(id)));
+    if (line.Given(OptionId::Paper)) {
+        const QString paper = line.Value(OptionId::Paper);
+        if (options.format != ::Format::Pdf)
+            throw Refusal(u"--paper goes with the format pdf only."_s);
+        if (paper != "a4"_L1 && paper != "letter"_L1)
+            throw Refusal(
+                u"--paper: \"%1\" is not allowed; give a4 or letter."_s.arg(Excerpt(paper)));
+        options.paper = paper == "a4"_L1 ? ::Paper::A4 : ::Paper::Letter;
+    }
     if (line.Given(Head) && line.Given(NoHead))
         throw Refusal(u"--head does not go with --no-head; leave one of them out."_s);
     options.head =

@@ -97,7 +97,7 @@ TEST(Markdown, HasTheReadingsWithTheirHeadings) {
     topic.parts[2].sameAs = "p-1";
     topic.parts[2].sameAsLabel = u"Pinnacle 1";
     EXPECT_EQ(Readings(document), "## Your Personal Month is: 8 {#personal-month}\n\n"
-                                  "*For November 2026*\n\n"
+                                  "*It speaks of November 2026, which is in force today.*\n\n"
                                   "It isn't \\*new\\*.\n\n1\\. one (two)\n\n\\- a dash\n\n"
                                   "### Pinnacle 1 (in force today) {#p-1}\n\nText.\n\n"
                                   "### Pinnacle 2 {#p-2}\n\n"
