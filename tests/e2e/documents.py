@@ -39,6 +39,22 @@ def difference(one, other):
     return ""
 
 
+def missing_word(expected, found):
+    """Where `expected` leaves `found`, which may have more between its words; empty when all are
+    there in their order."""
+    found = iter(found)
+    for index, word in enumerate(expected):
+        if word not in found:
+            return f"{word!r} behind {' '.join(expected[max(0, index - 8):index])!r}"
+    return ""
+
+
+def words_once(text):
+    """The words of a report as a document has them: a reading that comes back stands once."""
+    lines = dict.fromkeys(line for line in text.splitlines() if line)
+    return [word for line in lines for word in words(line)]
+
+
 def flat_document_lines(path):
     """The paragraphs of a flat OpenDocument text, each a list of (text, bold, colour)."""
     root = xml.etree.ElementTree.parse(path).getroot()

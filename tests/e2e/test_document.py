@@ -7,7 +7,7 @@ import shutil
 
 import desktop
 from desktop import Desktop, DesktopTest
-from documents import words
+from documents import missing_word, words, words_once
 from readings import MARIA, tool
 from waiting import wait_for
 
@@ -24,16 +24,6 @@ def pdf_words(screen, path, head):
     for number, page in enumerate(pages, 1):
         lines += [line for line in page.splitlines() if line not in (*head, str(number))]
     return words(re.sub("\u2010\\s+", "", "\n".join(lines)))
-
-
-def missing_word(expected, found):
-    """Where `expected` leaves `found`, which may have more between its words; empty when all are
-    there in their order."""
-    found = iter(found)
-    for index, word in enumerate(expected):
-        if word not in found:
-            return f"{word!r} behind {' '.join(expected[max(0, index - 8):index])!r}"
-    return ""
 
 
 class Document(DesktopTest):
@@ -144,13 +134,8 @@ class Document(DesktopTest):
             for part in (b"/Lang (en", b"/Outlines", b"/Subtype /Link"):
                 self.assertIn(part, content)
 
-            # Every text of the report, in its order: the readings that come back stand once.
-            expected, seen = [], set()
-            text = tool(*MARIA.options(), "--today", DAY).decode()
-            for line in text.splitlines():
-                if line and line not in seen:
-                    expected += words(line)
-                    seen.add(line)
+            # Every text of the report, in its order.
+            expected = words_once(tool(*MARIA.options(), "--today", DAY).decode())
             self.assertGreater(len(expected), 5000)
             found = pdf_words(screen, pdf, ("maria elena fernandez", "November 16, 2026"))
             self.assertEqual(missing_word(expected, found), "")
