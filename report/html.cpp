@@ -3,7 +3,6 @@
 #include "document_style.h"
 #include "report/html_pictures.h"
 #include "report/html_writer.h"
-#include "report/report.h"
 
 namespace modReadings {
 
@@ -57,11 +56,11 @@ std::string_view ClassFor(std::u16string_view name) {
 
 /// The paragraphs of `text`, which has line breaks between them.
 void WriteParagraphs(HtmlWriter &html, std::u16string_view text) {
-    while (!text.empty()) {
-        const std::size_t end = text.find(lineBreak);
-        html << "<p>" << text.substr(0, end) << "</p>\n";
-        text.remove_prefix(end == text.npos ? text.size() : end + lineBreak.size());
-    }
+    if (text.empty())
+        return;
+    html << "<p>";
+    html.Lines(text, "</p>\n<p>");
+    html << "</p>\n";
 }
 
 void WriteLink(HtmlWriter &html, std::string_view id, std::u16string_view text) {
@@ -84,7 +83,8 @@ void WriteContents(HtmlWriter &html, const Document &document) {
          {&document.letters.text, &document.values.text, &document.life.text, &document.time.text,
           &document.planes.text})
         WriteEntry(html, text->id, text->title);
-    html << "</ol></li>\n<li><a href=\"#readings\">Readings</a>\n<ol>\n";
+    html << "</ol></li>\n<li><a href=\"#readings\">Readings</a>\n"
+            "<ol id=\"contents-of-readings\">\n";
     for (const DocumentTopic &topic : document.topics)
         WriteEntry(html, topic.id, topic.caption);
     html << "</ol></li>\n</ol>\n</nav>\n";
