@@ -321,11 +321,11 @@ std::u16string Times(std::size_t count) {
     return count == 2 ? u"twice" : Number(static_cast<long long>(count)) + u" times";
 }
 
-/// A character of a name as a text can show it.
+/// A character of a name as the beginning of a sentence.
 std::u16string Shown(char16_t character) {
     if (ChartValue(character) != 0)
-        return Joined(u"letter ", std::u16string(1, character));
-    return character == u' ' ? u"blank" : u"character without a value";
+        return Joined(u"The letter ", std::u16string(1, character));
+    return character == u' ' ? u"A blank" : u"A character without a value";
 }
 
 /// The letters of a name that count, each with its value.
@@ -407,7 +407,7 @@ ValuesPicture PictureOfValues() {
     words += missing.empty()       ? u"No value is missing."
              : missing.size() == 1 ? Joined(u"The value ", missing[0], u" is missing.")
                                    : Joined(u"The values ", Enumerated(missing), u" are missing.");
-    words += Joined(u" The ", Shown(picture.leader.character), u" comes most often, ",
+    words += Joined(u" ", Shown(picture.leader.character), u" comes most often, ",
                     Times(static_cast<std::size_t>(picture.leader.count)));
     words += picture.leaderValue != 0
                  ? Joined(u", and its value is the Hidden Passion Number, ",

@@ -200,7 +200,7 @@ TEST(Document, DrawsTheValuesAndTheLetterThatLeads) {
         u"times. The values 3, 7 and 8 are missing. The letter R comes most often, twice, and "
         u"its value is the Hidden Passion Number, 9.");
     EXPECT_TRUE(For(Person(u"A--", u"B", u"7", u"March", u"1990"))
-                    .values.text.words.ends_with(u"The character without a value comes most often, "
+                    .values.text.words.ends_with(u"A character without a value comes most often, "
                                                  u"twice; it has no value, and so there is no "
                                                  u"Hidden Passion Number."));
 }
