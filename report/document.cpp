@@ -14,6 +14,8 @@
 #include "report/rendering.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 #include <span>
 #include <utility>
 
@@ -45,6 +47,12 @@ private:
 std::u16string Number(long long number) {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};
+}
+
+void AppendNumber(std::u16string &text, int number) {
+    char digits[12];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    text.append(digits, end);
 }
 
 /// One text of pieces.
@@ -95,12 +103,12 @@ void AppendSections(std::vector<DocumentPart> &parts, std::u16string_view text, 
     part.explains = explains;
     const auto finish = [&] {
         if (!part.label.empty() || !part.text.empty())
-            parts.push_back(part);
-        part.label.clear();
-        part.text.clear();
+            parts.push_back(std::move(part));
+        part = {};
+        part.explains = explains;
     };
     while (!text.empty()) {
-        const std::size_t end = text.find(lineBreak);
+        const std::size_t end = text.find(lineBreak.front());
         const std::u16string_view line = text.substr(0, end);
         text.remove_prefix(end == text.npos ? text.size() : end + lineBreak.size());
         if (IsTitle(line)) {
@@ -188,7 +196,8 @@ DocumentTopic TopicFor(Calculator calculate, std::chrono::year_month_day day, in
     DocumentTopic made;
     made.caption = topic.caption;
     made.id = PlaceOf(topic);
-    made.heading = TrimBlanks(report.front().text.substr(0, report.front().text.find(lineBreak)));
+    const std::u16string_view heading = report.front().text;
+    made.heading = TrimBlanks(heading.substr(0, heading.find(lineBreak)));
     Attempt([&] { made.number = TrimBlanks(HeadingNumberText(topic)); });
     made.speaksOf = SpeaksOf(topic, day, age);
     made.parts = PartsOf(topic, report);
@@ -289,14 +298,20 @@ std::u16string InWords(const Ages &ages) {
     return Joined(u"from age ", Number(ages.from), u" to ", Number(ages.to));
 }
 
-/// "4", "4 and 6", "4, 6 and 8".
+/// Appends `count` items as "4", "4 and 6" or "4, 6 and 8"; `append` appends the item at an
+/// index.
+template <typename Append>
+void Enumerate(std::u16string &text, std::size_t count, const Append &append) {
+    for (std::size_t index = 0; index < count; ++index) {
+        if (index > 0)
+            text += index + 1 == count ? u" and " : u", ";
+        append(index);
+    }
+}
+
 std::u16string Enumerated(std::span<const std::u16string> items) {
     std::u16string text;
-    for (std::size_t index = 0; index < items.size(); ++index) {
-        if (index > 0)
-            text += index + 1 == items.size() ? u" and " : u", ";
-        text += items[index];
-    }
+    Enumerate(text, items.size(), [&](std::size_t index) { text += items[index]; });
     return text;
 }
 
@@ -306,20 +321,25 @@ std::u16string Times(std::size_t count) {
     return count == 2 ? u"twice" : Number(static_cast<long long>(count)) + u" times";
 }
 
-/// A character of a name as a text can show it.
+/// A character of a name as the beginning of a sentence.
 std::u16string Shown(char16_t character) {
     if (ChartValue(character) != 0)
-        return Joined(u"letter ", std::u16string(1, character));
-    return character == u' ' ? u"blank" : u"character without a value";
+        return Joined(u"The letter ", std::u16string(1, character));
+    return character == u' ' ? u"A blank" : u"A character without a value";
 }
 
-/// The letters of one kind, each with its value, and how many others there are.
+/// The letters of a name that count, each with its value.
 std::u16string LettersInWords(const NameSheet &sheet, NamePart part) {
     std::u16string text;
-    for (const NameLetter &letter : sheet.letters)
-        if (letter.part == part && letter.kind != LetterKind::NotCounted)
-            text += Joined(text.empty() ? u"" : u", ", std::u16string(1, letter.character), u" ",
-                           DecimalText(letter.value));
+    for (const NameLetter &letter : sheet.letters) {
+        if (letter.part != part || letter.kind == LetterKind::NotCounted)
+            continue;
+        if (!text.empty())
+            text += u", ";
+        text += letter.character;
+        text += u' ';
+        AppendNumber(text, letter.value);
+    }
     return text.empty() ? u"none that counts" : text;
 }
 
@@ -387,7 +407,7 @@ ValuesPicture PictureOfValues() {
     words += missing.empty()       ? u"No value is missing."
              : missing.size() == 1 ? Joined(u"The value ", missing[0], u" is missing.")
                                    : Joined(u"The values ", Enumerated(missing), u" are missing.");
-    words += Joined(u" The ", Shown(picture.leader.character), u" comes most often, ",
+    words += Joined(u" ", Shown(picture.leader.character), u" comes most often, ",
                     Times(static_cast<std::size_t>(picture.leader.count)));
     words += picture.leaderValue != 0
                  ? Joined(u", and its value is the Hidden Passion Number, ",
@@ -498,23 +518,33 @@ TimePicture PictureOfTime(const UserProfile &person, std::chrono::year_month_day
                                   store.PersonalMonthNumber});
     }
 
-    std::vector<std::u16string> personal;
-    std::vector<std::u16string> essences;
-    std::vector<std::u16string> months;
-    for (const TimePicture::Year &year : picture.years) {
-        personal.push_back(Joined(Number(year.year), u": ", DecimalText(year.personalYear)));
-        if (year.essence)
-            essences.push_back(Joined(Number(year.year), u": ", DecimalText(*year.essence)));
-    }
-    for (const TimePicture::Month &month : picture.months)
-        months.push_back(
-            Joined(month.name, u" ", Number(month.year), u": ", DecimalText(month.personalMonth)));
+    const auto open = std::ranges::find_if(
+        picture.years, [](const TimePicture::Year &year) { return !year.essence.has_value(); });
+    const auto essences = static_cast<std::size_t>(open - picture.years.begin());
     std::u16string &words = picture.text.words;
-    words = Joined(u"Personal Year: ", Enumerated(personal), u". Essence: ");
-    words += essences.empty() ? u"none" : Enumerated(essences);
-    if (essences.size() < picture.years.size())
+    const auto append = [&words](std::u16string_view before, int year, int16 number) {
+        words += before;
+        AppendNumber(words, year);
+        words += u": ";
+        AppendNumber(words, number);
+    };
+    words.reserve(700);
+    words = u"Personal Year: ";
+    Enumerate(words, picture.years.size(), [&](std::size_t index) {
+        append({}, picture.years[index].year, picture.years[index].personalYear);
+    });
+    words += essences == 0 ? u". Essence: none" : u". Essence: ";
+    Enumerate(words, essences, [&](std::size_t index) {
+        append({}, picture.years[index].year, *picture.years[index].essence);
+    });
+    if (essences < picture.years.size())
         words += u", and open from then on, since a name has no letter that counts for it";
-    words += Joined(u". Personal Month: ", Enumerated(months), u".");
+    words += u". Personal Month: ";
+    Enumerate(words, picture.months.size(), [&](std::size_t index) {
+        words += picture.months[index].name;
+        append(u" ", picture.months[index].year, picture.months[index].personalMonth);
+    });
+    words += u'.';
 
     picture.text.id = "time-picture";
     picture.text.title = u"The time from now on";
@@ -541,8 +571,8 @@ PlanesPicture PictureOfPlanes() {
         std::ranges::copy_if(name, std::back_inserter(plane.letters), [&](char16_t character) {
             return planes[index].letters.find(character) != std::u16string_view::npos;
         });
-        items.push_back(Joined(plane.name, u" ", DecimalText(plane.share), u" percent",
-                               plane.rating.empty() ? u", without a rating" : u", ", plane.rating));
+        items.push_back(Joined(plane.name, u" ", DecimalText(plane.share), u" percent (",
+                               plane.rating.empty() ? u"no rating" : plane.rating, u")"));
     }
     picture.text.words = Joined(Enumerated(items), u". ");
     picture.text.words += store.PlanesNumber.empty()

@@ -3,7 +3,8 @@
 #include "document_style.h"
 #include "report/html_pictures.h"
 #include "report/html_writer.h"
-#include "report/report.h"
+
+#include <cstdio>
 
 namespace modReadings {
 
@@ -48,6 +49,32 @@ std::u16string ShortName(std::u16string_view name) {
     return text;
 }
 
+/// `text` within quotation marks of CSS. All but letters, digits and blanks of ASCII is written
+/// by its number, so that nothing in it can end the style.
+void WriteCssString(HtmlWriter &html, std::u16string_view text) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        char32_t character = text[at];
+        const bool plain = character == U' ' || (character >= U'0' && character <= U'9') ||
+                           (character >= U'A' && character <= U'Z') ||
+                           (character >= U'a' && character <= U'z');
+        if (plain) {
+            html << static_cast<char>(character);
+            continue;
+        }
+        const bool pair = character >= 0xD800 && character < 0xDC00 && at + 1 < text.size() &&
+                          text[at + 1] >= 0xDC00 && text[at + 1] < 0xE000;
+        if (pair)
+            character = 0x10000U + ((character - 0xD800U) << 10) + (text[++at] - 0xDC00U);
+        else if (character >= 0xD800 && character < 0xE000)
+            character = 0xFFFD;
+        if (character < 0x20 || (character >= 0x7F && character < 0xA0))
+            character = 0xFFFD;
+        char number[16];
+        std::snprintf(number, sizeof number, "\\%06X", static_cast<unsigned>(character));
+        html << static_cast<const char *>(number);
+    }
+}
+
 /// The class of the heading for a name of this length, whose letters are smaller.
 std::string_view ClassFor(std::u16string_view name) {
     if (name.size() > 400)
@@ -57,11 +84,11 @@ std::string_view ClassFor(std::u16string_view name) {
 
 /// The paragraphs of `text`, which has line breaks between them.
 void WriteParagraphs(HtmlWriter &html, std::u16string_view text) {
-    while (!text.empty()) {
-        const std::size_t end = text.find(lineBreak);
-        html << "<p>" << text.substr(0, end) << "</p>\n";
-        text.remove_prefix(end == text.npos ? text.size() : end + lineBreak.size());
-    }
+    if (text.empty())
+        return;
+    html << "<p>";
+    html.Lines(text, "</p>\n<p>");
+    html << "</p>\n";
 }
 
 void WriteLink(HtmlWriter &html, std::string_view id, std::u16string_view text) {
@@ -84,7 +111,8 @@ void WriteContents(HtmlWriter &html, const Document &document) {
          {&document.letters.text, &document.values.text, &document.life.text, &document.time.text,
           &document.planes.text})
         WriteEntry(html, text->id, text->title);
-    html << "</ol></li>\n<li><a href=\"#readings\">Readings</a>\n<ol>\n";
+    html << "</ol></li>\n<li><a href=\"#readings\">Readings</a>\n"
+            "<ol id=\"contents-of-readings\">\n";
     for (const DocumentTopic &topic : document.topics)
         WriteEntry(html, topic.id, topic.caption);
     html << "</ol></li>\n</ol>\n</nav>\n";
@@ -175,14 +203,17 @@ std::string ToHtml(const Document &document) {
             "<meta name=\"color-scheme\" content=\"light dark\">\n<title>"
          << shortName << " \u2013 " << readingTitle << ", " << document.readFor
          << "</title>\n<style>\n"
-         << documentStyle
-         << "</style>\n</head>\n<body>\n<a class=\"skip\" href=\"#main\">Skip the contents</a>\n"
+         << documentStyle << "@page {\n  @top-left { content: \"";
+    WriteCssString(html, shortName);
+    html << "\"; }\n  @top-right { content: \"";
+    WriteCssString(html, document.readFor);
+    html << "\"; }\n}\n</style>\n</head>\n<body>\n<a class=\"skip\" href=\"#main\">Skip the "
+            "contents</a>\n"
             "<header class=\"cover\">\n"
          << emblem << "<p class=\"kicker\">" << readingTitle << "</p>\n<h1"
-         << ClassFor(document.name) << " data-head=\"" << shortName << "\"><bdi>" << document.name
-         << "</bdi></h1>\n<dl><dt>Born</dt><dd>" << document.born
-         << "</dd>\n<dt>Read for</dt><dd class=\"day\">" << document.readFor
-         << "</dd></dl>\n</header>\n<div class=\"page\">\n";
+         << ClassFor(document.name) << "><bdi>" << document.name
+         << "</bdi></h1>\n<dl><dt>Born</dt><dd>" << document.born << "</dd>\n<dt>Read for</dt><dd>"
+         << document.readFor << "</dd></dl>\n</header>\n<div class=\"page\">\n";
     WriteContents(html, document);
     html << "<main id=\"main\">\n";
     WriteGlance(html, document);

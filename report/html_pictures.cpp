@@ -105,7 +105,7 @@ struct AgeAxis {
 };
 
 AgeAxis AxisFor(const LifePicture &picture) {
-    const int needed = std::min<int>(picture.age, 120) + 9;
+    const int needed = std::min<int>(picture.age, 130) + 9;
     return {std::max(90, needed / 10 * 10)};
 }
 
@@ -270,10 +270,14 @@ void Draw(HtmlWriter &html, const LifePicture &picture) {
     drawing.Line(axis.left, axisY, axis.right, axisY, Paint::Muted);
 
     const int today = axis.X(picture.age);
-    drawing.Text(0, periodsTop - 8, 14, Paint::Muted, Align::Start, "Life Path Periods");
+    // The titles stand where the line of today does not run through them.
+    const bool early = today < drawingWidth / 3;
+    const int titleX = early ? axis.right : 0;
+    const Align titleAlign = early ? Align::End : Align::Start;
+    drawing.Text(titleX, periodsTop - 8, 14, Paint::Muted, titleAlign, "Life Path Periods");
     for (const LifeSpan &span : picture.periods)
         DrawSpan(drawing, axis, span, periodsTop, today);
-    drawing.Text(0, pinnaclesTop - 8, 14, Paint::Muted, Align::Start, "Pinnacles");
+    drawing.Text(titleX, pinnaclesTop - 8, 14, Paint::Muted, titleAlign, "Pinnacles");
     int y = pinnaclesTop;
     for (const LifeSpan &span : picture.pinnacles) {
         DrawSpan(drawing, axis, span, y, today);
@@ -284,7 +288,8 @@ void Draw(HtmlWriter &html, const LifePicture &picture) {
     const bool beyond = picture.age > axis.end;
     const std::u16string label =
         unborn ? std::u16string(u"today: before birth") : u"today: age " + DecimalText(picture.age);
-    drawing.Line(today, 20, today, axisY, Paint::Ink, 2);
+    if (!unborn && !beyond)
+        drawing.Line(today, 20, today, axisY, Paint::Ink, 2);
     if (today < 70)
         drawing.Text(unborn ? 0 : today - 4, 14, 14, Paint::Ink, Align::Start, label, true);
     else if (today > axis.right - 70 || beyond)

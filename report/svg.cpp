@@ -45,11 +45,13 @@ std::string_view StrokeOf(Paint paint) {
 
 Drawing::Drawing(HtmlWriter &html, int height, std::string_view title, std::string_view words)
     : html_(html) {
+    // Most texts are centred and in ink.
     html_ << "<svg role=\"img\" aria-labelledby=\"" << title << "\" aria-describedby=\"" << words
           << "\" viewBox=\"0 0 " << drawingWidth << ' ' << height << "\" width=\"" << drawingWidth
           << "\" height=\"" << height
-          << "\">\n<g font-family=\"Charter,'Bitstream Charter','Iowan Old Style',P052,Palatino,"
-             "Georgia,'DejaVu Serif',serif\">\n";
+          << "\">\n<g text-anchor=\"middle\" font-family=\"Charter,'Bitstream Charter',"
+             "'Iowan Old Style',P052,Palatino,Georgia,'DejaVu Serif',serif\""
+          << FillOf(Paint::Ink) << ">\n";
 }
 
 Drawing::~Drawing() { html_ << "\n</g>\n</svg>\n"; }
@@ -103,11 +105,13 @@ void Drawing::EndPath() { html_ << "\"/>"; }
 
 void Drawing::BeginText(int x, int y, int size, Paint fill, Align align, bool bold) {
     html_ << "<text x=\"" << x << "\" y=\"" << y << "\" font-size=\"" << size << '"';
-    if (align != Align::Start)
-        html_ << " text-anchor=\"" << (align == Align::Middle ? "middle" : "end") << '"';
+    if (align != Align::Middle)
+        html_ << (align == Align::Start ? " text-anchor=\"start\"" : " text-anchor=\"end\"");
     if (bold)
         html_ << " font-weight=\"bold\"";
-    html_ << FillOf(fill) << '>';
+    if (fill != Paint::Ink)
+        html_ << FillOf(fill);
+    html_ << '>';
 }
 
 } // namespace modReadings
