@@ -19,11 +19,11 @@ test_packages="
     bash desktop-file-utils fish man-db zsh
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
-    tidy weston x11-utils x11-xserver-utils xclip xdotool xvfb
+    tidy weasyprint weston x11-utils x11-xserver-utils xclip xdotool xvfb
 "
 
 # What `--target readers` needs besides.
-reader_packages="libreoffice-writer-nogui unrtf"
+reader_packages="libreoffice-writer-nogui pandoc unrtf"
 
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
 # time when all are.

@@ -29,9 +29,10 @@ the Destiny number or the Personal Year, by the Pythagorean letter chart. Each
 topic has an explanation and a reading, and most have a number; all of them make
 the Comprehensive Reading. Reports can be printed or saved as Rich Text Format.
 .
-The package holds the window, orravane, and the command orravane-report, which
-gives the same readings as text, JSON or Rich Text Format without a display,
-for one person or for every line of a list.")
+The package holds the window, orravane; orravane-document, which makes a
+document to hand over as PDF, HTML or Markdown; and the command orravane-report,
+which gives the same without a display, and text, JSON or Rich Text Format as
+well, for one person or for every line of a list.")
 
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -44,10 +45,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 
 # The libraries are found by dpkg-shlibdeps. The window is laid out for the widths of DejaVu
 # Sans. Printing goes through libcups and needs a print server, not the commands of
-# cups-client.
+# cups-client. WeasyPrint makes the PDFs and nothing else.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qt6-wayland, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups, parallel")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qt6-wayland, weasyprint, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups, pandoc, parallel")
 
 include(CPack)
