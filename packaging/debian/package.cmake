@@ -18,15 +18,14 @@ foreach(component window tool)
   install(FILES debian/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
           RENAME ${package} COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
-install(FILES ${PROJECT_SOURCE_DIR}/docs/user-guide.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
+install(FILES ${PROJECT_SOURCE_DIR}/docs/user-guide.md ${PROJECT_SOURCE_DIR}/docs/windows.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
         COMPONENT window EXCLUDE_FROM_ALL)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/pictures DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
         COMPONENT window EXCLUDE_FROM_ALL)
 install(FILES debian/people.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane-report/examples
         COMPONENT tool EXCLUDE_FROM_ALL)
-set(CPACK_INSTALL_CMAKE_PROJECTS ${PROJECT_BINARY_DIR} orravane window /
-                                 ${PROJECT_BINARY_DIR} orravane tool /)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL window tool)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME orravane)
