@@ -39,7 +39,7 @@ echo "$(in_root dpkg-query -W | wc -l) packages in the system"
 step "Every library is there, those of the plugins too"
 plugins="/usr/lib/*/qt6/plugins"
 in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-report $plugins/platforms/libqxcb.so \
-    $plugins/imageformats/libqsvg.so $plugins/printsupport/libcupsprintersupport.so" \
+    $plugins/printsupport/libcupsprintersupport.so" \
     >"$root/tmp/libraries" || fail "ldd: $(cat "$root/tmp/libraries")"
 if grep 'not found' "$root/tmp/libraries"; then
     fail "libraries are missing"

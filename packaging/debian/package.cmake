@@ -42,10 +42,9 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 
-# The libraries are found by dpkg-shlibdeps. Among them is libqt6svg6, whose package also
-# brings the plugin that reads the window's SVG artwork. The window is laid out for the
-# widths of DejaVu Sans. Printing goes through libcups and needs a print server, not the
-# commands of cups-client.
+# The libraries are found by dpkg-shlibdeps. The window is laid out for the widths of DejaVu
+# Sans. Printing goes through libcups and needs a print server, not the commands of
+# cups-client.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qt6-wayland, xdg-utils")

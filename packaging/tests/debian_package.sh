@@ -36,7 +36,7 @@ test "$(field Version)" = "$3-1"
 test "$(field Maintainer)" = "Orravane maintainers <maintainers@orravane.example>"
 test "$(field Section)" = misc
 test "$(field Installed-Size)" -gt 0
-for library in libc6 libcsv3 libcups2 libqt6core6 libqt6gui6 libqt6svg6 libqt6widgets6 \
+for library in libc6 libcsv3 libcups2 libqt6core6 libqt6gui6 libqt6widgets6 \
     zlib1g; do
     depends_on "$library"
 done
