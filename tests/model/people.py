@@ -78,7 +78,7 @@ KINDS = (
     (2, _untrimmed),
     (2, lambda rng: " " * rng.randint(0, 3)),
     (1, _long),
-    (0.2, _huge),
+    (0.5, _huge),
 )
 _WEIGHTS = [weight for weight, _ in KINDS]
 
@@ -92,7 +92,7 @@ def day(rng):
     if rng.random() < 0.08:
         return rng.choice(ODD_DAYS)
     if rng.random() < 0.2:
-        return rng.choice(("11", "13", "14", "16", "19", "22", "28", "29", "31"))
+        return rng.choice(("11", "13", "13", "14", "16", "19", "22", "28", "29", "31"))
     return str(rng.randint(1, 31))
 
 
@@ -158,14 +158,14 @@ def _at_an_age(rng):
 
 def _of_great_total(rng):
     """A first name whose letters total about what 16 bits hold."""
-    first = rng.choice(("R" * 3640 + "P", "R" * 3640 + "A", "R" * 3641, "Y" * 4681, "Y" * 4682,
+    first = rng.choice(("R" * 3640 + "P", "R" * 3640 + "A", "R" * 3641, "Y" * 4681, "Y" * 4682, "Y" * 4690,
                         "E" * 4700 + "Y" * 1000))
     return (first, "", rng.choice(("", "Y", "FLYNN")), month(rng), day(rng), year(rng))
 
 
 CORNERS = (_without_value, _of_great_sums, _of_great_year, _at_the_limit, _of_masters, _at_an_age,
            _of_great_total)
-CORNER_WEIGHTS = (6, 6, 6, 6, 6, 6, 2)
+CORNER_WEIGHTS = (8, 10, 6, 8, 6, 6, 4)
 
 
 def corner(rng):

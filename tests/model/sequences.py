@@ -27,27 +27,53 @@ def random_sequence(seed, index):
     sequence = []
     if rng.random() < 0.6:
         sequence.append(("clock", *people.clock(rng)))
-    if rng.random() < 0.15:
+    if rng.random() < 0.2:
         someone, dates = people.corner(rng)
         sequence += [("clock", *dates), ("profile", *someone)]
         if rng.random() < 0.5:
             sequence.append(("pass",))
+    elif rng.random() < 0.02:
+        sequence += _day_of_another(rng)
     elif rng.random() < 0.95:
         sequence.append(("profile", *people.person(rng)))
+    # Often a few topics only, so that their runs leave something for each other.
+    captions = rng.sample(CAPTIONS, rng.choice((2, 3))) if rng.random() < 0.5 else CAPTIONS
     for _ in range(rng.choice((1, 2, 3, 4, 5, 6, 8, 12))):
-        sequence.append(_random_command(rng))
+        sequence.append(_random_command(rng, sequence, captions))
     return sequence
 
 
-def _random_command(rng):
+def _day_of_another(rng):
+    """Two days of birth, of which the store still holds the first."""
+    someone = list(people.person(rng))
+    for caption, days in (("Birthday Number", ("14", "16", "19", "20")),
+                          ("Karmic Debt Numbers", ("13", "15"))):
+        someone[4] = rng.choice(days)
+        yield ("profile", *someone)
+        yield (rng.choice(("run", "click")), caption)
+
+
+def _random_person(rng, sequence):
+    """A new one, or one of the sequence with another text in one place."""
+    earlier = [command for command in sequence if command[0] == "profile"]
+    someone = people.person(rng)
+    if not earlier or rng.random() < 0.6:
+        return someone
+    changed = list(rng.choice(earlier)[1:])
+    place = rng.randrange(6)
+    changed[place] = someone[place]
+    return tuple(changed)
+
+
+def _random_command(rng, sequence, captions):
     word = rng.choices(("pass", "profile", "clock", "run", "click", "render", "comprehensive",
                         "endless"), (16, 18, 8, 24, 22, 4, 3, 5))[0]
     if word == "profile":
-        return ("profile", *people.person(rng))
+        return ("profile", *_random_person(rng, sequence))
     if word == "clock":
         return ("clock", *people.clock(rng))
     if word in ("run", "click", "render"):
-        return (word, rng.choice(CAPTIONS))
+        return (word, rng.choice(captions))
     if word == "endless":
         return (word, rng.choice((-1, 0, 1, 2, 30, 32767)))
     return (word,)

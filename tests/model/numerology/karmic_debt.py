@@ -27,10 +27,14 @@ def calc_karmic_debt(state):
     if store.InnerDreamsRaw in DEBTS:
         reached("KarmicDebt: in Inner Dreams")
         debt = store.InnerDreamsRaw
+    # Within a source the four exclude each other; here 13 is looked for in another slot, which
+    # can be of another person.
     if store.BirthDayValue == 13:
         reached("KarmicDebt: born on the 13th")
+        if store.BirthdayRaw in DEBTS and store.BirthdayRaw != 13:
+            reached("KarmicDebt: born on the 13th, and the day of an earlier person is a debt")
         debt = 13
-    if store.BirthdayRaw in (14, 16, 19):
+    elif store.BirthdayRaw in (14, 16, 19):
         reached("KarmicDebt: born on the 14th, 16th or 19th")
         debt = store.BirthdayRaw
     if debt == 0:
