@@ -19,9 +19,11 @@ import sequences
 import shrinking
 from numerology import rules
 from numerology.book import Book
-from program import Program
+from program import ANSWER_WITHIN_WHILE_SHRINKING, Program
 
-# Rules that the generator cannot reach, and rows of the book that no number can choose.
+SHRINK_FOR = 120  # seconds, should each attempt take long
+
+# Rows of the book that no number can choose.
 NEVER_REACHED = {
     ("EssenceText", 11), ("EssenceText", 22), ("LifePathPeriodsText", 11),
     ("LifePathPeriodsText", 22), ("RealizationText", 22),
@@ -74,7 +76,8 @@ def shortest(sequence, book, program):
         except sequences.LeftOut:
             return False
 
-    smallest = shrinking.shrink(sequence, differs)
+    program.patience = ANSWER_WITHIN_WHILE_SHRINKING
+    smallest = shrinking.shrink(sequence, differs, time.monotonic() + SHRINK_FOR)
     return smallest, compare(smallest, book, program)[1]
 
 
@@ -135,10 +138,12 @@ def options():
                         help="number of the first sequence of the seed")
     parser.add_argument("--replay", metavar="JSON", help="one sequence, as a difference prints it")
     parser.add_argument("--statistics", action="store_true",
-                        help="how often each rule of the model was reached; fails on one that never was")
+                        help="how often each rule of the model was reached; fails on one that "
+                             "never was")
     chosen = parser.parse_args()
     if not chosen.driver or not chosen.tool:
-        parser.error("--driver and --tool, or ORRAVANE_MODEL_DRIVER and ORRAVANE_REPORT_TOOL, are needed")
+        parser.error("--driver and --tool, or ORRAVANE_MODEL_DRIVER and ORRAVANE_REPORT_TOOL, "
+                     "are needed")
     return chosen
 
 
@@ -157,23 +162,28 @@ def main():
         return 1 if difference else 0
 
     seed = chosen.seed if chosen.seed != "random" else str(random.SystemRandom().randrange(10**9))
-    print(f"seed {seed}, sequences {chosen.first} to {chosen.first + chosen.sequences - 1}", flush=True)
+    end = chosen.first + chosen.sequences
+    print(f"seed {seed}, sequences {chosen.first} to {end - 1}", flush=True)
     began = time.monotonic()
     commands = 0
     left_out = collections.Counter()
-    for index in range(chosen.first, chosen.first + chosen.sequences):
+    for index in range(chosen.first, end):
         sequence = sequences.random_sequence(seed, index)
         done, difference = compare(sequence, book, program, left_out)
         commands += len(done)
         if difference:
-            print(f"\nSequence {index} of seed {seed} shows a difference. The shortest that does:\n")
+            print(f"\nSequence {index} of seed {seed} shows a difference. The shortest found that "
+                  "does:\n")
             tell(*shortest(done, book, program))
             return 1
+        if (index + 1 - chosen.first) % 10_000 == 0:
+            print(f"{index + 1 - chosen.first} done", flush=True)
     if trouble := program.finish():
         print("\nAfter all sequences " + trouble)
         return 1
-    print(f"{chosen.sequences} sequences with {commands} commands in {time.monotonic() - began:.1f} s: "
-          "program and model agree")
+    took = time.monotonic() - began
+    print(f"{chosen.sequences} sequences with {commands} commands in {took:.1f} s: program and "
+          "model agree")
     for reason, count in left_out.most_common():
         print(f"{count:9}  left out: {reason}")
     if chosen.statistics:

@@ -158,8 +158,8 @@ def _at_an_age(rng):
 
 def _of_great_total(rng):
     """A first name whose letters total about what 16 bits hold."""
-    first = rng.choice(("R" * 3640 + "P", "R" * 3640 + "A", "R" * 3641, "Y" * 4681, "Y" * 4682, "Y" * 4690,
-                        "E" * 4700 + "Y" * 1000))
+    first = rng.choice(("R" * 3640 + "P", "R" * 3640 + "A", "R" * 3641, "Y" * 4681, "Y" * 4682,
+                        "Y" * 4690, "E" * 4700 + "Y" * 1000))
     return (first, "", rng.choice(("", "Y", "FLYNN")), month(rng), day(rng), year(rng))
 
 

@@ -9,8 +9,9 @@ import tempfile
 from numerology.state import Store
 from numerology.text import units
 
-# No sequence takes nearly as long.
+# Seconds. No sequence takes nearly as long, and one that is being shrunk less still.
 ANSWER_WITHIN = 60
+ANSWER_WITHIN_WHILE_SHRINKING = 5
 
 
 def _word(argument):
@@ -29,6 +30,7 @@ class Program:
 
     def __init__(self, *command):
         self.command = command
+        self.patience = ANSWER_WITHIN
         self.process = None
         self.errors = None
 
@@ -47,10 +49,10 @@ class Program:
     def answers(self, count):
         """The slots, the report and the endless name after each of `count` commands, and what
         went wrong, or None. Where something did, answers are missing."""
-        ready, _, _ = select.select([self.process.stdout], [], [], ANSWER_WITHIN)
+        ready, _, _ = select.select([self.process.stdout], [], [], self.patience)
         if not ready:
             self.end()
-            return [], f"the program did not answer within {ANSWER_WITHIN} s"
+            return [], f"the program did not answer within {self.patience} s"
         answers, slots = [], dict(vars(Store()))
         for at in range(count + 1):
             line = self.process.stdout.readline()

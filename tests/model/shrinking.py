@@ -1,5 +1,7 @@
 """Finds the shortest sequence that still shows a difference."""
 
+import time
+
 from sequences import CAPTIONS, FIRST_DATE
 
 COST = {"profile": 2, "clock": 1, "endless": 1, "run": 1, "render": 2, "click": 3, "pass": 40,
@@ -18,9 +20,9 @@ def size(sequence):
             sum(letter != PLAIN_LETTER for name in names for letter in name), sum(map(abs, ages)))
 
 
-def shrink(sequence, differs, attempts=5000):
-    """The smallest sequence that could be reached for which `differs` holds; it is asked at
-    most `attempts` times."""
+def shrink(sequence, differs, until, attempts=5000):
+    """The smallest sequence that could be reached for which `differs` holds. It is asked at
+    most `attempts` times, and not behind the moment `until` of the monotonic clock."""
     smallest = list(sequence)
     again = True
     while again:
@@ -32,7 +34,7 @@ def shrink(sequence, differs, attempts=5000):
                 continue
             tried.add(key)
             attempts -= 1
-            if attempts < 0:
+            if attempts < 0 or time.monotonic() > until:
                 return smallest
             if differs(candidate):
                 smallest = candidate
@@ -48,6 +50,22 @@ def _smaller(sequence):
     for at, command in enumerate(sequence):
         for other in _simpler_commands(command):
             yield sequence[:at] + [other] + sequence[at + 1:]
+    yield from _smaller_with_the_clock(sequence)
+
+
+def _smaller_with_the_clock(sequence):
+    """One run instead of many, or of none, and the dates left out that the others read."""
+    for at, command in enumerate(sequence):
+        clocks = [place for place in range(at) if sequence[place][0] == "clock"]
+        if command[0] in ("profile", "clock") or not clocks:
+            continue
+        before, clock = sequence[:clocks[-1]], sequence[clocks[-1]]
+        between = sequence[clocks[-1] + 1:at]
+        others = [[("run", caption)] for caption in CAPTIONS] if COST[command[0]] > 3 else []
+        for left_out in range(1, len(clock) - 1):
+            for other in [[], *others]:
+                yield [*before, ("clock", *clock[1 + left_out:]), *between, *other,
+                       *sequence[at + 1:]]
 
 
 def _stretches(length):
@@ -79,6 +97,7 @@ def _simpler_commands(command):
         yield ("endless", 0)
         yield ("endless", 1)
     elif word == "profile":
+        yield ("profile", *(text[:len(text) // 2] for text in arguments[:3]), *arguments[3:])
         for at, text in enumerate(arguments):
             for simpler in _simpler_texts(text, is_name=at < 3):
                 yield ("profile", *arguments[:at], simpler, *arguments[at + 1:])

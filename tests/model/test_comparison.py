@@ -7,7 +7,6 @@ import unittest
 from unittest import mock
 
 import compare
-import program
 import sequences
 from numerology import (essence, karmic_debt, months, name_numbers, proceed_pass, rendering,
                         state)
@@ -23,6 +22,7 @@ class BrokenProgram:
         self.book = book
         self.breaking = breaking
         self.result = []
+        self.patience = 0
 
     def send(self, sequence):
         with self.breaking:
@@ -110,8 +110,9 @@ class Comparison(unittest.TestCase):
         self.assertIn("ended with 1", found[0][2])
 
     def test_a_program_that_does_not_answer(self):
-        with mock.patch.object(program, "ANSWER_WITHIN", 0.2):
-            _, (_, found) = compare.compare([("pass",)], self.book, Program("sleep", "60"))
+        sleeper = Program("sleep", "60")
+        sleeper.patience = 0.2
+        _, (_, found) = compare.compare([("pass",)], self.book, sleeper)
         self.assertIn("did not answer", found[0][2])
 
     def test_nothing_is_broken(self):

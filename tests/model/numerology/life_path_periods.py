@@ -37,10 +37,12 @@ def calc_life_path_periods(state):
         if age in (first, first + 1, second, second + 1):
             reached("Periods: an age at the border of a period")
         if store.PeriodRoot < 10:
-            store.PeriodLine1 = f"Life Path Period 1 from age 0 - {first} is {store.PeriodNumber1}"
+            store.PeriodLine1 = (f"Life Path Period 1 from age 0 - {first} is "
+                                 f"{store.PeriodNumber1}")
             store.PeriodLine2 = (f"Life Path Period 2 from age {first + 1} - {second} is "
                                  f"{store.PeriodNumber2}")
-            store.PeriodLine3 = f"Life Path Period 3 from age {second + 1} on is {store.PeriodNumber3}"
+            store.PeriodLine3 = (f"Life Path Period 3 from age {second + 1} on is "
+                                 f"{store.PeriodNumber3}")
         state.select("LifePathPeriodsText", store.PeriodRoot)
     else:
         reached("Periods: root 0 has no row")

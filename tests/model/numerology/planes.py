@@ -57,7 +57,7 @@ def calc_planes(state):
         if word is not None:
             setattr(store, plane + "Rating", word)
 
-    lines = [f"{getattr(store, plane + 'Label')}{shares[plane]} - {getattr(store, plane + 'Rating')}"
-             for plane in PLANES]
+    lines = [getattr(store, plane + "Label") + str(shares[plane]) + " - "
+             + getattr(store, plane + "Rating") for plane in PLANES]
     store.PlanesText = (" " + LINE_BREAK).join(lines)
     state.set_fixed("PlanesAbout")
