@@ -17,7 +17,7 @@ def size(sequence):
     names = [name for command in sequence if command[0] == "profile" for name in command[1:4]]
     return (sum(COST[command[0]] for command in sequence), len(dates), sum(map(len, texts)),
             sum(date != FIRST_DATE for date in dates),
-            sum(letter != PLAIN_LETTER for name in names for letter in name), sum(map(abs, ages)))
+            sum(len(name) - name.count(PLAIN_LETTER) for name in names), sum(map(abs, ages)))
 
 
 def shrink(sequence, differs, until, attempts=5000):
@@ -29,12 +29,14 @@ def shrink(sequence, differs, until, attempts=5000):
         again = False
         tried = set()
         for candidate in _smaller(smallest):
+            if time.monotonic() > until:
+                return smallest
             key = tuple(candidate)
             if key in tried or size(candidate) >= size(smallest):
                 continue
             tried.add(key)
             attempts -= 1
-            if attempts < 0 or time.monotonic() > until:
+            if attempts < 0:
                 return smallest
             if differs(candidate):
                 smallest = candidate
