@@ -19,15 +19,21 @@ import sequences
 import shrinking
 from numerology import rules
 from numerology.book import Book
+from numerology.proceed_pass import PASS_ORDER
 from program import ANSWER_WITHIN_WHILE_SHRINKING, Program
 
 SHRINK_FOR = 120  # seconds, should each attempt take long
+AT_ONCE = 25  # sequences that go to the program together
 
 # Rows of the book that no number can choose.
 NEVER_REACHED = {
     ("EssenceText", 11), ("EssenceText", 22), ("LifePathPeriodsText", 11),
     ("LifePathPeriodsText", 22), ("RealizationText", 22),
 }
+# The number 0 is there only before the first reading; RationalThoughtText is emptied.
+NEVER_STALE = {"HiddenPassionText", "RationalThoughtText"}
+NEVER_GIVE_UP = {"calc_balance", "calc_subconscious_self", "calc_hp_bridge", "calc_le_bridge",
+                 "calc_realization"}
 
 
 def differences(expected, answered):
@@ -53,18 +59,39 @@ def _first_difference(report, other):
     return f"{len(report)} runs", f"{len(other)} runs"
 
 
-def compare(sequence, book, program, left_out=None):
-    """None, or what is different: the place of the command, and the differences there. The
-    sequence comes back as it was done."""
-    done, expected = sequences.run_model(sequence, book, left_out)
+def compare(sequence, book, program):
+    """None, or what is different: the place of the command, and the differences there."""
+    done, expected = sequences.run_model(sequence, book)
     program.send(done)
-    answered, trouble = program.answers(len(done))
+    return _compare_answers(expected, program)
+
+
+def _compare_answers(expected, program):
+    answered, trouble = program.answers(len(expected))
     for at, (one, other) in enumerate(zip(expected, answered)):
         if found := differences(one, other):
-            return done, (at, found)
+            return at, found
     if trouble:
-        return done, (len(answered), [("program", "answers", trouble)])
-    return done, None
+        return len(answered), [("program", "answers", trouble)]
+    return None
+
+
+def first_that_differs(many, book, program, left_out):
+    """The place of the first of several sequences that shows a difference, and the sequence as
+    it was done; or None. They go to the program at once, which saves waiting."""
+    all_done, all_expected = zip(*(sequences.run_model(sequence, book, left_out)
+                                   for sequence in many))
+    program.send(*all_done)
+    for at, (done, expected) in enumerate(zip(all_done, all_expected)):
+        difference = _compare_answers(expected, program)
+        if difference and not (difference[1][0][0] == "program" and len(many) > 1):
+            return at, done
+        if difference:  # which of them ended it?
+            for place in range(at, len(many)):
+                if compare(all_done[place], book, program):
+                    return place, all_done[place]
+            return at, done
+    return None
 
 
 def shortest(sequence, book, program):
@@ -72,13 +99,13 @@ def shortest(sequence, book, program):
 
     def differs(candidate):
         try:
-            return compare(candidate, book, program)[1] is not None
+            return compare(candidate, book, program) is not None
         except sequences.LeftOut:
             return False
 
     program.patience = ANSWER_WITHIN_WHILE_SHRINKING
     smallest = shrinking.shrink(sequence, differs, time.monotonic() + SHRINK_FOR)
-    return smallest, compare(smallest, book, program)[1]
+    return smallest, compare(smallest, book, program)
 
 
 def tell(sequence, difference):
@@ -104,6 +131,17 @@ def print_statistics(book):
         print(f"{rules.counts[rule]:9}  {rule}")
         if not rules.counts[rule]:
             never.append(rule)
+    print("\nNumbers without a reading, by slot, and how often an earlier text stayed then:")
+    for slot, count in sorted(rules.without_row.items()):
+        print(f"  {slot}: {count}, {rules.stale[slot]}")
+        if not rules.stale[slot] and slot not in NEVER_STALE:
+            never.append(f"an earlier text that stays in {slot}")
+    print("\nCalculators that gave up, and how often:")
+    for calculate in PASS_ORDER:
+        name = calculate.__name__
+        print(f"{rules.gave_up[name]:9}  {name}")
+        if not rules.gave_up[name] and name not in NEVER_GIVE_UP:
+            never.append(f"{name} gives up")
     print("\nReadings, by slot: how often each number chose one (- has none)")
     chosen = collections.defaultdict(dict)
     for (slot, number), count in rules.rows.items():
@@ -154,9 +192,9 @@ def main():
     if chosen.replay:
         sequence = [tuple(tuple(part) if isinstance(part, list) else part for part in command)
                     for command in json.loads(chosen.replay)]
-        done, difference = compare(sequence, book, program)
+        difference = compare(sequence, book, program)
         if difference:
-            tell(done, difference)
+            tell(sequence, difference)
         else:
             print("no difference")
         return 1 if difference else 0
@@ -167,17 +205,18 @@ def main():
     began = time.monotonic()
     commands = 0
     left_out = collections.Counter()
-    for index in range(chosen.first, end):
-        sequence = sequences.random_sequence(seed, index)
-        done, difference = compare(sequence, book, program, left_out)
-        commands += len(done)
-        if difference:
-            print(f"\nSequence {index} of seed {seed} shows a difference. The shortest found that "
-                  "does:\n")
+    for begin in range(chosen.first, end, AT_ONCE):
+        many = [sequences.random_sequence(seed, index)
+                for index in range(begin, min(begin + AT_ONCE, end))]
+        commands += sum(map(len, many))
+        if differs := first_that_differs(many, book, program, left_out):
+            at, done = differs
+            print(f"\nSequence {begin + at} of seed {seed} shows a difference. The shortest found "
+                  "that does:\n")
             tell(*shortest(done, book, program))
             return 1
-        if (index + 1 - chosen.first) % 10_000 == 0:
-            print(f"{index + 1 - chosen.first} done", flush=True)
+        if (begin + AT_ONCE - chosen.first) % 10_000 == 0:
+            print(f"{begin + AT_ONCE - chosen.first} done", flush=True)
     if trouble := program.finish():
         print("\nAfter all sequences " + trouble)
         return 1

@@ -112,10 +112,16 @@ def person(rng):
     return (name(rng), middle, name(rng), month(rng), day(rng), year(rng))
 
 
-def _without_value(rng):
-    """A person whose date counts nothing."""
-    return (name(rng), "", name(rng), rng.choice(OTHER_MONTHS), rng.choice(("", "0", "00")),
-            rng.choice(("", "0", "000")))
+def without_value(rng):
+    """A person whose date counts nothing, and perhaps neither does the first name."""
+    return (rng.choice((name(rng), "12")), "", name(rng), rng.choice(OTHER_MONTHS),
+            rng.choice(("", "0", "00")), rng.choice(("", "0", "000")))
+
+
+def without_letters(rng):
+    """A person whose names count nothing, and who may not be born yet."""
+    names = rng.choices(("", "12", "-", "É", "名前", "3A", "'N", " "), k=3)
+    return (*names, month(rng), day(rng), rng.choice(("2099", "2050", "2026", year(rng))))
 
 
 def _of_great_sums(rng):
@@ -163,7 +169,7 @@ def _of_great_total(rng):
     return (first, "", rng.choice(("", "Y", "FLYNN")), month(rng), day(rng), year(rng))
 
 
-CORNERS = (_without_value, _of_great_sums, _of_great_year, _at_the_limit, _of_masters, _at_an_age,
+CORNERS = (without_value, _of_great_sums, _of_great_year, _at_the_limit, _of_masters, _at_an_age,
            _of_great_total)
 CORNER_WEIGHTS = (8, 10, 6, 8, 6, 6, 4)
 

@@ -33,13 +33,19 @@ class Program:
         self.patience = ANSWER_WITHIN
         self.process = None
         self.errors = None
+        self.answering = False
 
-    def send(self, sequence):
+    def send(self, *sequences):
+        """Lets the program do these sequences; `answers` then gives what it said to each."""
         if self.process is None:
             self.errors = tempfile.TemporaryFile()
             self.process = subprocess.Popen(self.command, stdin=subprocess.PIPE,
                                             stdout=subprocess.PIPE, stderr=self.errors)
-        lines = ["new"] + ["\t".join(map(_word, command)) for command in sequence] + ["answer", ""]
+        lines = []
+        for sequence in sequences:
+            lines += ["new"] + ["\t".join(map(_word, command)) for command in sequence]
+        lines += ["answer", ""]
+        self.answering = False
         try:
             self.process.stdin.write("\n".join(lines).encode("ascii"))
             self.process.stdin.flush()
@@ -47,12 +53,14 @@ class Program:
             pass  # it died; that shows when its answers are missing
 
     def answers(self, count):
-        """The slots, the report and the endless name after each of `count` commands, and what
-        went wrong, or None. Where something did, answers are missing."""
-        ready, _, _ = select.select([self.process.stdout], [], [], self.patience)
-        if not ready:
-            self.end()
-            return [], f"the program did not answer within {self.patience} s"
+        """The slots, the report and the endless name after each of the `count` commands of the
+        next sequence, and what went wrong, or None. Where something did, answers are missing."""
+        if not self.answering:
+            ready, _, _ = select.select([self.process.stdout], [], [], self.patience)
+            if not ready:
+                self.end()
+                return [], f"the program did not answer within {self.patience} s"
+            self.answering = True  # to all sequences at once
         answers, slots = [], dict(vars(Store()))
         for at in range(count + 1):
             line = self.process.stdout.readline()

@@ -34,6 +34,8 @@ def random_sequence(seed, index):
             sequence.append(("pass",))
     elif rng.random() < 0.02:
         sequence += _day_of_another(rng)
+    elif rng.random() < 0.4:
+        sequence += _two_people(rng)
     elif rng.random() < 0.95:
         sequence.append(("profile", *people.person(rng)))
     # Often a few topics only, so that their runs leave something for each other.
@@ -51,6 +53,19 @@ def _day_of_another(rng):
         someone[4] = rng.choice(days)
         yield ("profile", *someone)
         yield (rng.choice(("run", "click")), caption)
+
+
+def _two_people(rng):
+    """One topic for two people; the first is one whose readings are all there."""
+    caption = rng.choice(CAPTIONS)
+    yield ("profile", rng.choice(people.FIRST), "", rng.choice(people.LAST),
+           rng.choice(people.MONTHS), str(rng.randint(1, 31)), str(rng.randint(1900, 2050)))
+    yield rng.choice((("run", caption), ("click", caption), ("pass",)))
+    make = rng.choice((people.without_letters, people.without_value, people.person))
+    yield ("profile", *make(rng))
+    if make is people.without_value and rng.random() < 0.5:
+        yield ("clock", (0, rng.randint(1, 12), rng.randint(1, 28)))
+    yield (rng.choice(("run", "click")), caption)
 
 
 def _random_person(rng, sequence):

@@ -25,6 +25,8 @@ def calc_realization(state):
     store = state.store
     if store.LifePathNumber == 0 or store.DestinyNumber == 0:
         reached("Realization: refused")
+        if store.RealizationNumber:
+            reached("Realization: refused, and the number of an earlier person stays")
         state.set_fixed("RealizationText")
         return
     total = digit_sum(str(store.LifePathNumber + store.DestinyNumber))

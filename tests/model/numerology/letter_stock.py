@@ -42,6 +42,8 @@ def calc_hidden_passion(state):
         store.HiddenPassionNumber = CHART[best]
     elif best:
         reached("HiddenPassion: a character outside the chart wins")
+        if store.HiddenPassionNumber:
+            reached("HiddenPassion: the number of an earlier name stays")
     else:
         reached("HiddenPassion: an empty name")
     if not state.select("HiddenPassionText", store.HiddenPassionNumber):

@@ -25,6 +25,8 @@ def calc_life_path_periods(state):
         first, second = LAST_AGES[store.PeriodRoot]
         if age < 0:
             reached("Periods: before birth the index stays")
+            if store.LifePathPeriodsNumber:
+                reached("Periods: before birth the index of an earlier person stays")
         elif age <= first:
             reached("Periods: in the first period")
             store.LifePathPeriodsNumber = 1

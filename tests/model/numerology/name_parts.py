@@ -37,6 +37,8 @@ def calc_rational_thought(state):
     number = reduce_keep_master(int16(day + letters, "RationalThought: a total with the day"))
     if not state.select("RationalThoughtText", number):
         reached("RationalThought: a number without a reading empties the text")
+        if store.RationalThoughtText:
+            reached("RationalThought: the text of an earlier person is emptied")
         store.RationalThoughtText = ""
     store.RationalThoughtNumber = number
     state.set_fixed("RationalThoughtAbout")

@@ -23,6 +23,8 @@ def _rating(store, plane):
         # This band looks at the mental share for its lower limit.
         if store.MentalPercent < 18:
             reached("Planes: an average physical share without a rating")
+            if store.PhysicalRating:
+                reached("Planes: the physical rating of an earlier name stays")
             return None
         reached("Planes: an average physical share with a rating")
     return "Average"
@@ -51,6 +53,8 @@ def calc_planes(state):
         store.PlanesNumber = leaders[0]
     else:
         reached("Planes: a tie names no plane")
+        if store.PlanesNumber:
+            reached("Planes: a tie leaves the plane of an earlier name")
 
     for plane in PLANES:
         word = _rating(store, plane)

@@ -9,7 +9,10 @@ import collections
 import pathlib
 
 counts = collections.Counter()
-rows = collections.Counter()
+rows = collections.Counter()  # (slot, number) for which a reading was looked up
+without_row = collections.Counter()  # slots, where the number had none
+stale = collections.Counter()  # slots, where an earlier text stayed then
+gave_up = collections.Counter()  # calculators that failed
 
 
 def reached(rule):
@@ -18,6 +21,12 @@ def reached(rule):
 
 def row_reached(slot, number):
     rows[slot, number] += 1
+
+
+def no_row_reached(slot, text_that_stays):
+    without_row[slot] += 1
+    if text_that_stays:
+        stale[slot] += 1
 
 
 def all_rules():

@@ -1,6 +1,6 @@
 """All that lives as long as the process: the person, the slots of all results, the clock."""
 
-from numerology.rules import reached
+from numerology.rules import no_row_reached, reached
 from numerology.text import units
 
 
@@ -98,6 +98,7 @@ class State:
         the number has none. `table` is the slot that the book lists the readings under."""
         text = self.book.reading(table or slot, number)
         if text is None:
+            no_row_reached(slot, getattr(self.store, slot))
             return False
         setattr(self.store, slot, text)
         return True
