@@ -11,6 +11,7 @@ import collections
 import json
 import os
 import random
+import shlex
 import subprocess
 import sys
 import time
@@ -114,7 +115,9 @@ def tell(sequence, difference):
         print(("  > " if place == at else "    ") + sequences.described(command))
     for name, expected, answered in found:
         print(f"\n  {name}\n    model:   {_value(expected)}\n    program: {_value(answered)}")
-    print("\nAgain with: --replay " + repr(json.dumps(sequence)))
+    again = shlex.quote(json.dumps(sequence))
+    if len(again) < 4000:
+        print("\nAgain with: --replay " + again)
 
 
 def _value(value):
