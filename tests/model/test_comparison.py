@@ -109,6 +109,25 @@ class Comparison(unittest.TestCase):
         self.assertEqual((at, found[0][0]), (0, "program"))
         self.assertIn("ended with 1", found[0][2])
 
+    def test_a_program_that_ends_in_one_of_many_sequences(self):
+        class Mortal(BrokenProgram):
+            """Ends, with no answer to any of the sequences, where one writes a whole report."""
+
+            def send(self, *many):
+                super().send(*many)
+                if any(("comprehensive",) in sequence for sequence in many):
+                    self.results = []
+
+            def answers(self, count):
+                return super().answers(count) if self.results else ([], "the program ended")
+
+        mortal = Mortal(self.book, mock.patch.dict(essence.LAST_NAME_CHART, {}))
+        many = [[("pass",)], [("run", "Essence")], [("pass",), ("comprehensive",)], [("pass",)]]
+        at, sequence = compare.first_that_differs(many, self.book, mortal, mock.MagicMock())
+        self.assertEqual((at, sequence), (2, many[2]))
+        smallest, (_, found) = compare.shortest(sequence, self.book, mortal)
+        self.assertEqual((smallest, found[0][2]), ([("comprehensive",)], "the program ended"))
+
     def test_a_program_that_does_not_answer(self):
         sleeper = Program("sleep", "60")
         sleeper.patience = 0.2
