@@ -18,8 +18,9 @@ foreach(component window tool)
   install(FILES debian/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
           RENAME ${package} COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
-install(FILES ${PROJECT_SOURCE_DIR}/docs/user-guide.md ${PROJECT_SOURCE_DIR}/docs/windows.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
-        COMPONENT window EXCLUDE_FROM_ALL)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/user-guide.md ${PROJECT_SOURCE_DIR}/docs/sample-report.html
+              ${PROJECT_SOURCE_DIR}/docs/windows.md
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane COMPONENT window EXCLUDE_FROM_ALL)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/pictures DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
         COMPONENT window EXCLUDE_FROM_ALL)
 install(FILES debian/people.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane-report/examples
