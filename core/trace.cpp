@@ -27,6 +27,25 @@ void TraceRecorder::Abandon(const char *failure) { trace_.failure = failure; }
 
 namespace detail {
 
+void AddLine(const char16_t *label, int16 value, bool left) { recorder->Close(label, value, left); }
+
+void AddLine(const char16_t *label, std::u16string_view value, bool left) {
+    recorder->Close(label, std::u16string(value), left);
+}
+
+void AddLetter(char16_t character, int16 value, bool counted, int16 total) {
+    recorder->Add(Trace::Letter{character, value, counted, total});
+}
+
+void AddStep(Trace::StepKind kind, std::u16string_view from, int16 result,
+             std::initializer_list<int16> terms) {
+    recorder->Add(Trace::Step{kind, std::u16string(from), terms, result});
+}
+
+void AddStep(Trace::StepKind kind, int16 from, int16 result, std::initializer_list<int16> terms) {
+    AddStep(kind, std::u16string_view(DecimalText(from)), result, terms);
+}
+
 void AddDigitSum(std::u16string_view digits, int16 sum) {
     Trace::Step step{Trace::StepKind::DigitSum, std::u16string(digits), {}, sum};
     for (const char16_t digit : digits)
@@ -34,13 +53,8 @@ void AddDigitSum(std::u16string_view digits, int16 sum) {
     recorder->Add(std::move(step));
 }
 
-void AddStep(Trace::StepKind kind, std::u16string_view from, std::initializer_list<int16> terms,
-             int16 result) {
-    recorder->Add(Trace::Step{kind, std::u16string(from), terms, result});
-}
-
-void AddStep(Trace::StepKind kind, int16 from, std::initializer_list<int16> terms, int16 result) {
-    AddStep(kind, DecimalText(from), terms, result);
+void AddDigitSum(int16 value, int16 sum) {
+    AddDigitSum(std::u16string_view(DecimalText(value)), sum);
 }
 
 void AddFailure(const RuntimeFailure &failure) {
