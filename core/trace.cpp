@@ -33,8 +33,8 @@ void AddLine(const char16_t *label, std::u16string_view value, bool left) {
     recorder->Close(label, std::u16string(value), left);
 }
 
-void AddLetter(char16_t character, int16 value, bool counted, int16 total) {
-    recorder->Add(Trace::Letter{character, value, counted, total});
+void AddLetter(char16_t character, int16 value, bool admitted, int16 total) {
+    recorder->Add(Trace::Letter{character, value, admitted && value != 0, total});
 }
 
 void AddStep(Trace::StepKind kind, std::u16string_view from, int16 result,

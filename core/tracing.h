@@ -26,7 +26,7 @@ inline TraceRecorder *recorder = nullptr; ///< the one that is alive
 // same reason: a view would take its length at each call.)
 void AddLine(const char16_t *label, int16 value, bool left);
 void AddLine(const char16_t *label, std::u16string_view value, bool left);
-void AddLetter(char16_t character, int16 value, bool counted, int16 total);
+void AddLetter(char16_t character, int16 value, bool admitted, int16 total);
 void AddStep(Trace::StepKind kind, std::u16string_view from, int16 result,
              std::initializer_list<int16> terms);
 void AddStep(Trace::StepKind kind, int16 from, int16 result, std::initializer_list<int16> terms);
@@ -58,10 +58,11 @@ template <typename Value> void TraceLeft(const char16_t *label, const Value &val
         detail::AddLine(label, value, true);
 }
 
-/// A character was looked at; see Trace::Letter.
-constexpr void TraceLetter(char16_t character, int16 value, bool counted, int16 total) {
+/// A character was looked at; see Trace::Letter. It is counted if the topic admits it and it has a
+/// value.
+constexpr void TraceLetter(char16_t character, int16 value, bool admitted, int16 total) {
     if (Tracing()) [[unlikely]]
-        detail::AddLetter(character, value, counted, total);
+        detail::AddLetter(character, value, admitted, total);
 }
 
 /// A step was made; see Trace::Step. `from` is a text or a number, `terms` are numbers.

@@ -49,7 +49,7 @@ int16 LetterInForce(std::u16string_view untrimmed, int16 age, Chart chart) {
                 years = Add(years, lasts);
                 value = lasts;
             }
-            TraceLetter(character, lasts, lasts != 0, years);
+            TraceLetter(character, lasts, true, years);
         }
         Traced(u"years of the letters", years);
     } while (unguarded && years < age);
