@@ -1,6 +1,7 @@
 #include "tools/batch_writer.h"
 
 #include "report/rtf.h"
+#include "tools/explanation.h"
 #include "tools/number_rows.h"
 #include "tools/reading.h"
 #include "tools/refusal.h"
@@ -20,6 +21,13 @@ PersonReading ReadAs(const Options &options, const modReadings::UserProfile &per
     if (options.head)
         reading.head = HeadOf(reading.person, reading.day);
     return reading;
+}
+
+/// What is written of one person on a page of their own: text or RTF.
+std::string PageOf(const Options &options, const modReadings::UserProfile &person) {
+    if (options.explain)
+        return ExplanationAsText(Explain(person, options.topics));
+    return ReadingAs(options.format, ReadAs(options, person));
 }
 
 /// All people in one output.
@@ -58,6 +66,10 @@ private:
         if (options_.numbers)
             return options_.format == Format::Json ? NumbersAsJson(person, line)
                                                    : NumbersAsRow(options_.format, person, line);
+        if (options_.explain)
+            return options_.format == Format::Json
+                       ? ExplanationAsJson(Explain(person, options_.topics), line)
+                       : PageOf(options_, person);
         const PersonReading reading = ReadAs(options_, person);
         if (options_.format == Format::Json)
             return ReadingAsJson(reading, line);
@@ -90,7 +102,7 @@ public:
         if (options_.noClobber && (present.exists() || present.isSymLink()))
             return;
         Output file(path, options_.noClobber ? Output::Kind::NewInFolder : Output::Kind::InFolder);
-        file.Write(ReadingAs(options_.format, ReadAs(options_, person)));
+        file.Write(PageOf(options_, person));
         file.Finish();
     }
 
@@ -120,8 +132,10 @@ std::string_view BetweenPeople(const Options &options) {
 }
 
 std::string AnswerTo(const modReadings::UserProfile &person, const Options &options) {
+    if (options.explain && options.format == Format::Json)
+        return ExplanationAsJson(Explain(person, options.topics));
     if (!options.numbers)
-        return ReadingAs(options.format, ReadAs(options, person));
+        return PageOf(options, person);
     if (options.format == Format::Json)
         return NumbersAsJson(person, {});
     return HeaderRow(options.format) + NumbersAsRow(options.format, person, {});
