@@ -106,6 +106,8 @@ Pieces PiecesOf(const std::vector<Trace::Step> &steps) {
     Pieces pieces;
     std::u16string last;
     for (const Trace::Step &step : steps) {
+        if (step.terms.size() == 1 && step.from == last)
+            continue; // a single digit stays as it is
         Close(pieces, ",");
         const bool reduces = step.kind == StepKind::DigitSum || step.kind == StepKind::Fold;
         if (step.kind == StepKind::Fold && step.from.size() > 2)

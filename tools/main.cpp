@@ -22,6 +22,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+void Complain(const QString &line) {
+    std::fprintf(stderr, "orravane-report: %s\n", OneLine(line).c_str());
+}
+
 void Print(const QString &fileName, const std::string &bytes) {
     Output output(fileName);
     output.Write(bytes);
@@ -68,7 +72,11 @@ ExitCode Run(int argc, char *argv[]) {
         return RunBatch(options);
     case Options::Task::Person: {
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
-        const auto person = CheckPerson(options.person, u"--"_s);
+        const auto person =
+            CheckPerson(options.normalize ? Composed(options.person) : options.person, u"--"_s);
+        if (const QString remark = DecomposedRemark(options.person, u"--"_s);
+            !options.normalize && !remark.isEmpty())
+            Complain(remark);
         Print(options.output, AnswerTo(person, options));
         break;
     }
@@ -88,7 +96,7 @@ int main(int argc, char *argv[]) {
     try {
         return static_cast<int>(Run(argc, argv));
     } catch (const Refusal &refusal) {
-        std::fprintf(stderr, "orravane-report: %s\n", OneLine(refusal.Line()).c_str());
+        Complain(refusal.Line());
         return static_cast<int>(refusal.Code());
     }
 }

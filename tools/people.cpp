@@ -103,6 +103,35 @@ void RefuseEndlessEssence(const UserProfile &person, const QString &prefix) {
 
 } // namespace
 
+PersonInput Composed(PersonInput input) {
+    for (QString *name : {&input.first, &input.middle, &input.last})
+        *name = name->normalized(QString::NormalizationForm_C);
+    return input;
+}
+
+QString DecomposedRemark(const PersonInput &input, const QString &prefix) {
+    const auto captured = [](const PersonInput &person) {
+        return modReadings::Captured({person.first, person.middle, person.last, {}, {}, {}});
+    };
+    const PersonInput composedInput = Composed(input);
+    if (composedInput.first == input.first && composedInput.middle == input.middle &&
+        composedInput.last == input.last)
+        return {};
+    const UserProfile typed = captured(input);
+    const UserProfile composed = captured(composedInput);
+    QStringList names;
+    for (const auto &[name, slot] : {std::pair("first"_L1, &UserProfile::FirstName),
+                                     {"middle"_L1, &UserProfile::MiddleName},
+                                     {"last"_L1, &UserProfile::LastName}})
+        if (typed.*slot != composed.*slot)
+            names << prefix + name;
+    if (names.isEmpty())
+        return {};
+    return names.join(u", "_s) +
+           u": not in composed letters (Unicode NFC), which can count differently; --normalize "
+           "composes them"_s;
+}
+
 UserProfile CheckPerson(const PersonInput &given, const QString &prefix) {
     const auto refusal = [&](QLatin1StringView name, const QString &value, const QString &allowed) {
         return Refusal(value.isEmpty() ? u"%1 is missing or empty; %2"_s.arg(prefix + name, allowed)

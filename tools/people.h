@@ -17,6 +17,14 @@ struct PersonInput {
     QString date{}; ///< YYYY-MM-DD in place of month, day and year; empty otherwise
 };
 
+/// `input` with the letters of its names composed (Unicode NFC).
+PersonInput Composed(PersonInput input);
+
+/// What to tell of a person whose captured names would be others if they were composed: a line
+/// that names the inputs, with `prefix` in front, and what helps. Empty where composing changes
+/// nothing.
+QString DecomposedRemark(const PersonInput &input, const QString &prefix = {});
+
 /// Checks `input` against what the window's boxes and lists allow: names not empty, an
 /// English month name, its abbreviation or 1 to 12, a day from 1 to 31, a year from 1900 to
 /// 2050; whether the month has that day is not asked. Also refuses a name that is too long for
