@@ -5,10 +5,12 @@
 #include "core/int16.h"
 #include "core/tracing.h"
 
+#include <concepts>
+
 namespace modReadings {
 
 /// Checked sum of all arguments, as Add makes it.
-template <typename... Rest> constexpr int16 Total(int16 first, Rest... rest) {
+constexpr int16 Total(int16 first, std::same_as<int16> auto... rest) {
     const int16 sum = Add(first, rest...);
     TraceStep(Trace::StepKind::Sum, u"", sum, first, rest...);
     return sum;

@@ -23,7 +23,11 @@ void TraceRecorder::Close(std::u16string_view label, std::variant<int16, std::u1
         {label, std::move(value), left, std::exchange(steps_, {}), std::exchange(letters_, {})});
 }
 
-void TraceRecorder::Abandon(const char *failure) { trace_.failure = failure; }
+void TraceRecorder::Abandon(const char *failure) {
+    steps_.clear();
+    letters_.clear();
+    trace_.failure = failure;
+}
 
 namespace detail {
 

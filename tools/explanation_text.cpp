@@ -180,11 +180,14 @@ Pieces NamesOf(const std::vector<Trace::Letter> &letters) {
 Pieces ValueOf(const Trace::Line &line) {
     if (const int16 *number = std::get_if<int16>(&line.value))
         return {std::to_string(*number)};
-    const std::u16string_view text = TrimBlanks(std::get<std::u16string>(line.value));
+    const std::u16string &whole = std::get<std::u16string>(line.value);
+    if (whole.size() == 1)
+        return {Shown(whole.front())};
+    const std::u16string_view text = TrimBlanks(whole);
     if (text.empty())
         return {line.left ? "empty" : "none"};
     if (!line.left)
-        return text.size() == 1 ? Pieces{Shown(text.front())} : WordsOf(ToUtf8(text));
+        return WordsOf(ToUtf8(text));
     return WordsOf(
         '"' +
         OneLine(Excerpt(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())))) +
@@ -331,10 +334,11 @@ void AppendName(std::string &text, const NameSheet &sheet) {
 } // namespace
 
 std::string ExplanationAsText(const Explanation &explanation) {
+    const Report head = HeadOf(explanation.person, explanation.day);
     std::string text;
-    for (const Run &run : HeadOf(explanation.person, explanation.day))
-        std::ranges::copy_if(ToUtf8(run.text), std::back_inserter(text),
-                             [](char c) { return c != '\r'; });
+    AppendWrapped(text, WordsOf(ToUtf8(head[0].text)), 0);
+    std::ranges::copy_if(ToUtf8(head[1].text).substr(2), std::back_inserter(text),
+                         [](char c) { return c != '\r'; });
     text += '\n';
     AppendName(text, explanation.name);
     for (const TopicExplanation &topic : explanation.topics)

@@ -49,6 +49,7 @@ Examples:
   orravane-report --first Ada --last Moreau --date 1984-05-07
   orravane-report --first Ada --last Moreau --month May --day 7 --year 1984 \
       --topic "Comprehensive Reading" -f rtf -o ada.rtf
+  orravane-report --first Ada --last Moreau --date 1984-05-07 --explain
   orravane-report --batch people.csv --topic "Life Path Number" > numbers.jsonl
   orravane-report --batch people.csv.gz --output-dir reports
 
