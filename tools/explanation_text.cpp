@@ -303,7 +303,7 @@ void AppendName(std::string &text, const NameSheet &sheet) {
                                       {NamePart::Middle, "middle name"},
                                       {NamePart::Last, "last name"}}) {
         const auto end = std::ranges::find_if(
-            rest, [part](NamePart other) { return other != part; }, &NameLetter::part);
+            rest, [part = part](NamePart other) { return other != part; }, &NameLetter::part);
         const auto letters = rest.first(static_cast<std::size_t>(end - rest.begin()));
         rest = rest.subspan(letters.size());
         AppendLetters(text, title, letters);
