@@ -50,7 +50,9 @@ std::string Shown(char16_t character) {
     if (character == u' ')
         return "blank";
     const QChar shown(character);
-    if (shown.isPrint() && !shown.isMark() && !shown.isSpace() && !shown.isSurrogate())
+    const bool leftwards = shown.direction() == QChar::DirR || shown.direction() == QChar::DirAL;
+    if (shown.isPrint() && !shown.isMark() && !shown.isSpace() && !shown.isSurrogate() &&
+        !leftwards)
         return ToUtf8(std::u16string_view(&character, 1));
     char code[8];
     std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(character));

@@ -25,8 +25,8 @@ struct Explanation {
 Explanation Explain(const modReadings::UserProfile &person,
                     std::span<const std::u16string_view> captions);
 
-/// One character of a name as a message shows it: "A", "blank", or "U+0301" for one that has no
-/// sight of its own or acts on a terminal.
+/// One character of a name as a row of characters shows it: "A", "blank", or "U+0301" for one that
+/// cannot stand by itself, acts on a terminal or runs from right to left.
 std::string Shown(char16_t character);
 
 /// A sheet of at most 79 columns: the person, the name letter by letter, a block a topic.

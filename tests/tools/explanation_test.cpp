@@ -380,6 +380,27 @@ TEST_F(ExplanationTest, SaysWhatIsOfTheRunBefore) {
     }
 }
 
+// Letters that add up to more than the sums hold; the tool refuses such a name before.
+TEST_F(ExplanationTest, SaysWhereACalculatorGaveUp) {
+    EXPECT_EQ(Block({QString(3641, u'I'), {}, "Lee", "May", "1", "2000"},
+                    u"Destiny / Expressions Number"),
+              "Destiny / Expressions Number: 0\n"
+              "  given up  overflow; what follows is left as it was\n");
+}
+
+TEST(Shown, IsACodeForWhatCannotStandByItself) {
+    EXPECT_EQ(Shown(u'A'), "A");
+    EXPECT_EQ(Shown(u' '), "blank");
+    EXPECT_EQ(Shown(u'\u0416'), "\u0416");
+    for (const auto &[character, code] : {std::pair(u'\u0301', "U+0301"),
+                                          {u'\t', "U+0009"},
+                                          {u'\u00A0', "U+00A0"},
+                                          {u'\u202E', "U+202E"},
+                                          {u'\u05D0', "U+05D0"},
+                                          {u'\xDE00', "U+DE00"}})
+        EXPECT_EQ(Shown(character), code);
+}
+
 // The numbers are those of the reading, which a click on each topic shows.
 TEST_F(ExplanationTest, IsOfTheRunThatTheReadingShows) {
     for (const Person &person : {anna, Person{"Sky", {}, "Lynn5", "October", "13", "1999"}}) {
