@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <iterator>
 #include <span>
 #include <utility>
@@ -97,6 +98,23 @@ bool IsTitle(std::u16string_view line) {
 
 bool HasTitles(TextSlot slot) { return slot == &S::KarmicLessonsText || slot == &S::PlanesAbout; }
 
+/// Where the first line break of `text` is, or npos. memchr looks at many bytes at once, which
+/// find does not; the byte may be half of another character.
+std::size_t FindLineBreak(std::u16string_view text) {
+    const char *const begin = reinterpret_cast<const char *>(text.data());
+    const char *const end = begin + text.size() * sizeof(char16_t);
+    for (const char *at = begin; at < end; ++at) {
+        at = static_cast<const char *>(
+            std::memchr(at, lineBreak.front(), static_cast<std::size_t>(end - at)));
+        if (at == nullptr)
+            break;
+        const std::size_t index = static_cast<std::size_t>(at - begin) / sizeof(char16_t);
+        if (text[index] == lineBreak.front())
+            return index;
+    }
+    return text.npos;
+}
+
 /// `text` in parts, a new one at each line that is a title.
 void AppendSections(std::vector<DocumentPart> &parts, std::u16string_view text, bool explains) {
     DocumentPart part;
@@ -108,7 +126,7 @@ void AppendSections(std::vector<DocumentPart> &parts, std::u16string_view text, 
         part.explains = explains;
     };
     while (!text.empty()) {
-        const std::size_t end = text.find(lineBreak.front());
+        const std::size_t end = FindLineBreak(text);
         const std::u16string_view line = text.substr(0, end);
         text.remove_prefix(end == text.npos ? text.size() : end + lineBreak.size());
         if (IsTitle(line)) {
@@ -202,8 +220,10 @@ DocumentTopic TopicFor(Calculator calculate, std::chrono::year_month_day day, in
     made.speaksOf = SpeaksOf(topic, day, age);
     made.parts = PartsOf(topic, report);
     std::size_t count = 0;
-    for (DocumentPart &part : made.parts)
-        part.id = std::string(made.id) + '-' + std::to_string(++count);
+    for (DocumentPart &part : made.parts) {
+        part.id.reserve(made.id.size() + 4);
+        part.id.append(made.id).append(1, '-').append(std::to_string(++count));
+    }
     ReferToEarlierParts(made.parts);
     return made;
 }
