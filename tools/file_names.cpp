@@ -53,6 +53,13 @@ bool IsDevice(const QString &name) {
     return device.match(name).hasMatch();
 }
 
+/// `name` with a "_" in front, if it needs one.
+QString SafeStart(const QString &name) {
+    const bool bad = name.isEmpty() || name.front() == u'.' || name.front() == u'-' ||
+                     name.front() == u' ' || IsDevice(name);
+    return bad ? u'_' + name : name;
+}
+
 } // namespace
 
 FileNames::FileNames(QString pattern) : pattern_(std::move(pattern)) {
@@ -108,8 +115,9 @@ QString FileNames::Of(const modReadings::UserProfile &person, long long line,
         name += Safe(QString::fromStdU16String(value), room / names);
     }
     name += QStringView(pattern_).sliced(end);
-    const QChar start = name.front();
-    if (start == u'.' || start == u'-' || start == u' ' || IsDevice(name))
-        name.prepend(u'_');
-    return name + ending;
+    return SafeStart(name) + ending;
+}
+
+QString SafeFileName(const QString &wanted, const QString &ending) {
+    return SafeStart(Safe(wanted, mostBytes - 1 - ending.toUtf8().size())) + ending;
 }

@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/text.h"
 #include "report/html.h"
+#include "report/markdown.h"
 #include "report/rtf.h"
 #include "tools/text.h"
 
@@ -170,6 +171,8 @@ std::string ReadingAs(Format format, const PersonReading &reading) {
         return ReadingAsRtf(reading);
     case Format::Text:
     case Format::Html:
+    case Format::Pdf:
+    case Format::Markdown:
     case Format::Csv:
     case Format::Tsv:
         break;
@@ -177,10 +180,12 @@ std::string ReadingAs(Format format, const PersonReading &reading) {
     return ReadingAsText(reading);
 }
 
-std::string DocumentAs(Format, const modReadings::UserProfile &person,
+std::string DocumentAs(Format format, const modReadings::UserProfile &person,
                        const modReadings::GivenName &given) {
-    return modReadings::ToHtml(
-        modReadings::MakeDocument(person, given, modReadings::Clock::Date()));
+    const modReadings::Document document =
+        modReadings::MakeDocument(person, given, modReadings::Clock::Date());
+    return format == Format::Markdown ? modReadings::ToMarkdown(document)
+                                      : modReadings::ToHtml(document);
 }
 
 std::string ErrorAsJson(const LineFacts &line, std::string_view message) {

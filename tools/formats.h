@@ -10,10 +10,12 @@
 #include <string>
 #include <string_view>
 
-enum class Format { Text, Json, Rtf, Html, Csv, Tsv };
+enum class Format { Text, Json, Rtf, Html, Pdf, Markdown, Csv, Tsv };
 
 /// Whether it is a document of one person to hand over, which holds all topics and more.
-constexpr bool IsDocument(Format format) { return format == Format::Html; }
+constexpr bool IsDocument(Format format) {
+    return format == Format::Html || format == Format::Pdf || format == Format::Markdown;
+}
 
 /// Who is read, as it stands above the first topic: the names, the dates of birth and of the
 /// reading. What a terminal might act on in a name is written out.
@@ -47,7 +49,8 @@ std::string ReadingAsRtfBody(const PersonReading &reading);
 /// One of the three above: Text, Json or Rtf.
 std::string ReadingAs(Format format, const PersonReading &reading);
 
-/// The document of `person`, read for the present day, in a format that makes one: Html.
+/// The document of `person`, read for the present day: as Markdown, or as HTML, of which a PDF
+/// is made too.
 std::string DocumentAs(Format format, const modReadings::UserProfile &person,
                        const modReadings::GivenName &given);
 

@@ -18,6 +18,26 @@ struct PersonInput {
     QString date{}; ///< YYYY-MM-DD in place of month, day and year; empty otherwise
 };
 
+/// What messages call the inputs: such as "--first" on the command line and "first" in a batch.
+struct InputNames {
+    /// The names of the members or columns of a batch.
+    InputNames() : InputNames(QString()) {}
+
+    /// The same with `prefix` in front.
+    explicit InputNames(const QString &prefix);
+
+    /// Those of a batch, made once.
+    static const InputNames &OfColumns();
+
+    QString first;
+    QString middle;
+    QString last;
+    QString month;
+    QString day;
+    QString year;
+    QString date;
+};
+
 /// The names of `input`, as they were typed.
 modReadings::GivenName GivenNameOf(const PersonInput &input);
 
@@ -26,6 +46,6 @@ modReadings::GivenName GivenNameOf(const PersonInput &input);
 /// 2050; whether the month has that day is not asked. Also refuses a name that is too long for
 /// its sums, and one whose Essence would never come to an end in the present year. Returns
 /// the person captured as the window does it, with the English name of the month. Throws
-/// Refusal with a line that names the input, with `prefix` in front ("--first" on the
-/// command line, "first" in a batch), and says what is allowed.
-modReadings::UserProfile CheckPerson(const PersonInput &input, const QString &prefix = {});
+/// Refusal with a line that names the input as `names` has it, and says what is allowed.
+modReadings::UserProfile CheckPerson(const PersonInput &input,
+                                     const InputNames &names = InputNames::OfColumns());
