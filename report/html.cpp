@@ -3,6 +3,7 @@
 #include "document_style.h"
 #include "report/html_pictures.h"
 #include "report/html_writer.h"
+#include "report/utf8.h"
 
 #include <cstdio>
 
@@ -52,25 +53,16 @@ std::u16string ShortName(std::u16string_view name) {
 /// `text` within quotation marks of CSS. All but letters, digits and blanks of ASCII is written
 /// by its number, so that nothing in it can end the style.
 void WriteCssString(HtmlWriter &html, std::u16string_view text) {
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        char32_t character = text[at];
-        const bool plain = character == U' ' || (character >= U'0' && character <= U'9') ||
-                           (character >= U'A' && character <= U'Z') ||
-                           (character >= U'a' && character <= U'z');
-        if (plain) {
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t character = TakeCharacter(text, at);
+        if (character == U' ' || (character >= U'0' && character <= U'9') ||
+            (character >= U'A' && character <= U'Z') || (character >= U'a' && character <= U'z')) {
             html << static_cast<char>(character);
             continue;
         }
-        const bool pair = character >= 0xD800 && character < 0xDC00 && at + 1 < text.size() &&
-                          text[at + 1] >= 0xDC00 && text[at + 1] < 0xE000;
-        if (pair)
-            character = 0x10000U + ((character - 0xD800U) << 10) + (text[++at] - 0xDC00U);
-        else if (character >= 0xD800 && character < 0xE000)
-            character = 0xFFFD;
-        if (character < 0x20 || (character >= 0x7F && character < 0xA0))
-            character = 0xFFFD;
         char number[16];
-        std::snprintf(number, sizeof number, "\\%06X", static_cast<unsigned>(character));
+        std::snprintf(number, sizeof number, "\\%06X",
+                      static_cast<unsigned>(MayStandInDocument(character) ? character : 0xFFFD));
         html << static_cast<const char *>(number);
     }
 }

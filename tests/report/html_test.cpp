@@ -63,6 +63,14 @@ TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
               std::string::npos);
 }
 
+// What could end the style, and what could end the text within it.
+TEST(Html, WritesTheNameAtTheTopOfThePagesByNumbers) {
+    const std::string html = HtmlFor(u"Ann</style>\"\\\xD83D", u"Lee\U0001F600");
+    EXPECT_NE(html.find("@top-left { content: \"Ann\\00003C\\00002Fstyle\\00003E\\000022\\00005C"
+                        "\\00FFFD Lee\\01F600\"; }"),
+              std::string::npos);
+}
+
 TEST(Html, CutsALongNameWhereThereIsLittleRoom) {
     const std::string html = HtmlFor(std::u16string(59, u'A') + u"\U0001F600", u"Lee");
     EXPECT_NE(html.find("<title>" + std::string(59, 'A') + "\u2026 "), std::string::npos);
