@@ -61,7 +61,7 @@ void WriteCssString(HtmlWriter &html, std::u16string_view text) {
             continue;
         }
         char number[16];
-        std::snprintf(number, sizeof number, "\\%06X",
+        std::snprintf(number, sizeof number, "\\%X ", // the blank ends the number
                       static_cast<unsigned>(MayStandInDocument(character) ? character : 0xFFFD));
         html << static_cast<const char *>(number);
     }

@@ -63,11 +63,11 @@ TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
               std::string::npos);
 }
 
-// What could end the style, and what could end the text within it.
+// What could end the style, and what could end the text within it. A blank ends each number.
 TEST(Html, WritesTheNameAtTheTopOfThePagesByNumbers) {
     const std::string html = HtmlFor(u"Ann</style>\"\\\xD83D", u"Lee\U0001F600");
-    EXPECT_NE(html.find("@top-left { content: \"Ann\\00003C\\00002Fstyle\\00003E\\000022\\00005C"
-                        "\\00FFFD Lee\\01F600\"; }"),
+    EXPECT_NE(html.find("@top-left { content: \"Ann\\3C \\2F style\\3E \\22 \\5C \\FFFD  Lee"
+                        "\\1F600 \"; }"),
               std::string::npos);
 }
 
