@@ -627,6 +627,17 @@ std::vector<InForce> InForceToday(Document &document) {
     return today;
 }
 
+std::u16string NoteOnToday(const Document &document) {
+    std::u16string note = Joined(u"This is the reading for ", document.readFor, u". ");
+    if (document.age < 0)
+        return note + u"It is made before the year of birth.";
+    note += Joined(u"The age is ", DecimalText(document.age),
+                   u", counted in calendar years whatever the month of birth is.");
+    if (std::ranges::none_of(document.life.pinnacles, &LifeSpan::inForce))
+        note += u" No pinnacle is in force at this age.";
+    return note;
+}
+
 std::u16string FullName(const GivenName &given) {
     std::u16string name;
     for (const std::u16string_view part :
@@ -688,6 +699,7 @@ Document MakeDocument(const UserProfile &person, const GivenName &given,
     document.life = PictureOfLife(document);
     document.planes = PictureOfPlanes();
     document.today = InForceToday(document);
+    document.todayNote = NoteOnToday(document);
     document.time = PictureOfTime(person, day); // last: it leaves other years in the slots
     return document;
 }

@@ -147,6 +147,7 @@ struct Document {
     std::vector<NumberGroup> glance;
     int16 age = 0; ///< as the calculators count it
     std::vector<InForce> today;
+    std::u16string todayNote; ///< the day, the age and how it counts, in sentences
 
     NamePicture letters;
     ValuesPicture values;

@@ -133,14 +133,8 @@ void WriteGlance(HtmlWriter &html, const Document &document) {
 }
 
 void WriteToday(HtmlWriter &html, const Document &document) {
-    html << "<section id=\"today\">\n<h2>In force today</h2>\n<p>This is the reading for "
-         << document.readFor << ". ";
-    if (document.age < 0)
-        html << "It is made before the year of birth.";
-    else
-        html << "The age is " << int{document.age}
-             << ", counted in calendar years whatever the month of birth is.";
-    html << "</p>\n<table class=\"today\" aria-label=\"In force today\">\n<thead><tr>"
+    html << "<section id=\"today\">\n<h2>In force today</h2>\n<p>" << document.todayNote
+         << "</p>\n<table class=\"today\" aria-label=\"In force today\">\n<thead><tr>"
             "<th scope=\"col\">Topic</th><th scope=\"col\" class=\"number\">Number</th></tr>"
             "</thead>\n<tbody>\n";
     for (const InForce &each : document.today) {
