@@ -195,7 +195,7 @@ void ReferToEarlierParts(std::vector<DocumentPart> &parts) {
 
 /// The day, month or year of which a topic speaks.
 std::u16string SpeaksOf(const Topic &topic, std::chrono::year_month_day day, int16 age) {
-    const std::u16string year = Number(static_cast<int>(day.year()));
+    std::u16string year = Number(static_cast<int>(day.year()));
     if (topic.calculate == CalcPersonalYear)
         return year;
     if (topic.calculate == CalcPersonalMonth)
@@ -444,13 +444,14 @@ ValuesPicture PictureOfValues() {
 
 std::u16string SpansInWords(std::u16string_view what, std::span<const LifeSpan> spans) {
     std::vector<std::u16string> items;
-    for (std::size_t index = 0; index < spans.size(); ++index)
-        items.push_back(Joined(DecimalText(spans[index].number), u" ", InWords(spans[index].ages),
-                               spans[index].inForce ? u" (in force today)" : u""));
+    items.reserve(spans.size());
+    for (const LifeSpan &span : spans)
+        items.push_back(Joined(DecimalText(span.number), u" ", InWords(span.ages),
+                               span.inForce ? u" (in force today)" : u""));
     return Joined(what, Enumerated(items), u". ");
 }
 
-/// "Age 41", "before birth".
+/// "age 41", "before the year of birth".
 std::u16string AgeInWords(int16 age) {
     return age < 0 ? std::u16string(u"before the year of birth") : u"age " + DecimalText(age);
 }
