@@ -183,7 +183,7 @@ void ReferToEarlierParts(std::vector<DocumentPart> &parts) {
         DocumentPart &part = parts[index];
         const auto end = parts.begin() + static_cast<std::ptrdiff_t>(index);
         const auto first = std::find_if(parts.begin(), end, [&](const DocumentPart &earlier) {
-            return !part.text.empty() && earlier.text == part.text;
+            return !part.text.empty() && !earlier.id.empty() && earlier.text == part.text;
         });
         if (first == end)
             continue;
@@ -221,6 +221,10 @@ DocumentTopic TopicFor(Calculator calculate, std::chrono::year_month_day day, in
     made.parts = PartsOf(topic, report);
     std::size_t count = 0;
     for (DocumentPart &part : made.parts) {
+        if (part.label.empty()) {
+            ++count; // nothing leads there
+            continue;
+        }
         part.id.reserve(made.id.size() + 4);
         part.id.append(made.id).append(1, '-').append(std::to_string(++count));
     }
@@ -298,9 +302,11 @@ std::u16string RemarkInTable(const DocumentTopic &topic, Calculator calculate) {
 
 std::vector<NumberGroup> Glance(Document &document) {
     std::vector<NumberGroup> glance;
+    glance.reserve(GlanceGroups().size());
     for (const GlanceGroup &group : GlanceGroups()) {
         NumberGroup &made = glance.emplace_back();
         made.title = group.title;
+        made.rows.reserve(group.calculators.size());
         for (const Calculator calculate : group.calculators) {
             const DocumentTopic &topic = TopicIn(document, calculate);
             made.rows.push_back({topic.caption, topic.id, NumberInTable(topic, calculate),
@@ -395,12 +401,16 @@ NamePicture PictureOfName() {
 
     picture.text.id = "name-picture";
     picture.text.title = u"The name in letters and numbers";
-    picture.text.legend =
-        u"Above a vowel and below a consonant stands its value; what is pale has no value. "
-        u"All letters make the Destiny, the vowels the Soul Urge, the consonants the Inner "
-        u"Dreams.";
-    if (has(LetterKind::YAsVowel))
-        picture.text.legend += u" A name without a vowel counts each Y on both sides.";
+    picture.text.legend = has(LetterKind::YAsVowel)
+                              ? u"Above a vowel and below a consonant stands its value; what is "
+                                u"pale has no value. All "
+                                u"letters make the Destiny, the vowels the Soul Urge, the "
+                                u"consonants the Inner Dreams. "
+                                u"A name without a vowel counts each Y on both sides."
+                              : u"Above a vowel and below a consonant stands its value; what is "
+                                u"pale has no value. All "
+                                u"letters make the Destiny, the vowels the Soul Urge, the "
+                                u"consonants the Inner Dreams.";
     return picture;
 }
 
@@ -459,6 +469,9 @@ std::u16string AgeInWords(int16 age) {
 LifePicture PictureOfLife(Document &document) {
     LifePicture picture;
     picture.age = document.age;
+    picture.periods.reserve(3);
+    picture.pinnacles.reserve(4);
+    picture.challenges.reserve(4);
 
     const auto add = [](std::vector<LifeSpan> &spans, int16 number, const Ages &ages, bool inForce,
                         DocumentPart *place) {
@@ -517,8 +530,12 @@ LifePicture PictureOfLife(Document &document) {
 
 TimePicture PictureOfTime(const UserProfile &person, std::chrono::year_month_day day) {
     FixedClock clock(day);
+    constexpr int yearsAhead = 9;
+    constexpr int monthsAhead = 12;
     TimePicture picture;
-    for (int ahead = 0; ahead < 9; ++ahead) {
+    picture.years.reserve(yearsAhead);
+    picture.months.reserve(monthsAhead);
+    for (int ahead = 0; ahead < yearsAhead; ++ahead) {
         clock.Set((day.year() + std::chrono::years(ahead)) / day.month() / 1);
         TimePicture::Year &year = picture.years.emplace_back();
         year.year = Clock::Year();
@@ -530,7 +547,7 @@ TimePicture PictureOfTime(const UserProfile &person, std::chrono::year_month_day
             year.essence = store.EssenceNumber;
         }
     }
-    for (int ahead = 0; ahead < 12; ++ahead) {
+    for (int ahead = 0; ahead < monthsAhead; ++ahead) {
         const auto month = day.year() / day.month() + std::chrono::months(ahead);
         clock.Set(month / 1);
         CalcPersonalMonth();
@@ -609,6 +626,7 @@ PlanesPicture PictureOfPlanes() {
 
 std::vector<InForce> InForceToday(Document &document) {
     std::vector<InForce> today;
+    today.reserve(8);
     for (const Calculator calculate :
          {CalcPersonalYear, CalcPersonalMonth, CalcPersonalDay, CalcEssence}) {
         if (calculate == CalcEssence && document.age < 0)

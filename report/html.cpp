@@ -162,8 +162,10 @@ void WriteTopic(HtmlWriter &html, const DocumentTopic &topic) {
         html << "<p class=\"when\"><span class=\"mark\">in force today</span> It speaks of "
              << topic.speaksOf << ".</p>\n";
     for (const DocumentPart &part : topic.parts) {
-        html << (part.explains ? "<div class=\"part about\" id=\"" : "<div class=\"part\" id=\"")
-             << std::string_view(part.id) << "\">\n";
+        html << (part.explains ? "<div class=\"part about\"" : "<div class=\"part\"");
+        if (!part.id.empty())
+            html << " id=\"" << std::string_view(part.id) << '"';
+        html << ">\n";
         if (!part.label.empty())
             html << "<h4>" << part.label
                  << (part.inForce ? " <span class=\"mark\">in force today</span></h4>\n"

@@ -72,8 +72,11 @@ TEST(Document, HasTheTopicsOfThePassWithTheTextsOfTheRendering) {
             EXPECT_TRUE(ids.emplace(topic.id).second) << topic.id;
             std::u16string text = topic.heading + u'\n';
             for (const DocumentPart &part : topic.parts) {
-                EXPECT_TRUE(ids.insert(part.id).second) << part.id;
-                const auto first = std::ranges::find(topic.parts, part.sameAs, &DocumentPart::id);
+                EXPECT_EQ(part.id.empty(), part.label.empty());
+                EXPECT_TRUE(part.id.empty() || ids.insert(part.id).second) << part.id;
+                const auto first = part.sameAs.empty() ? topic.parts.end()
+                                                       : std::ranges::find(topic.parts, part.sameAs,
+                                                                           &DocumentPart::id);
                 EXPECT_EQ(first != topic.parts.end(), !part.sameAs.empty());
                 text += part.label + u'\n' +
                         (first == topic.parts.end() ? part.text : first->text) + u'\n';
