@@ -1,5 +1,7 @@
 #include "report/html_writer.h"
 
+#include "report/utf8.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
@@ -9,15 +11,6 @@
 namespace modReadings {
 
 namespace {
-
-constexpr bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-constexpr bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-constexpr bool IsAllowed(char32_t character) {
-    return character >= 0x20 && !(character >= 0x7F && character < 0xA0) &&
-           !(character >= 0xD800 && character < 0xE000) &&
-           !(character >= 0xFDD0 && character <= 0xFDEF) && (character & 0xFFFE) != 0xFFFE;
-}
 
 // Nearly all of a report is ASCII that stands for itself, and is narrowed sixteen units at a time,
 // in the vectors that GCC and clang have for every processor.
@@ -99,26 +92,9 @@ void HtmlWriter::PutCharacter(char32_t character, std::string_view lineBreak) {
     }
     if (character == U'\t')
         character = U' ';
-    if (!IsAllowed(character))
+    if (!MayStandInDocument(character))
         character = 0xFFFD;
-    const auto trail = [&](int shift) {
-        *this << static_cast<char>(0x80 | ((character >> shift) & 0x3F));
-    };
-    if (character < 0x80) {
-        *this << static_cast<char>(character);
-    } else if (character < 0x800) {
-        *this << static_cast<char>(0xC0 | (character >> 6));
-        trail(0);
-    } else if (character < 0x10000) {
-        *this << static_cast<char>(0xE0 | (character >> 12));
-        trail(6);
-        trail(0);
-    } else {
-        *this << static_cast<char>(0xF0 | (character >> 18));
-        trail(12);
-        trail(6);
-        trail(0);
-    }
+    PutUtf8(character, [this](char byte) { *this << byte; });
 }
 
 void HtmlWriter::Put(std::u16string_view text, std::string_view lineBreak) {
@@ -132,15 +108,12 @@ void HtmlWriter::Put(std::u16string_view text, std::string_view lineBreak) {
         }
         const std::size_t end = std::min(text.size(), at + blockSize);
         while (at < end) {
-            const char16_t unit = text[at++];
-            if (StandsForItself(unit)) {
-                out_[used_++] = static_cast<char>(unit); // there is room for all that is left
+            if (StandsForItself(text[at])) {
+                // there is room for all that is left
+                out_[used_++] = static_cast<char>(text[at++]);
                 continue;
             }
-            char32_t character = unit;
-            if (IsHighSurrogate(unit) && at < text.size() && IsLowSurrogate(text[at]))
-                character = 0x10000U + ((character - 0xD800U) << 10) +
-                            (static_cast<char32_t>(text[at++]) - 0xDC00U);
+            const char32_t character = TakeCharacter(text, at);
             PutCharacter(character, lineBreak);
             Reserve(text.size() - at);
         }

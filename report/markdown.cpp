@@ -13,6 +13,16 @@ constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 constexpr bool IsPunctuation(char c) { return c > ' ' && c < 0x7F && !IsDigit(c) && !IsLetter(c); }
 
+/// The character of `text` at `at`, which moves behind it, as Markdown can hold it: what
+/// separates lines, and a tab, is a blank.
+char32_t NextCharacter(std::u16string_view text, std::size_t &at) {
+    const char32_t character = TakeCharacter(text, at);
+    if (character == U'\t' || character == U'\r' || character == U'\n' || character == 0x2028 ||
+        character == 0x2029)
+        return U' ';
+    return MayStandInDocument(character) ? character : char32_t{0xFFFD};
+}
+
 /// `text` with a backslash before each character of ASCII of which `isMarkup` says so.
 template <typename IsMarkup> std::string Escaped(std::u16string_view text, IsMarkup isMarkup) {
     std::string escaped;
@@ -20,7 +30,7 @@ template <typename IsMarkup> std::string Escaped(std::u16string_view text, IsMar
         const char32_t character = NextCharacter(text, at);
         if (character < 0x80 && isMarkup(static_cast<char>(character)))
             escaped += '\\';
-        AppendUtf8(escaped, character);
+        PutUtf8(character, [&escaped](char byte) { escaped += byte; });
     }
     return escaped;
 }
@@ -123,7 +133,7 @@ std::string ToMarkdown(const Document &document) {
     for (const NumberGroup &group : document.glance)
         markdown += GlanceTable(group);
 
-    markdown += Heading(1, "In force today", "today");
+    markdown += Heading(1, "In force today", "today") + Paragraphs(document.todayNote);
     for (const InForce &each : document.today)
         markdown += "- " + Link(Text(each.what), each.id) + ' ' + Text(each.number) + ", " +
                     Text(each.when) + '\n';
