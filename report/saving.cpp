@@ -1,12 +1,12 @@
 #include "report/saving.h"
 
+#include "report/borrowed_settings.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QSaveFile>
-#include <QSettings>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -21,29 +21,6 @@ public:
 
 private:
     const QString before_ = QDir::currentPath();
-};
-
-/// While it lives, the settings that all programs of the toolkit share are a copy: what is
-/// noted there of a file dialog, such as the folders that were looked at, goes with it. Only
-/// the day of the update question outlasts a run.
-class BorrowedSettings {
-public:
-    BorrowedSettings() {
-        if (!copy_.isValid())
-            return;
-        const QFileInfo shared(original_);
-        QFile::copy(original_, copy_.filePath(shared.fileName()));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, copy_.path());
-    }
-    ~BorrowedSettings() {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           QFileInfo(original_).absolutePath());
-    }
-    Q_DISABLE_COPY_MOVE(BorrowedSettings)
-
-private:
-    const QString original_ = QSettings(QSettings::UserScope, u"QtProject"_s).fileName();
-    const QTemporaryDir copy_;
 };
 
 /// The file that is written under this name: the one that a link leads to.

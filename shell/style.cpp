@@ -1,6 +1,6 @@
 #include "shell/style.h"
 
-#include "shell/image_list.h"
+#include "shell/artwork.h"
 
 #include <QIconEngine>
 
@@ -19,7 +19,7 @@ public:
         DrawArtwork(*painter, name_, rect);
     }
     QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override {
-        return RenderArtwork(name_, size);
+        return LoadArtwork(name_, size);
     }
     QIconEngine *clone() const override { return new ArtworkIcon(name_); }
 
@@ -106,6 +106,13 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+int DesktopStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                              const QWidget *widget) const {
+    if (metric == PM_MessageBoxIconSize)
+        return 48; // the size of the drawings, so that every display has a picture that fits
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 QIcon DesktopStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption *option,

@@ -6,17 +6,14 @@
 #include "tools/options.h"
 #include "tools/output.h"
 #include "tools/reading.h"
+#include "tools/system.h"
 #include "tools/text.h"
 #include "version.h"
 
 #include <QCoreApplication>
 
-#include <cerrno>
 #include <cstdio>
 #include <optional>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -28,18 +25,9 @@ void Print(const QString &fileName, const std::string &bytes) {
     output.Finish();
 }
 
-/// If the program was started with one of its three streams closed, the next file that it
-/// opens would take the number of that stream, and what is meant for the stream would go
-/// into the file. So each closed stream is occupied, by /dev/null opened in the direction
-/// in which the stream is not used: using the stream then fails, as it should.
-void OccupyClosedStreams() {
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-        if (fcntl(stream, F_GETFD) < 0 && errno == EBADF)
-            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-}
-
 ExitCode Run(int argc, char *argv[]) {
-    RequireUtf8(argc, argv);
+    if (ArgumentsAreBytes())
+        RequireUtf8(argc, argv);
     const Options options = ParseOptions(QCoreApplication::arguments());
 
     std::optional<modReadings::FixedClock> today;
@@ -84,7 +72,7 @@ ExitCode Run(int argc, char *argv[]) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    OccupyClosedStreams();
+    const StandardStreams streams;
     std::setvbuf(stdout, nullptr, _IONBF, 0); // a report leaves in one write, whole and at once
     qputenv("LC_ALL", "C.UTF-8");             // the tool speaks English and UTF-8 wherever it runs
     const QCoreApplication application(argc, argv);
