@@ -4,6 +4,7 @@
 #include "shell/style.h"
 
 #include <cmath>
+#include <numbers>
 
 BusyBar::BusyBar(QWidget *parent) : QProgressBar(parent) {
     setRange(0, 0);
@@ -28,7 +29,7 @@ void BusyBar::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     DrawBox(painter, rect(), {.frame = Colors::haze, .radius = 4, .ground = Colors::night});
     const double phase = std::fmod(static_cast<double>(shownFor_.elapsed()), thereAndBack);
-    const double place = 0.5 - 0.5 * std::cos(phase / thereAndBack * 2 * M_PI);
+    const double place = 0.5 - 0.5 * std::cos(phase / thereAndBack * 2 * std::numbers::pi);
     const int length = width() / 4;
     const QRect slider(2 + static_cast<int>(place * (width() - 4 - length)), 2, length,
                        height() - 4);

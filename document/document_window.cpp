@@ -6,6 +6,7 @@
 #include "document/check_box.h"
 #include "document/command_button.h"
 #include "report/saving.h"
+#include "shell/artwork.h"
 #include "shell/group.h"
 #include "shell/name_box.h"
 #include "shell/page.h"
@@ -226,7 +227,14 @@ QWidget *DocumentWindow::BuildFoot() {
 
 void DocumentWindow::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    DrawArtwork(painter, u"background"_s, QRect(QPoint(), skySize));
+    const QRect whole(QPoint(), skySize);
+    const QSize size = DeviceSize(painter, whole);
+    if (sky_.size() != size) // the first paint, or the window is on another display now
+        sky_ = LoadBackground(size);
+    DrawPicture(painter, whole, sky_);
+    // Beside the page, the right edge of the sky, which is wider than this window.
+    painter.setClipRect(QRect(pagePlace.right() + 1, pagePlace.top(), width(), pagePlace.height()));
+    DrawPicture(painter, whole.translated(width() - skySize.width(), 0), sky_);
 }
 
 void DocumentWindow::keyPressEvent(QKeyEvent *event) {

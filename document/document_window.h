@@ -6,6 +6,7 @@
 #include "shell/date_list.h"
 
 #include <QLabel>
+#include <QPixmap>
 #include <QWidget>
 
 #include <array>
@@ -73,6 +74,7 @@ private:
     void TakePdf(const PdfAnswer &answer);
     void Write(std::string_view content);
 
+    QPixmap sky_; ///< behind all
     PdfEngine engine_;
     QString file_; ///< of the document that is being made
 };

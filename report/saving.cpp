@@ -145,7 +145,7 @@ QString AskForFile(const SaveDialogLook &look, QWidget *parent) {
     // it is destroyed.
     const BorrowedSettings borrowed;
     SaveDialog dialog(parent, look, folder);
-    const QString name = dialog.AskForName();
+    QString name = dialog.AskForName();
     if (!name.isEmpty())
         folder = dialog.directory().absolutePath();
     return name;

@@ -16,6 +16,7 @@
 #include <QAccessible>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -307,6 +308,19 @@ private slots:
             QTest::keyClick(&*window_, letter, Qt::AltModifier);
             QCOMPARE(window_->focusWidget(), control);
         }
+    }
+
+    // Above and below the page and at both sides of it: nothing is left in the desktop's colour.
+    void TheSkyIsAllAroundThePage() {
+        const QImage image = window_->grab().toImage();
+        QSet<QRgb> colours;
+        for (int x = 0; x < image.width(); ++x)
+            for (const int y : {20, image.height() - 10})
+                colours << image.pixel(x, y);
+        QVERIFY(colours.size() > 50);
+        for (int y = 0; y < image.height(); ++y)
+            for (const int x : {2, image.width() - 3}) // the sky is dark, its lines are thin
+                QVERIFY2(qGray(image.pixel(x, y)) < 140, qPrintable(u"%1, %2"_s.arg(x).arg(y)));
     }
 
     void NothingIsCutOff() {
