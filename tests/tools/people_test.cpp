@@ -216,7 +216,8 @@ TEST_F(CheckPersonTest, ReadsANameComposedWhenItIsToldTo) {
 
 TEST(DecomposedRemark, IsThereOnlyWhereComposingChangesTheCapturedName) {
     const auto remark = [](const QString &first, const QString &middle, const QString &last) {
-        return DecomposedRemark({first, middle, last, "March", "7", "1990"}, InputNames(u"--"_s))
+        return DecomposedRemark({first, middle, last, "March", "7", "1990"},
+                                InputNames(QString("--")))
             .toStdString();
     };
     for (const char *composed : {"Anna", "Zo\u00E9", "O'Neil-2", "\u0416\u0425", "Q\u0301"})
