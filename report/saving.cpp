@@ -1,5 +1,7 @@
 #include "report/saving.h"
 
+#include "report/on_disk.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -16,8 +18,11 @@ void WriteWhole(const QString &name, const std::string &content) {
     QSaveFile file(name); // writes beside the file and takes its place at the end
     const auto size = static_cast<qint64>(content.size());
     // On a full disk a write can be cut short without failing, and a commit would then put
-    // the stump in place; only a flush tells.
-    if (file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size && file.flush())
+    // the stump in place; only a flush tells. And some file systems find out that there is no
+    // room, or that the disk is broken, only when the bytes have to be on it, which a commit
+    // asks for without heeding the answer.
+    if (file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size &&
+        file.flush() && IsOnDisk(file.handle()))
         file.commit();
 }
 
