@@ -74,7 +74,7 @@ void CalcLifePathPeriods();
 void CalcPinnacles();
 
 /// Four challenges, 0 to 8, each with a line and a reading. A 9, which takes an unknown
-/// month name or another part that counts nothing, has neither and leaves both alone.
+/// month name or another part that counts as 0, has neither and leaves both alone.
 /// Fails on a character of day or year that is no digit, with only ScratchIndex written.
 void CalcChallenges();
 

@@ -10,9 +10,6 @@
 
 namespace modReadings {
 
-/// One of the three names of a person.
-enum class NamePart { First, Middle, Last };
-
 /// The first of the names of `person` that would keep CalcEssence walking for ever at
 /// `age`, in whole years: at a positive age a name without a single letter that counts.
 /// F does not count in a last name. An empty middle name is not walked and is never the

@@ -35,6 +35,10 @@ struct NameTotalEntry {
     const Prose &prose;
 };
 
+/// What a trace calls the total and the number.
+inline constexpr std::u16string_view nameTotalLabel = u"sum of the letters";
+inline constexpr std::u16string_view nameNumberLabel = u"number";
+
 /// Takes ScratchSum as the finished total: writes raw value, number, reading and About.
 /// ScratchSum is left reduced.
 void StoreNameTotal(const NameTotalEntry &entry);

@@ -15,11 +15,11 @@ test_packages="
     appstream bash desktop-file-utils fish man-db zsh
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
-    weston x11-utils x11-xserver-utils xclip xdotool xvfb
+    weasyprint weston x11-utils x11-xserver-utils xclip xdotool xvfb
 "
 
 # What `--target readers` needs besides.
-reader_packages="libreoffice-writer-nogui unrtf"
+reader_packages="libreoffice-writer-nogui pandoc unrtf"
 
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
 # time when all are.
@@ -36,7 +36,7 @@ install_missing() {
     as_root=""
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null 2>&1; then
-            echo "These Debian packages are missing, and neither root nor sudo is there to install them:$missing" >&2
+            echo "These Debian packages are missing, and installing them needs root or sudo:$missing" >&2
             return 1
         fi
         as_root="sudo"

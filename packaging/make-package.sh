@@ -1,12 +1,13 @@
 #!/bin/sh
-# make-package.sh [BUILD]
+# make-package.sh [BUILD [CMAKE-OPTION...]]
 # Installs what is missing, builds the Debian package with Debian's own compiler flags and
-# says where it lies.
-# BUILD is the build folder, build/package by default; there the same sources make the same
+# says where it lies. Options are for example -DORRAVANE_SITE_HOST=HOST.
+# BUILD is the build directory, build/package by default; there the same sources make the same
 # bytes, wherever the checkout lies.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/package}
+[ $# -eq 0 ] || shift
 
 . packaging/debian-packages.sh
 install_missing $build_packages $package_packages
@@ -14,9 +15,8 @@ install_missing $build_packages $package_packages
 export DEB_BUILD_MAINT_OPTIONS=hardening=+all
 CXXFLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)"
 LDFLAGS=$(dpkg-buildflags --get LDFLAGS)
-SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
-export CXXFLAGS LDFLAGS SOURCE_DATE_EPOCH
+export CXXFLAGS LDFLAGS
 
-cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr >/dev/null
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr "$@" >/dev/null
 cmake --build "$build"
-(cd "$build" && cpack -G DEB)
+packaging/pack.sh "$build"

@@ -2,7 +2,8 @@
 # try-in-bare-root.sh PACKAGE [MIRROR]
 # Tries the Debian package in a bare Debian 12 that has nothing of the build machine:
 # installs it with its dependencies, runs orravane-report and the window as an ordinary
-# user, takes pictures of the window, removes the package and looks for what it left.
+# user, takes pictures of the window, removes the package and looks for what it left. The
+# settings in the user's home stay, as with every package; they are listed and not counted.
 #
 # Runs as root and needs debootstrap. What may be set in the environment:
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
@@ -37,7 +38,8 @@ echo "$(in_root dpkg-query -W | wc -l) packages in the system"
 
 step "Every library is there, those of the plugins too"
 plugins="/usr/lib/*/qt6/plugins"
-in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-report $plugins/platforms/libqxcb.so \
+in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-document /usr/bin/orravane-report \
+    $plugins/platforms/libqxcb.so \
     $plugins/imageformats/libqsvg.so $plugins/printsupport/libcupsprintersupport.so" \
     >"$root/tmp/libraries" || fail "ldd: $(cat "$root/tmp/libraries")"
 if grep 'not found' "$root/tmp/libraries"; then
@@ -55,7 +57,7 @@ printf '%s\n' '{"first":"Ada","last":"Moreau","month":5,"day":7,"year":1984}' '{
 code=0
 as_user sh -c 'orravane-report --batch /tmp/people 2>/dev/null >reports.jsonl' || code=$?
 [ "$code" -eq 1 ] || fail "a batch with a wrong line ends with $code"
-[ "$(wc -l <"$root/home/reader/reports.jsonl")" -eq 2 ] || fail "two lines gave another number"
+[ "$(wc -l <"$root/home/reader/reports.jsonl")" -eq 2 ] || fail "two people did not give two lines"
 rm "$root/home/reader/reports.jsonl"
 
 step "orravane in a window"
@@ -84,7 +86,7 @@ for _ in $(seq 100); do
     [ "$pixel" = FDFBFF ] && break
     sleep 0.1
 done
-[ "$pixel" = FDFBFF ] || { echo "the report page did not come: $pixel"; exit 1; }
+[ "$pixel" = FDFBFF ] || { echo "the report page did not appear: $pixel"; exit 1; }
 xdotool key alt+f
 xdotool key x
 wait $program
@@ -97,8 +99,9 @@ cat "$root/tmp/pictures/orravane.log"
 for page in input report; do
     colours=$(in_root identify -format '%k' "/tmp/pictures/$page-page.png")
     echo "$pictures/$page-page.png: $colours colours"
-    [ "$colours" -gt 200 ] || fail "the picture is all but empty"
+    [ "$colours" -gt 200 ] || fail "the picture is nearly empty"
 done
+echo "Files of the user's that stay:"
 (cd "$root/home/reader" && find . -newer "$root/tmp/window.sh" -type f)
 
 step "Its pages in man, and in apropos"
@@ -124,7 +127,7 @@ files | comm -13 "$root/tmp/files-before" - >"$root/tmp/left"
 if grep -i orravane "$root/tmp/left"; then
     fail "the package left something"
 fi
-echo "Nothing of orravane is left. Left by the packages that it needed:"
+echo "Nothing of orravane is left outside the user's home. Left by the packages that it needed:"
 grep -vE '^\./(var/(lib/(apt|dpkg)|cache|log)|home)/' "$root/tmp/left" || echo "nothing"
 
 step "All is well"

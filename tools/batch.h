@@ -1,12 +1,12 @@
 #pragma once
 
-// Many people, one a line, read and written one by one: nothing is kept, so memory does
+// Many people, one per line, read and written one by one: nothing is kept, so memory does
 // not grow with their number, and any engine that pipes lines through a program can run it.
 
 #include "tools/options.h"
 #include "tools/refusal.h"
 
-/// Reads options.batchFile and writes one JSON object a line, or one file per person into
+/// Reads options.batchFile and writes one JSON object per line, or one file per person into
 /// options.outputDir. Every person starts from a fresh store. A wrong line is reported on
 /// standard error with its number and the others go on; the result is then
 /// ExitCode::SomeLinesWrong, and ExitCode::Ok otherwise. Throws Refusal when the input cannot

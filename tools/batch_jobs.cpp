@@ -22,6 +22,13 @@ constexpr std::size_t fullChunk = 262'144;                    // bytes of lines
 constexpr std::size_t linesOfReadings = 8;
 constexpr std::size_t linesOfNumbers = 512;
 
+/// How many lines a chunk has at most: as many as are soon done, and as make it worth while.
+std::size_t MostLines(const Options &options) {
+    if (options.format == Format::Pdf)
+        return 1;
+    return options.numbers ? linesOfNumbers : linesOfReadings;
+}
+
 /// The kinds of WorkerMessage.
 enum Kind : std::uint32_t {
     Chunk,   ///< to the worker: `first` bytes of lines in the slot
@@ -151,14 +158,16 @@ private:
 
         Bytes &answer = answers_[slot];
         answer.bytes.clear();
-        const auto writer = MakeBatchWriter(options_, &answer, Place::Behind);
+        // A writer of files has the engine of its PDFs, which takes its time to start.
+        if (writer_ == nullptr || options_.outputDir.isEmpty())
+            writer_ = MakeBatchWriter(options_, &answer, Place::Behind);
         std::vector<Wrong> wrong;
         std::uint64_t people = 0;
         while (const std::uint64_t number = chunk.Number()) { // 0 ends them
             line_.number = static_cast<long long>(number);
             line_.tooLong = chunk.Number() != 0;
             line_.text = chunk.Text();
-            LineAnswer answered = AnswerLine(line_, lines_, *writer);
+            LineAnswer answered = AnswerLine(line_, lines_, *writer_);
             people += answered.person ? 1 : 0;
             if (answered.wrong)
                 wrong.push_back({static_cast<std::uint64_t>(line_.number), answer.bytes.size(),
@@ -194,6 +203,7 @@ private:
     bool begun_ = false;
     BatchLine line_;
     std::array<Bytes, slotsOfAWorker> answers_;
+    std::unique_ptr<BatchWriter> writer_;
 };
 
 /// The parent: hands out chunks and has their answers written in order.
@@ -275,7 +285,7 @@ private:
         file_ = line_.file;
         Piece piece{worker, slot, file_, line_.number - line_.numberInFile, !openRows_.empty()};
         const bool isCsv = !input_.Header().empty();
-        const std::size_t mostLines = options_.numbers ? linesOfNumbers : linesOfReadings;
+        const std::size_t mostLines = MostLines(options_);
         Packer packer(slots_.Of(worker, slot));
         packer.Put(std::string_view(input_.Header()));
         packer.Put(std::string_view(std::exchange(openRows_, {})));

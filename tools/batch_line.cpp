@@ -20,6 +20,7 @@ LineAnswer AnswerLine(const BatchLine &line, PeopleLines &lines, BatchWriter &wr
         if (!parsed)
             return {};
         facts.further = std::move(parsed->further);
+        facts.given = GivenNameOf(parsed->person);
         person = CheckPerson(parsed->person);
     } catch (const Refusal &refusal) {
         std::string message = OneLine(refusal.Line());

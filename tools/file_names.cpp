@@ -16,7 +16,7 @@ namespace {
 constexpr qsizetype mostBytes = 255;
 constexpr qsizetype mostBytesOfPattern = 100;
 constexpr qsizetype longestNumber = 16; // of a line: --first-line goes up to 10^15
-constexpr qsizetype longestEnding = 4;
+constexpr qsizetype longestEnding = 5; // ".html"
 
 bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 
@@ -59,6 +59,13 @@ bool IsDevice(const QString &name) {
                                            "[ ]*(\\.|\\z)"_s,
                                            QRegularExpression::CaseInsensitiveOption);
     return device.match(name).hasMatch();
+}
+
+/// `name` with a "_" in front, if it needs one.
+QString SafeStart(const QString &name) {
+    const bool bad = name.isEmpty() || name.front() == u'.' || name.front() == u'-' ||
+                     name.front() == u' ' || IsDevice(name);
+    return bad ? u'_' + name : name;
 }
 
 } // namespace
@@ -118,8 +125,9 @@ QString FileNames::Of(const modReadings::UserProfile &person, long long line,
         name += Safe(QStringView(value).toString(), room / names);
     }
     name += QStringView(pattern_).sliced(end);
-    const QChar start = name.front();
-    if (start == u'.' || start == u'-' || start == u' ' || IsDevice(name))
-        name.prepend(u'_');
-    return name + ending;
+    return SafeStart(name) + ending;
+}
+
+QString SafeFileName(const QString &wanted, const QString &ending) {
+    return SafeStart(Safe(wanted, mostBytes - 1 - ending.toUtf8().size())) + ending;
 }

@@ -75,9 +75,9 @@ Examples:
   orravane-report --batch people.csv --topic "Life Path Number" > numbers.jsonl
   orravane-report --batch people.csv.gz --output-dir reports
 
-Exit codes: 0 all well, 1 some lines of a batch were wrong, 2 wrong use,
-3 the input cannot be read or the output not be written.
-The man page orravane-report(1) has more.
+Exit codes: 0 success, 1 some lines of a batch were wrong, 2 wrong use,
+3 the input could not be read or the output could not be written.
+For details see the man page orravane-report(1).
 )";
     return text;
 }

@@ -7,5 +7,5 @@
 /// The text of --help, within 80 columns, with a line break at its end.
 std::string HelpText();
 
-/// The captions that --topic takes, in the order in which they are read, one a line.
+/// The captions that --topic takes, in the order in which they are read, one per line.
 std::string TopicList();

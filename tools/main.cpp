@@ -67,8 +67,13 @@ ExitCode Run(int argc, char *argv[]) {
     case Options::Task::Batch:
         return RunBatch(options);
     case Options::Task::Person: {
+        if (options.format == Format::Pdf &&
+            (options.output.isEmpty() || options.output == u"-"_s) && isatty(STDOUT_FILENO) == 1)
+            throw Refusal(
+                u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
+                "a program read it."_s);
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
-        const auto person = CheckPerson(options.person, u"--"_s);
+        const auto person = CheckPerson(options.person, InputNames(u"--"_s));
         Print(options.output, AnswerTo(person, options));
         break;
     }

@@ -26,64 +26,68 @@ constexpr std::array table{
 
     OptionRow{
         Batch, ManyPeople, "batch", 0, "FILE", ValueKind::File, goesWith::batch, false,
-        "Read many people, one a line: JSON Lines, or CSV with a header row, packed with gzip "
-        "or not. - is standard input. Further files may follow. Prints one JSON object a "
+        "Read many people, one per line: JSON Lines, or CSV with a header row, compressed with "
+        "gzip or not. - is standard input. More files may follow. Prints one JSON object per "
         "line."},
     OptionRow{Delimiter, ManyPeople, "delimiter", 0, "CHAR", ValueKind::Text, goesWith::batch,
               false,
-              "The input is CSV with this separator: one character, or tab. Default: commas or "
-              "tabs, as the header shows."},
+              "Read CSV with this separator: one character, or the word tab. Default: a comma or a "
+              "tab, whichever the header has."},
     OptionRow{FirstLine, ManyPeople, "first-line", 0, "N", ValueKind::Number, goesWith::batch,
               false,
-              "The number of the input's first line, where it is a piece of a longer one. "
+              "The number of the first line, if the input is a part of a longer one. "
               "Default: 1."},
     OptionRow{MaxErrors, ManyPeople, "max-errors", 0, "N", ValueKind::Number, goesWith::batch,
-              false, "Give up at the Nth wrong line. Default: go on to the end."},
+              false, "Stop at the Nth wrong line. Default: read on to the end."},
     OptionRow{Jobs, ManyPeople, "jobs", 0, "N", ValueKind::Number, goesWith::batch, false,
-              "Work in N processes, 1 to 256. The output is the same. Default: 1."},
+              "Use N processes, 1 to 256. The output is the same. Default: 1."},
     OptionRow{OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch,
-              false, "Write one file a person here, text or rtf, named after the line."},
+              false,
+              "Write one file per person into this directory, in any format but json, named by "
+              "line number."},
     OptionRow{NameTemplate, ManyPeople, "name-template", 0, "TEMPLATE", ValueKind::Text,
               goesWith::batch, false,
               "The names of these files, made of {first}, {middle}, {last} and {line}; {line} "
-              "stands first or last. Default: person-{line}."},
+              "must come first or last. Default: person-{line}."},
     OptionRow{NoClobber, ManyPeople, "no-clobber", 0, "", ValueKind::None, goesWith::batch, false,
-              "Keep a file that is there already in the folder."},
+              "Keep files that are already in the directory."},
 
     OptionRow{Today, WhatToRead, "today", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::reading,
               false, "Read for this day instead of today."},
     OptionRow{Topic, WhatToRead, "topic", 0, "CAPTION", ValueKind::Topic, goesWith::reading, true,
-              "Read this topic; may be given several times. --list-topics shows the captions. "
+              "Read this topic; may be repeated. --list-topics shows the captions. "
               "Default: all topics."},
     OptionRow{Numbers, WhatToRead, "numbers", 0, "", ValueKind::None, goesWith::reading, false,
-              "Print all numbers without their readings, one flat row a person: json (default), "
-              "csv or tsv."},
+              "Print the numbers without the readings, one row per person: json (default), csv "
+              "or tsv."},
     OptionRow{Book, WhatToRead, "book", 0, "", ValueKind::None, goesWith::book, false,
-              "Print every reading and fixed text that the program holds."},
+              "Print every reading and every fixed text of the program."},
 
     OptionRow{OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
               goesWith::everything, false,
-              "text (default), json (default of a batch) or rtf; with --numbers json, csv or tsv."},
+              "text (default), json (default of a batch), rtf, html, pdf or markdown; with "
+              "--numbers json, csv or tsv."},
     OptionRow{Head, WhatToWrite, "head", 0, "", ValueKind::None, goesWith::reading, false,
-              "Write name, date of birth and date of reading above the first topic, in text and "
-              "rtf. A batch does so by itself."},
+              "Write name, date of birth and date of the reading above the first topic, in text "
+              "and rtf. A batch has this by default."},
     OptionRow{NoHead, WhatToWrite, "no-head", 0, "", ValueKind::None, goesWith::reading, false,
-              "Leave that out in a batch."},
+              "Leave these lines out in a batch."},
+    OptionRow{OptionId::Paper, WhatToWrite, "paper", 0, "SIZE", ValueKind::Paper, goesWith::reading,
+              false, "The pages of a PDF: a4 (default) or letter."},
     OptionRow{Output, WhatToWrite, "output", 'o', "FILE", ValueKind::File, goesWith::everything,
               false,
-              "Write to this file, whole or not at all, instead of standard output. - is "
-              "standard output."},
+              "Write to this file instead of standard output. It appears complete or not at all. "
+              "- is standard output."},
 
     OptionRow{Quiet, WhatToWrite, "quiet", 'q', "", ValueKind::None, goesWith::everything, false,
-              "Show no progress and no summary at a terminal; messages about what is wrong "
-              "stay."},
+              "At a terminal, show neither progress nor summary. Errors are still shown."},
     OptionRow{Summary, WhatToWrite, "summary", 0, "", ValueKind::None, goesWith::batch, false,
-              "Sum the batch up on standard error, even where that is no terminal."},
+              "Write a summary of the batch to standard error, even if that is not a terminal."},
 
     OptionRow{ListTopics, Other, "list-topics", 0, "", ValueKind::None, goesWith::everything, false,
-              "Print the captions of the topics, one a line."},
+              "Print the captions of the topics, one per line."},
     OptionRow{Completion, Other, "completion", 0, "SHELL", ValueKind::Shell, goesWith::everything,
-              false, "Print what makes a shell complete these options: bash, zsh or fish."},
+              false, "Print the completion script for a shell: bash, zsh or fish."},
     OptionRow{Help, Other, "help", 'h', "", ValueKind::None, goesWith::everything, false,
               "Show this help."},
     OptionRow{Version, Other, "version", 'V', "", ValueKind::None, goesWith::everything, false,

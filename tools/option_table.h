@@ -30,6 +30,7 @@ enum class OptionId {
     Format,
     Head,
     NoHead,
+    Paper,
     Output,
     Quiet,
     Summary,
@@ -43,7 +44,7 @@ enum class OptionId {
 enum class OptionGroup { OnePerson, ManyPeople, WhatToRead, WhatToWrite, Other };
 
 /// What a shell can offer as the value of an option.
-enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic, Shell };
+enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic, Shell, Paper };
 
 /// The tasks with which an option goes, as bits of OptionRow::tasks.
 namespace goesWith {

@@ -1,4 +1,4 @@
-# `cpack -G DEB` in the build folder makes orravane_VERSION-1_ARCHITECTURE.deb there.
+# `packaging/pack.sh BUILD` makes orravane_VERSION-1_ARCHITECTURE.deb in the build folder.
 
 # What Debian alone wants. It goes into the package and not into other installations.
 set(changelog ${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian.gz)
@@ -26,17 +26,16 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "Orravane makes a numerology report. From the letters of a name, the date of
 birth and today's date it works out twenty-two topics, such as the Life Path,
 the Destiny number or the Personal Year, by the Pythagorean letter chart. Each
-topic has a number, an explanation and a reading; all of them together make the
-Comprehensive Reading. Reports can be printed or saved as Rich Text Format.
+topic has an explanation and a reading, and most have a number; all of them make
+the Comprehensive Reading. Reports can be printed or saved as Rich Text Format.
 .
-The package holds the window, orravane, and the command orravane-report, which
-gives the same readings as text, JSON or Rich Text Format without a display,
-for one person or for every line of a list.")
+The package holds the window, orravane; orravane-document, which makes a
+document to hand over as PDF, HTML or Markdown; and the command orravane-report,
+which gives the same without a display, and text, JSON or Rich Text Format as
+well, for one person or for every line of a list.")
 
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -47,10 +46,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 # The libraries are found by dpkg-shlibdeps. Among them is libqt6svg6, whose package also
 # brings the plugin that reads the window's SVG artwork. The window is laid out for the
 # widths of DejaVu Sans. Printing goes through libcups and needs a print server, not the
-# commands of cups-client.
+# commands of cups-client. WeasyPrint makes the PDFs and nothing else.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qt6-wayland, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups, parallel")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qt6-wayland, weasyprint, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups, pandoc, parallel")
 
 include(CPack)

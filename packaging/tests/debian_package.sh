@@ -1,7 +1,7 @@
 #!/bin/sh
 # debian_package.sh CPACK BUILD VERSION APPSTREAMCLI REMARKS
-# The Debian package: its fields, its owners, the checksums of what it holds, and that the
-# desktop entry and the metainfo in it fit together.
+# The Debian package: its fields, its owners, the checksums of what it holds, that the umask
+# has no say in it, and that the desktop entry and the metainfo in it fit together.
 set -eu
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -10,10 +10,20 @@ fail() {
     exit 1
 }
 
-"$1" -G DEB --config "$2/CPackConfig.cmake" -B "$work" >"$work/log" 2>&1 ||
-    fail "$(cat "$work/log")"
-package=$work/orravane_$3-1_$(dpkg --print-architecture).deb
-test -f "$package" || fail "the package has another name: $(ls "$work")"
+pack() { # UMASK: packs what is built, into a folder of that name
+    mkdir "$work/$1"
+    (umask "$1" && CPACK=$cpack "$here/../pack.sh" "$build" "$work/$1") >"$work/log" 2>&1 ||
+        fail "$(cat "$work/log")"
+}
+here=$(dirname "$0")
+cpack=$1
+build=$2
+pack 022
+package=$work/022/orravane_$3-1_$(dpkg --print-architecture).deb
+test -f "$package" || fail "the package has another name: $(ls "$work/022")"
+# Another umask, a moment later: the same bytes.
+pack 077
+cmp "$package" "$work/077/${package##*/}"
 dpkg-deb -I "$package"
 
 field() { dpkg-deb -f "$package" "$1"; }

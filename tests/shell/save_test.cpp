@@ -1,7 +1,7 @@
 #include "report/rtf.h"
+#include "tests/shell/file_dialog.h"
 #include "tests/shell/window_test.h"
 
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QSettings>
@@ -65,26 +65,6 @@ void Write(const QString &path, const QByteArray &content) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
-}
-
-QLineEdit *NameBoxOf(QDialog &dialog) {
-    auto *box = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
-    if (box == nullptr)
-        qFatal("the dialog has no box for the name");
-    return box;
-}
-
-void Press(QDialog &dialog, QDialogButtonBox::StandardButton button) {
-    QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(button), Qt::LeftButton);
-}
-
-void Cancel(QDialog &dialog) { Press(dialog, QDialogButtonBox::Cancel); }
-
-/// Puts a whole name into the dialog and presses Save. Typed key by key it would have the
-/// dialog's list of completions drop down, which is a window of its own.
-void SaveAs(QDialog &dialog, const QString &path) {
-    NameBoxOf(dialog)->setText(path);
-    Press(dialog, QDialogButtonBox::Save);
 }
 
 } // namespace

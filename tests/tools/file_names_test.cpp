@@ -96,4 +96,13 @@ TEST(FileNames, RefuseATemplateThatCouldGiveOneNameToTwoPeopleOrLeaveTheFolder) 
                    {"--name-template: \"", part});
 }
 
+TEST(SafeFileName, KeepsTheRulesOfAllNames) {
+    EXPECT_EQ(SafeFileName("Zo\u00EB van der Wal", ".pdf"), u"Zo\u00EB van der Wal.pdf");
+    EXPECT_EQ(SafeFileName("../a: b?", ".pdf"), u"_.._a_ b_.pdf");
+    EXPECT_EQ(SafeFileName("nul", ".md"), u"_nul.md");
+    EXPECT_EQ(SafeFileName("", ".md"), u"_.md");
+    // One of 255 bytes is kept free for a "_" in front, and a letter of two is not cut.
+    EXPECT_EQ(SafeFileName(QString(300, u'\u00EB'), ".html").toUtf8().size(), 253);
+}
+
 } // namespace

@@ -190,7 +190,17 @@ constexpr std::pair<const char *, const char *> valued[]{
     {"--batch", "FILE"},       {"--output-dir", "DIR"},
     {"--date", "YYYY-MM-DD"},  {"--first-line", "N"},
     {"--max-errors", "N"},     {"--delimiter", "CHAR"},
-    {"--jobs", "N"},           {"--name-template", "TEMPLATE"}};
+    {"--jobs", "N"},           {"--name-template", "TEMPLATE"},
+    {"--paper", "a4"}};
+
+TEST(ParseOptions, PaperGoesWithPdf) {
+    EXPECT_EQ(Parsed(ann + Arguments{"--format", "pdf"}).paper, Paper::A4);
+    EXPECT_EQ(Parsed(ann + Arguments{"--format", "pdf", "--paper", "letter"}).paper, Paper::Letter);
+    ExpectWrong(ann + Arguments{"--format", "pdf", "--paper", "A5"},
+                {"--paper: \"A5\"", "a4 or letter"});
+    ExpectWrong(ann + Arguments{"--format", "html", "--paper", "a4"},
+                {"--paper", "format pdf only"});
+}
 
 TEST(ParseOptions, TellsWhichValueIsMissing) {
     for (const auto &[option, allowed] : valued)
@@ -259,7 +269,7 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
         std::vector<std::string> wrong;
     };
     for (const auto &[option, allowed, wrong] : std::vector<Values>{
-             {"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
+             {"--format", "text, json, rtf, html, pdf or markdown", {"", "docx", "JSON", "te\nxt"}},
              {"--topic",
               "--list-topics",
               {"", "Lucky Number", "Essence ", "Ess\nence", "Destiny / Expression Number",

@@ -19,7 +19,7 @@ protected:
     }
 
     static std::string Refused(const PersonInput &input) {
-        return RefusalOf([&] { CheckPerson(input, "--"); });
+        return RefusalOf([&] { CheckPerson(input, InputNames(QStringLiteral("--"))); });
     }
 
     modReadings::FixedClock clock_{std::chrono::year(2026) / 11 / 16};
