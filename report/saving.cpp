@@ -1,12 +1,16 @@
 #include "report/saving.h"
 
 #include "report/borrowed_settings.h"
+#include "report/on_disk.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QSaveFile>
 #include <QStandardPaths>
+
+#include <cerrno>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -155,10 +159,15 @@ QString WriteWhole(const QString &name, std::string_view content) {
     QSaveFile file(name); // writes beside the file and takes its place at the end
     const auto size = static_cast<qint64>(content.size());
     // On a full disk a write can be cut short without failing, and a commit would then put
-    // the stump in place; only a flush tells.
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.write(content.data(), size) == size && file.flush() && file.commit();
-    return written ? QString() : file.errorString();
+    // the stump in place; only a flush tells. And some file systems find out that there is no
+    // room, or that the disk is broken, only when the bytes have to be on it, which a commit
+    // asks for without heeding the answer.
+    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
+        !file.flush())
+        return file.errorString();
+    if (!IsOnDisk(file.handle()))
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return file.commit() ? QString() : file.errorString();
 }
 
 void SaveReport(const modReadings::Report &report, const modReadings::RtfFont &font,

@@ -85,14 +85,14 @@ std::string IsoDate(std::chrono::year_month_day date) {
 
 modReadings::Report HeadOf(const modReadings::UserProfile &person,
                            std::chrono::year_month_day day) {
-    QString name = QString::fromStdU16String(person.FirstName);
+    QString name = QStringView(person.FirstName).toString();
     for (const std::u16string &part : {person.MiddleName, person.LastName})
         if (!part.empty())
-            name += u' ' + QString::fromStdU16String(part);
+            name += u' ' + QStringView(part).toString();
     const std::u16string born =
         modReadings::LongDate(person.BirthMonth, modReadings::NumberFromText(person.BirthDay),
                               modReadings::NumberFromText(person.BirthYear));
-    return {{QString::fromStdString(OneLine(name)).toStdU16String(), true},
+    return {{FromUtf8(OneLine(name)).value_or(QString()).toStdU16String(), true},
             {u"\r\nBorn " + born + u"\r\nRead for " + modReadings::LongDate(day), false}};
 }
 

@@ -148,7 +148,7 @@ public:
         if (std::ranges::all_of(text, [](char16_t c) { return c >= u' ' && c < 0x7F; }))
             Add(AsUtf8(text));
         else
-            Add(OneLine(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()))));
+            Add(OneLine(QStringView(text).toString()));
     }
 
     std::string Finish() {

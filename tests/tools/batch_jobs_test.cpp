@@ -7,9 +7,36 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <functional>
 
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 #include <zlib.h>
+
+namespace {
+
+/// As long as this lives, the system has no room for messages between processes.
+class NoRoomForMessages {
+public:
+    NoRoomForMessages() { isThere = true; }
+    ~NoRoomForMessages() { isThere = false; }
+    NoRoomForMessages(const NoRoomForMessages &) = delete;
+    NoRoomForMessages &operator=(const NoRoomForMessages &) = delete;
+
+    static inline bool isThere = false;
+};
+
+} // namespace
+
+/// Stands in for the system's own.
+extern "C" ssize_t send(int socket, const void *bytes, std::size_t count, int flags) {
+    if (!NoRoomForMessages::isThere)
+        return syscall(SYS_sendto, socket, bytes, count, flags, nullptr, 0);
+    errno = ENOBUFS;
+    return -1;
+}
 
 namespace {
 
@@ -242,6 +269,16 @@ TEST_F(BatchJobs, ReportAnOutputThatCannotBeWritten) {
         EXPECT_EQ(seen.code, 3);
         EXPECT_NE(seen.refusal.find("/dev/full: No space left"), std::string::npos) << seen.refusal;
     }
+}
+
+// A worker that lives but cannot be told anything would be waited for without end.
+TEST_F(BatchJobs, EndWhereAWorkerCannotBeReached) {
+    Make("people", "{}\n");
+    const NoRoomForMessages none;
+    const Seen seen = Run(Of({"people"}), 2);
+    EXPECT_EQ(seen.code, 3);
+    EXPECT_EQ(seen.refusal,
+              "--jobs: a process cannot be told what to do (No buffer space available)");
 }
 
 } // namespace
