@@ -198,6 +198,8 @@ QWidget *DocumentWindow::BuildDocument() {
     format = List(tr("Format"), group);
     for (const FormatRow &row : formats)
         format->addItem(tr(row.entry));
+    if (!PdfEngine::WhatIsMissing().isEmpty())
+        format->setCurrentIndex(1); // PDF stays in the list, and says what it needs
     opens = new CheckBox(tr("&Open it when it is made"), group);
     opens->setChecked(true);
     rows->addWidget(Label(tr("Forma&t"), format, group), 0, 0);
