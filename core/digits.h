@@ -21,7 +21,7 @@ namespace modReadings {
 constexpr bool StaysMaster(int16 number) {
     if (number != 11 && number != 22)
         return false;
-    TraceStep(Trace::StepKind::MasterStays, number, {}, number);
+    TraceStep(Trace::StepKind::MasterStays, number, number);
     return true;
 }
 
@@ -45,8 +45,7 @@ constexpr int16 DigitSum(int16 value) {
     int16 sum = 0;
     for (int rest = value; rest != 0; rest /= 10)
         sum = static_cast<int16>(sum + rest % 10);
-    if (Tracing()) [[unlikely]]
-        TraceDigitSum(DecimalText(value), sum);
+    TraceDigitSum(value, sum);
     return sum;
 }
 
@@ -57,12 +56,13 @@ constexpr int16 Fold(int16 value) {
         throw RuntimeFailure("not a digit");
     if (value < 10)
         return value;
-    const auto last = static_cast<int16>(value % 10);
-    int16 first = value;
+    const int last = value % 10;
+    int first = value;
     while (first >= 10)
-        first = static_cast<int16>(first / 10);
+        first /= 10;
     const auto folded = static_cast<int16>(first + last);
-    TraceStep(Trace::StepKind::Fold, value, {first, last}, folded);
+    TraceStep(Trace::StepKind::Fold, value, folded, static_cast<int16>(first),
+              static_cast<int16>(last));
     return folded;
 }
 

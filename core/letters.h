@@ -40,7 +40,7 @@ constexpr int16 LetterValue(std::u16string_view letter) {
     if (letter.size() != 1)
         return 0;
     const int16 value = ChartValue(letter.front());
-    TraceLetter(letter.front(), value, value != 0, value);
+    TraceLetter(letter.front(), value, true, value);
     return value;
 }
 
@@ -51,7 +51,7 @@ inline std::bitset<10> PresentValues(std::u16string_view name) {
     for (const char16_t character : name) {
         const int16 value = ChartValue(character);
         present.set(static_cast<std::size_t>(value));
-        TraceLetter(character, value, value != 0, value);
+        TraceLetter(character, value, true, value);
     }
     return present;
 }
@@ -63,7 +63,7 @@ constexpr int16 NameLetterSum(std::u16string_view name) {
     for (const char16_t character : name) {
         const int16 value = ChartValue(character);
         sum = Add(sum, value);
-        TraceLetter(character, value, value != 0, sum);
+        TraceLetter(character, value, true, sum);
     }
     return sum;
 }

@@ -10,16 +10,16 @@ int16 MonthNumber(std::u16string_view monthName) {
     for (std::size_t index = 0; index < englishMonths.size(); ++index) {
         const int16 value = MonthValue(index);
         if (monthName == englishMonths[index]) {
-            TraceStep(Month, monthName, {}, value);
+            TraceStep(Month, monthName, value);
             return value;
         }
         // The letter is a single character, so "10", "11" and "12" never equal it.
         if (store.ScratchLetter == DecimalText(static_cast<int16>(index + 1))) {
-            TraceStep(MonthByDigit, monthName, {static_cast<int16>(index + 1)}, value);
+            TraceStep(MonthByDigit, monthName, value, static_cast<int16>(index + 1));
             return value;
         }
     }
-    TraceStep(Month, monthName, {}, 0);
+    TraceStep(Month, monthName, int16{0});
     return 0;
 }
 

@@ -28,7 +28,7 @@ constexpr int16 EnglishMonthValue(std::u16string_view monthName) {
     for (std::size_t index = 0; index < englishMonths.size() && value == 0; ++index)
         if (monthName == englishMonths[index])
             value = MonthValue(index);
-    TraceStep(Trace::StepKind::Month, monthName, {}, value);
+    TraceStep(Trace::StepKind::Month, monthName, value);
     return value;
 }
 

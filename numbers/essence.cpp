@@ -49,9 +49,9 @@ int16 LetterInForce(std::u16string_view untrimmed, int16 age, Chart chart) {
                 years = Add(years, lasts);
                 value = lasts;
             }
-            TraceLetter(character, lasts, lasts != 0, years);
+            TraceLetter(character, lasts, true, years);
         }
-        Traced(u"years of the letters", years);
+        Traced(essenceYearsLabel, years);
     } while (unguarded && years < age);
     return value;
 }
@@ -81,12 +81,12 @@ void CalcEssence() {
     const int16 age = Traced(u"age", Difference(Clock::Year(), birthYear));
 
     const int16 first =
-        Traced(u"first name, letter in force", LetterInForce(profile.FirstName, age, ChartValue));
+        Traced(u"first name, in force", LetterInForce(profile.FirstName, age, ChartValue));
     const int16 middle = Traced(
-        u"middle name, letter in force",
+        u"middle name, in force",
         HasMiddleName(profile) ? LetterInForce(profile.MiddleName, age, ChartValue) : int16{0});
-    const int16 last = Traced(u"last name, letter in force",
-                              LetterInForce(profile.LastName, age, LastNameChartValue));
+    const int16 last =
+        Traced(u"last name, in force", LetterInForce(profile.LastName, age, LastNameChartValue));
 
     store.EssenceNumber = Traced(u"Essence", ReduceNumber(Total(first, middle, last)));
     SelectReading(store.EssenceText, store.EssenceNumber, readings::essence.rows);

@@ -18,7 +18,7 @@ constexpr std::array<int16, 4> debts{13, 14, 16, 19};
 struct Source {
     std::array<int16, 4> values;
     std::u16string_view name;
-    std::u16string_view label; ///< in a trace
+    const char16_t *label; ///< in a trace
 };
 
 } // namespace

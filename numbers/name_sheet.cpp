@@ -60,9 +60,10 @@ NamePart PartAt(std::size_t position) {
 } // namespace
 
 NameSheet ReadNameSheet() {
+    // In the order of the pass, so that the scratch slots end as they end there.
     NameWalk destiny = Walk(CalcDestiny);
-    NameWalk soulUrge = Walk(CalcSoulUrge);
     NameWalk innerDreams = Walk(CalcInnerDreams);
+    NameWalk soulUrge = Walk(CalcSoulUrge);
 
     NameSheet sheet;
     const std::size_t length = destiny.letters.size();

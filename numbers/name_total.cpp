@@ -15,11 +15,10 @@ void WalkLetters(std::u16string_view text, LetterFilter admits) {
         const char16_t character = text[static_cast<std::size_t>(store.ScratchIndex)];
         ++store.ScratchIndex;
         store.ScratchLetter.assign(1, character);
-        const int16 value = ChartValue(character);
-        const bool counts = value != 0 && admits(character);
-        if (counts)
-            store.ScratchSum = Add(store.ScratchSum, value);
-        TraceLetter(character, value, counts, store.ScratchSum);
+        const bool admitted = admits(character);
+        if (admitted)
+            store.ScratchSum = Add(store.ScratchSum, ChartValue(character));
+        TraceLetter(character, ChartValue(character), admitted, store.ScratchSum);
     }
 }
 

@@ -36,8 +36,8 @@ struct NameTotalEntry {
 };
 
 /// What a trace calls the total and the number.
-inline constexpr std::u16string_view nameTotalLabel = u"sum of the letters";
-inline constexpr std::u16string_view nameNumberLabel = u"number";
+inline constexpr const char16_t *nameTotalLabel = u"sum of the letters";
+inline constexpr const char16_t *nameNumberLabel = u"number";
 
 /// Takes ScratchSum as the finished total: writes raw value, number, reading and About.
 /// ScratchSum is left reduced.

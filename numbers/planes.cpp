@@ -27,7 +27,7 @@ int16 Share(const std::u16string &name, std::u16string_view letters, int16 lengt
     }
     // The length counts every character, also those of no plane.
     const int16 share = Divide(Multiply(ToInt16(count), 100), length);
-    TraceStep(Trace::StepKind::Share, u"", {static_cast<int16>(count), length}, share);
+    TraceStep(Trace::StepKind::Share, u"", share, static_cast<int16>(count), length);
     return share;
 }
 
@@ -74,7 +74,7 @@ std::u16string_view PhysicalRating() {
 }
 
 /// Leaves the slot alone for an empty word.
-void AssignWord(std::u16string &slot, std::u16string_view label, std::u16string_view word) {
+void AssignWord(std::u16string &slot, const char16_t *label, std::u16string_view word) {
     if (word.empty())
         TraceLeft(label, slot);
     else

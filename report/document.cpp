@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <iterator>
 #include <span>
 #include <utility>
@@ -97,6 +98,23 @@ bool IsTitle(std::u16string_view line) {
 
 bool HasTitles(TextSlot slot) { return slot == &S::KarmicLessonsText || slot == &S::PlanesAbout; }
 
+/// Where the first line break of `text` is, or npos. memchr looks at many bytes at once, which
+/// find does not; the byte may be half of another character.
+std::size_t FindLineBreak(std::u16string_view text) {
+    const char *const begin = reinterpret_cast<const char *>(text.data());
+    const char *const end = begin + text.size() * sizeof(char16_t);
+    for (const char *at = begin; at < end; ++at) {
+        at = static_cast<const char *>(
+            std::memchr(at, lineBreak.front(), static_cast<std::size_t>(end - at)));
+        if (at == nullptr)
+            break;
+        const std::size_t index = static_cast<std::size_t>(at - begin) / sizeof(char16_t);
+        if (text[index] == lineBreak.front())
+            return index;
+    }
+    return text.npos;
+}
+
 /// `text` in parts, a new one at each line that is a title.
 void AppendSections(std::vector<DocumentPart> &parts, std::u16string_view text, bool explains) {
     DocumentPart part;
@@ -108,7 +126,7 @@ void AppendSections(std::vector<DocumentPart> &parts, std::u16string_view text, 
         part.explains = explains;
     };
     while (!text.empty()) {
-        const std::size_t end = text.find(lineBreak.front());
+        const std::size_t end = FindLineBreak(text);
         const std::u16string_view line = text.substr(0, end);
         text.remove_prefix(end == text.npos ? text.size() : end + lineBreak.size());
         if (IsTitle(line)) {
@@ -165,7 +183,7 @@ void ReferToEarlierParts(std::vector<DocumentPart> &parts) {
         DocumentPart &part = parts[index];
         const auto end = parts.begin() + static_cast<std::ptrdiff_t>(index);
         const auto first = std::find_if(parts.begin(), end, [&](const DocumentPart &earlier) {
-            return !part.text.empty() && earlier.text == part.text;
+            return !part.text.empty() && !earlier.id.empty() && earlier.text == part.text;
         });
         if (first == end)
             continue;
@@ -177,7 +195,7 @@ void ReferToEarlierParts(std::vector<DocumentPart> &parts) {
 
 /// The day, month or year of which a topic speaks.
 std::u16string SpeaksOf(const Topic &topic, std::chrono::year_month_day day, int16 age) {
-    const std::u16string year = Number(static_cast<int>(day.year()));
+    std::u16string year = Number(static_cast<int>(day.year()));
     if (topic.calculate == CalcPersonalYear)
         return year;
     if (topic.calculate == CalcPersonalMonth)
@@ -202,8 +220,14 @@ DocumentTopic TopicFor(Calculator calculate, std::chrono::year_month_day day, in
     made.speaksOf = SpeaksOf(topic, day, age);
     made.parts = PartsOf(topic, report);
     std::size_t count = 0;
-    for (DocumentPart &part : made.parts)
-        part.id = std::string(made.id) + '-' + std::to_string(++count);
+    for (DocumentPart &part : made.parts) {
+        if (part.label.empty()) {
+            ++count; // nothing leads there
+            continue;
+        }
+        part.id.reserve(made.id.size() + 4);
+        part.id.append(made.id).append(1, '-').append(std::to_string(++count));
+    }
     ReferToEarlierParts(made.parts);
     return made;
 }
@@ -278,9 +302,11 @@ std::u16string RemarkInTable(const DocumentTopic &topic, Calculator calculate) {
 
 std::vector<NumberGroup> Glance(Document &document) {
     std::vector<NumberGroup> glance;
+    glance.reserve(GlanceGroups().size());
     for (const GlanceGroup &group : GlanceGroups()) {
         NumberGroup &made = glance.emplace_back();
         made.title = group.title;
+        made.rows.reserve(group.calculators.size());
         for (const Calculator calculate : group.calculators) {
             const DocumentTopic &topic = TopicIn(document, calculate);
             made.rows.push_back({topic.caption, topic.id, NumberInTable(topic, calculate),
@@ -375,12 +401,16 @@ NamePicture PictureOfName() {
 
     picture.text.id = "name-picture";
     picture.text.title = u"The name in letters and numbers";
-    picture.text.legend =
-        u"Above a vowel and below a consonant stands its value; what is pale has no value. "
-        u"All letters make the Destiny, the vowels the Soul Urge, the consonants the Inner "
-        u"Dreams.";
-    if (has(LetterKind::YAsVowel))
-        picture.text.legend += u" A name without a vowel counts each Y on both sides.";
+    picture.text.legend = has(LetterKind::YAsVowel)
+                              ? u"Above a vowel and below a consonant stands its value; what is "
+                                u"pale has no value. All "
+                                u"letters make the Destiny, the vowels the Soul Urge, the "
+                                u"consonants the Inner Dreams. "
+                                u"A name without a vowel counts each Y on both sides."
+                              : u"Above a vowel and below a consonant stands its value; what is "
+                                u"pale has no value. All "
+                                u"letters make the Destiny, the vowels the Soul Urge, the "
+                                u"consonants the Inner Dreams.";
     return picture;
 }
 
@@ -424,13 +454,14 @@ ValuesPicture PictureOfValues() {
 
 std::u16string SpansInWords(std::u16string_view what, std::span<const LifeSpan> spans) {
     std::vector<std::u16string> items;
-    for (std::size_t index = 0; index < spans.size(); ++index)
-        items.push_back(Joined(DecimalText(spans[index].number), u" ", InWords(spans[index].ages),
-                               spans[index].inForce ? u" (in force today)" : u""));
+    items.reserve(spans.size());
+    for (const LifeSpan &span : spans)
+        items.push_back(Joined(DecimalText(span.number), u" ", InWords(span.ages),
+                               span.inForce ? u" (in force today)" : u""));
     return Joined(what, Enumerated(items), u". ");
 }
 
-/// "Age 41", "before birth".
+/// "age 41", "before the year of birth".
 std::u16string AgeInWords(int16 age) {
     return age < 0 ? std::u16string(u"before the year of birth") : u"age " + DecimalText(age);
 }
@@ -438,6 +469,9 @@ std::u16string AgeInWords(int16 age) {
 LifePicture PictureOfLife(Document &document) {
     LifePicture picture;
     picture.age = document.age;
+    picture.periods.reserve(3);
+    picture.pinnacles.reserve(4);
+    picture.challenges.reserve(4);
 
     const auto add = [](std::vector<LifeSpan> &spans, int16 number, const Ages &ages, bool inForce,
                         DocumentPart *place) {
@@ -496,8 +530,12 @@ LifePicture PictureOfLife(Document &document) {
 
 TimePicture PictureOfTime(const UserProfile &person, std::chrono::year_month_day day) {
     FixedClock clock(day);
+    constexpr int yearsAhead = 9;
+    constexpr int monthsAhead = 12;
     TimePicture picture;
-    for (int ahead = 0; ahead < 9; ++ahead) {
+    picture.years.reserve(yearsAhead);
+    picture.months.reserve(monthsAhead);
+    for (int ahead = 0; ahead < yearsAhead; ++ahead) {
         clock.Set((day.year() + std::chrono::years(ahead)) / day.month() / 1);
         TimePicture::Year &year = picture.years.emplace_back();
         year.year = Clock::Year();
@@ -509,7 +547,7 @@ TimePicture PictureOfTime(const UserProfile &person, std::chrono::year_month_day
             year.essence = store.EssenceNumber;
         }
     }
-    for (int ahead = 0; ahead < 12; ++ahead) {
+    for (int ahead = 0; ahead < monthsAhead; ++ahead) {
         const auto month = day.year() / day.month() + std::chrono::months(ahead);
         clock.Set(month / 1);
         CalcPersonalMonth();
@@ -588,6 +626,7 @@ PlanesPicture PictureOfPlanes() {
 
 std::vector<InForce> InForceToday(Document &document) {
     std::vector<InForce> today;
+    today.reserve(8);
     for (const Calculator calculate :
          {CalcPersonalYear, CalcPersonalMonth, CalcPersonalDay, CalcEssence}) {
         if (calculate == CalcEssence && document.age < 0)
@@ -605,6 +644,17 @@ std::vector<InForce> InForceToday(Document &document) {
     add(u" Life Path Period", document.life.periods);
     add(u" Pinnacle", document.life.pinnacles);
     return today;
+}
+
+std::u16string NoteOnToday(const Document &document) {
+    std::u16string note = Joined(u"This is the reading for ", document.readFor, u". ");
+    if (document.age < 0)
+        return note + u"It is made before the year of birth.";
+    note += Joined(u"The age is ", DecimalText(document.age),
+                   u", counted in calendar years whatever the month of birth is.");
+    if (std::ranges::none_of(document.life.pinnacles, &LifeSpan::inForce))
+        note += u" No pinnacle is in force at this age.";
+    return note;
 }
 
 std::u16string FullName(const GivenName &given) {
@@ -668,6 +718,7 @@ Document MakeDocument(const UserProfile &person, const GivenName &given,
     document.life = PictureOfLife(document);
     document.planes = PictureOfPlanes();
     document.today = InForceToday(document);
+    document.todayNote = NoteOnToday(document);
     document.time = PictureOfTime(person, day); // last: it leaves other years in the slots
     return document;
 }

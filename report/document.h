@@ -32,7 +32,7 @@ struct GivenName {
 struct DocumentPart {
     std::u16string label; ///< such as "First Pinnacle from age 0-31 years is 5"; may be empty
     std::u16string text;  ///< paragraphs with line breaks between; empty where `sameAs` is set
-    std::string id;       ///< of the place, unique in the document
+    std::string id;       ///< of the place, unique in the document; empty without a label
     std::string sameAs;   ///< the id of the earlier part with the same text; otherwise empty
     std::u16string sameAsLabel; ///< the label of that part
     bool explains = false;      ///< explains the topic, whatever the number is
@@ -73,8 +73,8 @@ struct InForce {
 struct PictureText {
     std::string_view id;
     std::u16string_view title;
-    std::u16string legend; ///< how to read the picture
-    std::u16string words;  ///< the same as the picture, in words
+    std::u16string_view legend; ///< how to read the picture
+    std::u16string words;       ///< the same as the picture, in words
 };
 
 /// The letters of the name with their values, and the sums that they make.
@@ -147,6 +147,7 @@ struct Document {
     std::vector<NumberGroup> glance;
     int16 age = 0; ///< as the calculators count it
     std::vector<InForce> today;
+    std::u16string todayNote; ///< the day, the age and how it counts, in sentences
 
     NamePicture letters;
     ValuesPicture values;

@@ -3,6 +3,7 @@
 #include "document_style.h"
 #include "report/html_pictures.h"
 #include "report/html_writer.h"
+#include "report/utf8.h"
 
 #include <cstdio>
 
@@ -52,25 +53,16 @@ std::u16string ShortName(std::u16string_view name) {
 /// `text` within quotation marks of CSS. All but letters, digits and blanks of ASCII is written
 /// by its number, so that nothing in it can end the style.
 void WriteCssString(HtmlWriter &html, std::u16string_view text) {
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        char32_t character = text[at];
-        const bool plain = character == U' ' || (character >= U'0' && character <= U'9') ||
-                           (character >= U'A' && character <= U'Z') ||
-                           (character >= U'a' && character <= U'z');
-        if (plain) {
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t character = TakeCharacter(text, at);
+        if (character == U' ' || (character >= U'0' && character <= U'9') ||
+            (character >= U'A' && character <= U'Z') || (character >= U'a' && character <= U'z')) {
             html << static_cast<char>(character);
             continue;
         }
-        const bool pair = character >= 0xD800 && character < 0xDC00 && at + 1 < text.size() &&
-                          text[at + 1] >= 0xDC00 && text[at + 1] < 0xE000;
-        if (pair)
-            character = 0x10000U + ((character - 0xD800U) << 10) + (text[++at] - 0xDC00U);
-        else if (character >= 0xD800 && character < 0xE000)
-            character = 0xFFFD;
-        if (character < 0x20 || (character >= 0x7F && character < 0xA0))
-            character = 0xFFFD;
         char number[16];
-        std::snprintf(number, sizeof number, "\\%06X", static_cast<unsigned>(character));
+        std::snprintf(number, sizeof number, "\\%X ", // the blank ends the number
+                      static_cast<unsigned>(MayStandInDocument(character) ? character : 0xFFFD));
         html << static_cast<const char *>(number);
     }
 }
@@ -141,14 +133,8 @@ void WriteGlance(HtmlWriter &html, const Document &document) {
 }
 
 void WriteToday(HtmlWriter &html, const Document &document) {
-    html << "<section id=\"today\">\n<h2>In force today</h2>\n<p>This is the reading for "
-         << document.readFor << ". ";
-    if (document.age < 0)
-        html << "It is made before the year of birth.";
-    else
-        html << "The age is " << int{document.age}
-             << ", counted in calendar years whatever the month of birth is.";
-    html << "</p>\n<table class=\"today\" aria-label=\"In force today\">\n<thead><tr>"
+    html << "<section id=\"today\">\n<h2>In force today</h2>\n<p>" << document.todayNote
+         << "</p>\n<table class=\"today\" aria-label=\"In force today\">\n<thead><tr>"
             "<th scope=\"col\">Topic</th><th scope=\"col\" class=\"number\">Number</th></tr>"
             "</thead>\n<tbody>\n";
     for (const InForce &each : document.today) {
@@ -176,8 +162,10 @@ void WriteTopic(HtmlWriter &html, const DocumentTopic &topic) {
         html << "<p class=\"when\"><span class=\"mark\">in force today</span> It speaks of "
              << topic.speaksOf << ".</p>\n";
     for (const DocumentPart &part : topic.parts) {
-        html << (part.explains ? "<div class=\"part about\" id=\"" : "<div class=\"part\" id=\"")
-             << std::string_view(part.id) << "\">\n";
+        html << (part.explains ? "<div class=\"part about\"" : "<div class=\"part\"");
+        if (!part.id.empty())
+            html << " id=\"" << std::string_view(part.id) << '"';
+        html << ">\n";
         if (!part.label.empty())
             html << "<h4>" << part.label
                  << (part.inForce ? " <span class=\"mark\">in force today</span></h4>\n"

@@ -109,8 +109,8 @@ AgeAxis AxisFor(const LifePicture &picture) {
     return {std::max(90, needed / 10 * 10)};
 }
 
-/// A bar with its number and its ages. A short bar has the ages beside it, on the side where
-/// the line of today does not run through them.
+/// A bar with its number and its ages, which stand where the line of today does not run through
+/// them; beside the bar where it is short.
 void DrawSpan(Drawing &drawing, const AgeAxis &axis, const LifeSpan &span, int y, int today) {
     constexpr int height = 28;
     constexpr int agesWidth = 52;
@@ -128,9 +128,13 @@ void DrawSpan(Drawing &drawing, const AgeAxis &axis, const LifeSpan &span, int y
     const std::u16string ages =
         DecimalText(span.ages.from) +
         (span.ages.IsOpen() ? u" on" : u"\u2013" + DecimalText(span.ages.to));
-    if (to - from >= 2 * agesWidth) {
+    if (to - from >= agesWidth + 20) {
+        const bool todayThere = today >= to - agesWidth && today <= to;
         drawing.Text(from + 10, y + 20, 17, ink, Align::Start, number, true);
-        drawing.Text(to - 8, y + 19, 14, ink, Align::End, ages);
+        if (todayThere && to - from >= 2 * agesWidth)
+            drawing.Text(from + 32, y + 19, 14, ink, Align::Start, ages);
+        else
+            drawing.Text(to - 8, y + 19, 14, ink, Align::End, ages);
         return;
     }
     drawing.Text((from + to) / 2, y + 20, 17, ink, Align::Middle, number, true);

@@ -133,7 +133,7 @@ std::string ToMarkdown(const Document &document) {
     for (const NumberGroup &group : document.glance)
         markdown += GlanceTable(group);
 
-    markdown += Heading(1, "In force today", "today");
+    markdown += Heading(1, "In force today", "today") + Paragraphs(document.todayNote);
     for (const InForce &each : document.today)
         markdown += "- " + Link(Text(each.what), each.id) + ' ' + Text(each.number) + ", " +
                     Text(each.when) + '\n';

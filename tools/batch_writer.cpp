@@ -2,6 +2,7 @@
 
 #include "report/pdf_engine.h"
 #include "report/rtf.h"
+#include "tools/explanation.h"
 #include "tools/number_rows.h"
 #include "tools/reading.h"
 #include "tools/refusal.h"
@@ -26,6 +27,8 @@ PersonReading ReadAs(const Options &options, const modReadings::UserProfile &per
 /// What one person gets alone. `engine` is needed for a PDF only.
 std::string BytesOf(const Options &options, const modReadings::UserProfile &person,
                     const modReadings::GivenName &given, PdfEngine *engine) {
+    if (options.explain)
+        return ExplanationAsText(Explain(person, options.topics));
     if (!IsDocument(options.format))
         return ReadingAs(options.format, ReadAs(options, person));
     std::string document = DocumentAs(options.format, person, given);
@@ -88,6 +91,10 @@ private:
         if (options_.numbers)
             return options_.format == Format::Json ? NumbersAsJson(person, line)
                                                    : NumbersAsRow(options_.format, person, line);
+        if (options_.explain)
+            return options_.format == Format::Json
+                       ? ExplanationAsJson(Explain(person, options_.topics), line)
+                       : ExplanationAsText(Explain(person, options_.topics));
         const PersonReading reading = ReadAs(options_, person);
         if (options_.format == Format::Json)
             return ReadingAsJson(reading, line);
@@ -157,6 +164,8 @@ std::string_view BetweenPeople(const Options &options) {
 }
 
 std::string AnswerTo(const modReadings::UserProfile &person, const Options &options) {
+    if (options.explain && options.format == Format::Json)
+        return ExplanationAsJson(Explain(person, options.topics));
     if (!options.numbers) {
         const auto engine = options.format == Format::Pdf ? std::make_unique<PdfEngine>() : nullptr;
         return BytesOf(options, person, GivenNameOf(options.person), engine.get());

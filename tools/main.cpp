@@ -19,6 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+void Complain(const QString &line) {
+    std::fprintf(stderr, "orravane-report: %s\n", OneLine(line).c_str());
+}
+
 void Print(const QString &fileName, const std::string &bytes) {
     Output output(fileName);
     output.Write(bytes);
@@ -61,7 +65,11 @@ ExitCode Run(int argc, char *argv[]) {
                 u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
                 "a program read it."_s);
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
-        const auto person = CheckPerson(options.person, InputNames(u"--"_s));
+        const PersonInput input = options.normalize ? Composed(options.person) : options.person;
+        const InputNames names(u"--"_s);
+        const auto person = CheckPerson(input, names);
+        if (const QString remark = DecomposedRemark(input, names); !remark.isEmpty())
+            Complain(remark);
         Print(options.output, AnswerTo(person, options));
         break;
     }
@@ -81,7 +89,7 @@ int main(int argc, char *argv[]) {
     try {
         return static_cast<int>(Run(argc, argv));
     } catch (const Refusal &refusal) {
-        std::fprintf(stderr, "orravane-report: %s\n", OneLine(refusal.Line()).c_str());
+        Complain(refusal.Line());
         return static_cast<int>(refusal.Code());
     }
 }

@@ -54,12 +54,18 @@ constexpr std::array table{
 
     OptionRow{Today, WhatToRead, "today", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::reading,
               false, "Read for this day instead of today."},
+    OptionRow{Normalize, WhatToRead, "normalize", 0, "", ValueKind::None, goesWith::reading, false,
+              "Compose the letters of the names (Unicode NFC) before they count: an E with a "
+              "separate accent becomes one letter."},
     OptionRow{Topic, WhatToRead, "topic", 0, "CAPTION", ValueKind::Topic, goesWith::reading, true,
               "Read this topic; may be repeated. --list-topics shows the captions. "
               "Default: all topics."},
     OptionRow{Numbers, WhatToRead, "numbers", 0, "", ValueKind::None, goesWith::reading, false,
               "Print the numbers without the readings, one row per person: json (default), csv "
               "or tsv."},
+    OptionRow{Explain, WhatToRead, "explain", 0, "", ValueKind::None, goesWith::reading, false,
+              "Print how the numbers come about, letter by letter and step by step, instead of "
+              "the readings: text or json."},
     OptionRow{Book, WhatToRead, "book", 0, "", ValueKind::None, goesWith::book, false,
               "Print every reading and every fixed text of the program."},
 

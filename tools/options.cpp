@@ -248,6 +248,8 @@ Options ParseOptions(const QStringList &arguments) {
         options.format = ::Format::Json;
     }
     options.numbers = line.Given(Numbers);
+    options.explain = line.Given(Explain);
+    options.normalize = line.Given(Normalize);
     const bool isRow = options.format == ::Format::Csv || options.format == ::Format::Tsv;
     const bool isPage = options.format == ::Format::Text || options.format == ::Format::Rtf;
     if (isRow && !options.numbers)
@@ -257,6 +259,13 @@ Options ParseOptions(const QStringList &arguments) {
     if ((isPage || isDocument) && options.numbers)
         throw Refusal(u"--format: \"%1\" does not go with --numbers; give json, csv or tsv."_s.arg(
             line.Value(OptionId::Format)));
+    if (options.explain && (options.format == ::Format::Rtf || isDocument))
+        throw Refusal(u"--format: \"%1\" does not go with --explain; give text or json."_s.arg(
+            line.Value(OptionId::Format)));
+    for (const OptionId id : {Numbers, Head, NoHead})
+        if (options.explain && line.Given(id))
+            throw Refusal(
+                u"%1 does not go with --explain; leave one of them out."_s.arg(Dashed(id)));
     if (options.task == Options::Task::Book && (options.format == ::Format::Rtf || isDocument))
         throw Refusal(u"--format: \"%1\" does not go with --book; give text or json."_s.arg(
             line.Value(OptionId::Format)));

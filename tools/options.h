@@ -25,6 +25,8 @@ struct Options {
     std::optional<std::chrono::year_month_day> today;
     std::vector<std::u16string_view> topics; ///< captions, never empty
     bool numbers = false;                    ///< the numbers alone, a row per person
+    bool explain = false;                    ///< how the numbers come about
+    bool normalize = false;                  ///< whether names are composed first
     bool head = false;                       ///< whether text and RTF say who is read
     QStringList batchFiles;                  ///< "-" for standard input
     std::optional<char> delimiter;           ///< of CSV; none: found out

@@ -118,6 +118,35 @@ const InputNames &InputNames::OfColumns() {
     return names;
 }
 
+PersonInput Composed(PersonInput input) {
+    for (QString *name : {&input.first, &input.middle, &input.last})
+        *name = name->normalized(QString::NormalizationForm_C);
+    return input;
+}
+
+QString DecomposedRemark(const PersonInput &input, const InputNames &names) {
+    const auto captured = [](const PersonInput &person) {
+        return modReadings::Captured({person.first, person.middle, person.last, {}, {}, {}});
+    };
+    const PersonInput composedInput = Composed(input);
+    if (composedInput.first == input.first && composedInput.middle == input.middle &&
+        composedInput.last == input.last)
+        return {};
+    const UserProfile typed = captured(input);
+    const UserProfile composed = captured(composedInput);
+    QStringList decomposed;
+    for (const auto &[name, slot] : {std::pair(&names.first, &UserProfile::FirstName),
+                                     {&names.middle, &UserProfile::MiddleName},
+                                     {&names.last, &UserProfile::LastName}})
+        if (typed.*slot != composed.*slot)
+            decomposed << *name;
+    if (decomposed.isEmpty())
+        return {};
+    return decomposed.join(u", "_s) +
+           u": not in composed letters (Unicode NFC), which can count differently; --normalize "
+           "composes them"_s;
+}
+
 UserProfile CheckPerson(const PersonInput &given, const InputNames &names) {
     const auto refusal = [&](const QString &name, const QString &value, const QString &allowed) {
         return Refusal(value.isEmpty()

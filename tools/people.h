@@ -41,6 +41,15 @@ struct InputNames {
 /// The names of `input`, as they were typed.
 modReadings::GivenName GivenNameOf(const PersonInput &input);
 
+/// `input` with the letters of its names composed (Unicode NFC).
+PersonInput Composed(PersonInput input);
+
+/// What to tell of a person whose captured names would be others if they were composed: a line
+/// that names the inputs, as `names` calls them, and what helps. Empty where composing changes
+/// nothing.
+QString DecomposedRemark(const PersonInput &input,
+                         const InputNames &names = InputNames::OfColumns());
+
 /// Checks `input` against what the window's boxes and lists allow: names not empty, an
 /// English month name, its abbreviation or 1 to 12, a day from 1 to 31, a year from 1900 to
 /// 2050; whether the month has that day is not asked. Also refuses a name that is too long for

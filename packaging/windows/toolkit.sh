@@ -14,8 +14,8 @@ host_cmake=/usr/lib/x86_64-linux-gnu/cmake
 # Of the toolkit only what the programs use; the tests use its test library.
 toolkit_options="
     -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_TOOLS_BY_DEFAULT=OFF
-    -DFEATURE_network=OFF -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF
-    -DFEATURE_direct2d=OFF -DFEATURE_tabletevent=OFF -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF
+    -DFEATURE_network=OFF -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DINPUT_opengl=no -DFEATURE_vulkan=OFF
+    -DFEATURE_direct2d=OFF -DFEATURE_directwrite=OFF -DFEATURE_tabletevent=OFF -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF
     -DFEATURE_testlib=ON -DFEATURE_pkg_config=OFF -DFEATURE_zstd=OFF -DFEATURE_jpeg=OFF -DFEATURE_gif=OFF
     -DFEATURE_ico=OFF
 "

@@ -34,9 +34,13 @@ class Program:
         self.process = None
         self.errors = None
         self.answering = False
+        self.unread = 0
 
     def send(self, *sequences):
         """Lets the program do these sequences; `answers` then gives what it said to each."""
+        if self.unread:
+            self.end()  # answers that nobody read must not pass for those to come
+        self.unread = len(sequences)
         if self.process is None:
             self.errors = tempfile.TemporaryFile()
             self.process = subprocess.Popen(self.command, stdin=subprocess.PIPE,
@@ -61,6 +65,7 @@ class Program:
                 self.end()
                 return [], f"the program did not answer within {self.patience} s"
             self.answering = True  # to all sequences at once
+        self.unread -= 1
         answers, slots = [], dict(vars(Store()))
         for at in range(count + 1):
             line = self.process.stdout.readline()
@@ -90,6 +95,7 @@ class Program:
 
     def end(self):
         """Ends the process; the next sequence starts another. Gives its code and its errors."""
+        self.unread = 0
         self.process.kill()
         code = self.process.wait()
         self.process.stdout.close()

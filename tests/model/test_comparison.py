@@ -104,6 +104,14 @@ class Comparison(unittest.TestCase):
         self.assertEqual(sequence, [("endless", 1)])
         self.assertEqual(found, [("endless name", "First", "")])
 
+    def test_answers_that_nobody_read(self):
+        real = Program(os.environ["ORRAVANE_MODEL_DRIVER"])
+        person = ("profile", "ANNA", "", "LEE", "May", "5", "1990")
+        real.send([person, ("run", "Essence")], [person, ("run", "Birthday Number")])
+        real.answers(2)
+        self.assertIsNone(compare.compare([person, ("run", "Essence")], self.book, real))
+        self.assertIsNone(real.finish())
+
     def test_a_program_that_ends(self):
         at, found = compare.compare([("pass",)], self.book, Program("false"))
         self.assertEqual((at, found[0][0]), (0, "program"))

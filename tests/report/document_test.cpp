@@ -72,8 +72,11 @@ TEST(Document, HasTheTopicsOfThePassWithTheTextsOfTheRendering) {
             EXPECT_TRUE(ids.emplace(topic.id).second) << topic.id;
             std::u16string text = topic.heading + u'\n';
             for (const DocumentPart &part : topic.parts) {
-                EXPECT_TRUE(ids.insert(part.id).second) << part.id;
-                const auto first = std::ranges::find(topic.parts, part.sameAs, &DocumentPart::id);
+                EXPECT_EQ(part.id.empty(), part.label.empty());
+                EXPECT_TRUE(part.id.empty() || ids.insert(part.id).second) << part.id;
+                const auto first = part.sameAs.empty() ? topic.parts.end()
+                                                       : std::ranges::find(topic.parts, part.sameAs,
+                                                                           &DocumentPart::id);
                 EXPECT_EQ(first != topic.parts.end(), !part.sameAs.empty());
                 text += part.label + u'\n' +
                         (first == topic.parts.end() ? part.text : first->text) + u'\n';
@@ -163,7 +166,12 @@ TEST(Document, MarksWhatIsInForceByTheAgeOfTheCalculators) {
     EXPECT_EQ(MarkedIn(For(oakRiver, year(2036) / 12 / 31)),
               u"Life Path Period 2 from age 27 - 53 is 2|Third Pinnacle from age 43-51 is 3|"
               u"Fourth Pinnacle from age 47 & beyond is 8|");
+    EXPECT_EQ(
+        For(oakRiver).todayNote,
+        u"This is the reading for November 16, 2026. The age is 41, counted in calendar years "
+        u"whatever the month of birth is. No pinnacle is in force at this age.");
     const Document unborn = For(oakRiver, year(1984) / 12 / 31);
+    EXPECT_TRUE(unborn.todayNote.ends_with(u"1984. It is made before the year of birth."));
     EXPECT_EQ(MarkedIn(unborn), u"");
     EXPECT_EQ(unborn.today.size(), 3U); // year, month and day
 }

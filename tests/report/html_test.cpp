@@ -63,6 +63,14 @@ TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
               std::string::npos);
 }
 
+// What could end the style, and what could end the text within it. A blank ends each number.
+TEST(Html, WritesTheNameAtTheTopOfThePagesByNumbers) {
+    const std::string html = HtmlFor(u"Ann</style>\"\\\xD83D", u"Lee\U0001F600");
+    EXPECT_NE(html.find("@top-left { content: \"Ann\\3C \\2F style\\3E \\22 \\5C \\FFFD  Lee"
+                        "\\1F600 \"; }"),
+              std::string::npos);
+}
+
 TEST(Html, CutsALongNameWhereThereIsLittleRoom) {
     const std::string html = HtmlFor(std::u16string(59, u'A') + u"\U0001F600", u"Lee");
     EXPECT_NE(html.find("<title>" + std::string(59, 'A') + "\u2026 "), std::string::npos);

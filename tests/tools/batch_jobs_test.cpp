@@ -100,6 +100,41 @@ TEST_F(BatchJobs, GiveTheBytesOfOneInEveryForm) {
         }
 }
 
+TEST_F(BatchJobs, ExplainAsOneDoes) {
+    Make("people", Rows(300));
+    for (const Format format : {Format::Json, Format::Text}) {
+        Options options = Of({"people"});
+        options.format = format;
+        options.explain = true;
+        EXPECT_EQ(Same(options).code, 1);
+    }
+}
+
+// A name in decomposed letters is told of in its place among the wrong lines, but is none.
+TEST_F(BatchJobs, TellOfDecomposedNamesAsOneDoes) {
+    std::string people;
+    for (int index = 0; index < 40; ++index)
+        people += index % 8 == 5 ? "{}\n"
+                                 : R"({"first":"Zoe\u0301","last":"Lee","birthdate":"1990-03-07"})"
+                                   "\n";
+    Make("people", people);
+    Options options = Of({"people"});
+    Seen seen = Same(options);
+    EXPECT_EQ(std::ranges::count(seen.err, '\n'), 40);
+    ExpectLine(seen.err.substr(0, seen.err.find('\n')), {"line 1: first: not in composed letters"});
+    EXPECT_NE(seen.err.find("line 6: first is missing"), std::string::npos);
+    options.maxErrors = 2; // the second wrong line is the 14th
+    seen = Same(options);
+    EXPECT_EQ(std::ranges::count(seen.err, '\n'), 14);
+
+    options.maxErrors.reset();
+    options.normalize = true;
+    seen = Same(options);
+    EXPECT_EQ(std::ranges::count(seen.err, '\n'), 5); // the wrong lines
+    EXPECT_EQ(seen.err.find("composed"), std::string::npos);
+    EXPECT_NE(seen.out.find("ZO\u00C9"), std::string::npos);
+}
+
 TEST_F(BatchJobs, GiveTheFilesOfOne) {
     Make("people", Rows(300));
     Options options = Of({"people"});

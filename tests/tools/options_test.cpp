@@ -128,6 +128,27 @@ TEST(ParseOptions, OfTheHead) {
     EXPECT_FALSE(Parsed(batch).head);
 }
 
+TEST(ParseOptions, OfAnExplanation) {
+    EXPECT_FALSE(Parsed({"--batch", "p"}).explain);
+    EXPECT_TRUE(Parsed({"--explain"}).explain);
+    EXPECT_EQ(Parsed({"--explain"}).format, Format::Text);
+    EXPECT_EQ(Parsed({"--explain", "-f", "json"}).format, Format::Json);
+    EXPECT_EQ(Parsed({"--batch", "p", "--explain"}).format, Format::Json);
+    EXPECT_EQ(Parsed({"--batch", "p", "--explain", "--output-dir", "d"}).format, Format::Text);
+    ExpectWrong({"--explain", "-f", "rtf"}, {"--format: \"rtf\" does not go with --explain"});
+    ExpectWrong({"--explain", "-f", "csv"}, {"--format: \"csv\" goes with --numbers only"});
+    for (const std::string other : {"--numbers", "--head", "--no-head"})
+        ExpectWrong({"--explain", other}, {other, "does not go with --explain"});
+    ExpectWrong({"--book", "--explain"}, {"--explain does not go with --book"});
+}
+
+TEST(ParseOptions, TakesNamesToBeComposed) {
+    EXPECT_FALSE(Parsed({"--numbers"}).normalize);
+    EXPECT_TRUE(Parsed({"--numbers", "--normalize"}).normalize);
+    EXPECT_TRUE(Parsed({"--batch", "p", "--normalize"}).normalize);
+    ExpectWrong({"--book", "--normalize"}, {"--normalize does not go with --book"});
+}
+
 TEST(ParseOptions, OfTheBookHelpAndVersion) {
     const Options book = Parsed({"--book", "--format", "json", "--output", "f"});
     EXPECT_EQ(book.task, Options::Task::Book);
