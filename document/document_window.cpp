@@ -198,6 +198,8 @@ QWidget *DocumentWindow::BuildDocument() {
     format = List(tr("Format"), group);
     for (const FormatRow &row : formats)
         format->addItem(tr(row.entry));
+    if (!PdfEngine::WhatIsMissing().isEmpty())
+        format->setCurrentIndex(1); // PDF stays in the list, and says what it needs
     opens = new CheckBox(tr("&Open it when it is made"), group);
     opens->setChecked(true);
     rows->addWidget(Label(tr("Forma&t"), format, group), 0, 0);
@@ -240,11 +242,10 @@ void DocumentWindow::paintEvent(QPaintEvent *) {
 void DocumentWindow::keyPressEvent(QKeyEvent *event) {
     // Keys come here when the control that has the focus makes no use of them.
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->isAutoRepeat() || (event->modifiers() & ~Qt::KeypadModifier) != 0)
-        QWidget::keyPressEvent(event);
-    else if (event->key() == Qt::Key_Escape || (enter && cancel->hasFocus()))
+    const bool alone = !event->isAutoRepeat() && (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    if (alone && (event->key() == Qt::Key_Escape || (enter && cancel->hasFocus())))
         Cancel();
-    else if (enter)
+    else if (alone && enter)
         Make();
     else
         QWidget::keyPressEvent(event);

@@ -63,7 +63,7 @@ void WriteCssString(HtmlWriter &html, std::u16string_view text) {
         char number[16];
         std::snprintf(number, sizeof number, "\\%X ", // the blank ends the number
                       static_cast<unsigned>(MayStandInDocument(character) ? character : 0xFFFD));
-        html << static_cast<const char *>(number);
+        html << std::string_view(number);
     }
 }
 

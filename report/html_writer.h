@@ -2,6 +2,7 @@
 
 // Writes HTML as bytes of UTF-8 into one growing string.
 
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -15,8 +16,18 @@ public:
         used_ += markup.copy(out_.data() + used_, markup.size());
         return *this;
     }
-    HtmlWriter &operator<<(const char *markup) { return *this << std::string_view(markup); }
-    HtmlWriter &operator<<(char markup) { return *this << std::string_view(&markup, 1); }
+    /// The same for a literal, whose length the compiler knows.
+    template <std::size_t size> HtmlWriter &operator<<(const char (&literal)[size]) {
+        Reserve(size);
+        std::memcpy(out_.data() + used_, literal, size - 1);
+        used_ += size - 1;
+        return *this;
+    }
+    HtmlWriter &operator<<(char markup) {
+        Reserve(1);
+        out_[used_++] = markup;
+        return *this;
+    }
 
     HtmlWriter &operator<<(int number);
 

@@ -85,9 +85,13 @@ PdfEngine::PdfEngine(QObject *parent) : QObject(parent) {
 PdfEngine::~PdfEngine() { Cancel(); }
 
 QString PdfEngine::WhatIsMissing() {
+#ifdef Q_OS_WIN
+    return u"PDF cannot be made on Windows; choose another format"_s;
+#else
     if (!Interpreter().isEmpty())
         return {};
     return u"PDF needs WeasyPrint, which is not installed; install the package weasyprint"_s;
+#endif
 }
 
 void PdfEngine::Launch() {

@@ -28,8 +28,8 @@ public:
     /// Ends the process, whatever it does.
     ~PdfEngine() override;
 
-    /// Why no PDF can be made on this machine: a line that names the package to install.
-    /// Empty where the engine is installed.
+    /// Why no PDF can be made on this machine: a line that names the package to install, where
+    /// there is one. Empty where the engine is installed.
     static QString WhatIsMissing();
 
     /// Begins to make a PDF of `html`, a document in UTF-8 from which nothing else is loaded:

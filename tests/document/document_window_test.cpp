@@ -143,6 +143,8 @@ private slots:
         QCOMPARE(MessageOnMake(), u"Warning, Orravane Document: PDF needs WeasyPrint, which is not "
                                   "installed; install the package weasyprint. [OK]"_s);
         QCOMPARE(window_->focusWidget(), window_->format);
+        QVERIFY(window_->format->currentText().startsWith(u"PDF"));
+        QVERIFY(DocumentWindow().format->currentText().startsWith(u"HTML")); // from the beginning
     }
 
     void TheDialogProposesANameForThePersonAndTheFormat() {
