@@ -110,7 +110,8 @@ def shortest(sequence, book, program):
 
 
 def tell(sequence, difference):
-    at, found = difference
+    # A program that does not always say the same, say, or that remembers another sequence.
+    at, found = difference or (None, [("difference", "none", "none when done once more")])
     for place, command in enumerate(sequence):
         print(("  > " if place == at else "    ") + sequences.described(command))
     for name, expected, answered in found:

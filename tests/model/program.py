@@ -1,15 +1,20 @@
 """The program's side: the driver as a child process."""
 
 import json
+import os
+import pathlib
 import re
 import select
 import subprocess
 import tempfile
+import time
 
 from numerology.state import Store
 from numerology.text import units
 
-# Seconds. No sequence takes nearly as long, and one that is being shrunk less still.
+# Seconds of the processor's time, since a busy machine lets a program wait. No sequences take
+# nearly as long, and one that is being shrunk less still. A program that waits for something
+# itself gets ten times as many by the clock.
 ANSWER_WITHIN = 60
 ANSWER_WITHIN_WHILE_SHRINKING = 5
 
@@ -26,6 +31,13 @@ def _with_units(value):
     return units(value) if isinstance(value, str) else value
 
 
+def _used_by(pid):
+    """Seconds of the processor's time."""
+    stat = pathlib.Path(f"/proc/{pid}/stat").read_text(encoding="utf-8")
+    fields = stat.rpartition(")")[2].split()  # those behind the name, which stands in brackets
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
 class Program:
 
     def __init__(self, *command):
@@ -35,6 +47,7 @@ class Program:
         self.errors = None
         self.answering = False
         self.unread = 0
+        self.used_before = 0
 
     def send(self, *sequences):
         """Lets the program do these sequences; `answers` then gives what it said to each."""
@@ -50,6 +63,7 @@ class Program:
             lines += ["new"] + ["\t".join(map(_word, command)) for command in sequence]
         lines += ["answer", ""]
         self.answering = False
+        self.used_before = _used_by(self.process.pid)
         try:
             self.process.stdin.write("\n".join(lines).encode("ascii"))
             self.process.stdin.flush()
@@ -60,8 +74,7 @@ class Program:
         """The slots, the report and the endless name after each of the `count` commands of the
         next sequence, and what went wrong, or None. Where something did, answers are missing."""
         if not self.answering:
-            ready, _, _ = select.select([self.process.stdout], [], [], self.patience)
-            if not ready:
+            if not self._begins_to_answer():
                 self.end()
                 return [], f"the program did not answer within {self.patience} s"
             self.answering = True  # to all sequences at once
@@ -82,6 +95,18 @@ class Program:
                 report = [(_with_units(text), bold) for text, bold in report]
             answers.append((dict(slots), report, answer.get("endless")))
         return answers, None
+
+    def _begins_to_answer(self):
+        until = time.monotonic() + 10 * self.patience
+        while time.monotonic() < until and self._processor_time() < self.patience:
+            ready, _, _ = select.select([self.process.stdout], [], [], min(1, self.patience))
+            if ready:
+                return True
+        return False
+
+    def _processor_time(self):
+        """What the process has used since the sequences were sent."""
+        return _used_by(self.process.pid) - self.used_before
 
     def finish(self):
         """Lets the process end by itself. Gives what went wrong with that, or None."""
