@@ -115,6 +115,9 @@ function Pandoc(document)
         return link
       elseif link.target == 'contact:' then
         return pandoc.Link(stringify(meta.contact), 'mailto:' .. stringify(meta.contact))
+      elseif link.target == 'windows.md' then -- a document for those who build it
+        link.target = stringify(meta['update-path']) .. '#windows'
+        return link
       end
     end,
     CodeBlock = function(code)
