@@ -41,7 +41,7 @@ inline Answer Check(const std::string &text, PeopleLines lines, Format format) {
     if (!header.empty())
         header.pop_back();
     constexpr long long number = 4711;
-    const LineAnswer answer = AnswerLine({text, false, number, 0, number}, lines, *writer);
+    const LineAnswer answer = AnswerLine({text, false, number, 0, number}, lines, false, *writer);
     const std::string &row = sink.bytes;
     if (!answer.person && !answer.wrong) { // the rest of a row
         Require(row.empty(), "the rest of a row has no answer", row);
