@@ -76,7 +76,7 @@ int main(int argc, char *argv[]) {
     try {
         return static_cast<int>(Run(argc, argv));
     } catch (const Refusal &refusal) {
-        std::fprintf(stderr, "orravane-report: %s\n", OneLine(refusal.Line()).c_str());
+        WriteToStandardError("orravane-report: " + OneLine(refusal.Line()) + '\n');
         return static_cast<int>(refusal.Code());
     }
 }
