@@ -1,7 +1,6 @@
 #include "tools/progress.h"
 
 #include "tools/system.h"
-#include "tools/text.h"
 
 #include <QLocale>
 

@@ -3,7 +3,6 @@
 #include <QStringDecoder>
 #include <QStringEncoder>
 
-#include <cstdio>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -58,10 +57,6 @@ std::string OneLine(const QString &text) {
     for (const QChar character : text)
         line += ActsOnTerminal(character.unicode()) ? Escaped(character) : QString(character);
     return ToUtf8(line.toStdU16String());
-}
-
-void WriteToStandardError(std::string_view bytes) {
-    std::fwrite(bytes.data(), 1, bytes.size(), stderr);
 }
 
 QString Excerpt(const QString &text) {

@@ -26,9 +26,6 @@ bool ActsOnTerminal(char32_t character);
 /// to a terminal.
 std::string OneLine(const QString &text);
 
-/// Writes to standard error in one go: a console that gets half a letter shows none.
-void WriteToStandardError(std::string_view bytes);
-
 /// What a message shows of a text that it quotes: all of it up to sixty characters, and of a
 /// longer one the beginning and the end with "..." between, sixty in all. A surrogate pair is
 /// kept or left out whole.

@@ -1,6 +1,7 @@
 #include "tools/wrong_lines.h"
 
 #include "tools/refusal.h"
+#include "tools/system.h"
 #include "tools/text.h"
 
 using namespace Qt::StringLiterals;
