@@ -51,7 +51,8 @@ echo "$(in_root dpkg-query -W | wc -l) packages in the system"
 
 step "Every library is there, those of the plugins too"
 plugins="/usr/lib/*/qt6/plugins"
-in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-report $plugins/platforms/libqxcb.so \
+in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-document /usr/bin/orravane-report \
+    $plugins/platforms/libqxcb.so \
     $plugins/printsupport/libcupsprintersupport.so" \
     >"$root/tmp/libraries" || fail "ldd: $(cat "$root/tmp/libraries")"
 if grep 'not found' "$root/tmp/libraries"; then

@@ -13,12 +13,12 @@ static void InitArtwork() { Q_INIT_RESOURCE(orravane); }
 
 QString App::Title() { return u"Orravane"_s; }
 
-void App::Identify() {
+void App::Identify(const QString &program) {
     InitArtwork();
-    QApplication::setApplicationName(u"orravane"_s);
+    QApplication::setApplicationName(program);
     QApplication::setOrganizationName(u"orravane"_s);
     QApplication::setApplicationVersion(QLatin1StringView(orravaneVersion));
-    QApplication::setDesktopFileName(u"orravane"_s);
+    QApplication::setDesktopFileName(program);
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setStyle(new DesktopStyle);
     QApplication::setFont(WindowFont());

@@ -56,11 +56,11 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
-        event->key() == Qt::Key_Space)
-        emit clicked();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter &&
+        event->key() != Qt::Key_Space)
         QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat()) // a key that is held down would open page after page
+        emit clicked();
 }
 
 void LinkLabel::paintEvent(QPaintEvent *event) {

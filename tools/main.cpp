@@ -19,6 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+void Complain(const QString &line) {
+    WriteToStandardError("orravane-report: " + OneLine(line) + '\n');
+}
+
 void Print(const QString &fileName, const std::string &bytes) {
     Output output(fileName);
     output.Write(bytes);
@@ -55,8 +59,17 @@ ExitCode Run(int argc, char *argv[]) {
     case Options::Task::Batch:
         return RunBatch(options);
     case Options::Task::Person: {
+        if (options.format == Format::Pdf &&
+            (options.output.isEmpty() || options.output == u"-"_s) && isatty(STDOUT_FILENO) == 1)
+            throw Refusal(
+                u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
+                "a program read it."_s);
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
-        const auto person = CheckPerson(options.person, u"--"_s);
+        const PersonInput input = options.normalize ? Composed(options.person) : options.person;
+        const InputNames names(u"--"_s);
+        const auto person = CheckPerson(input, names);
+        if (const QString remark = DecomposedRemark(input, names); !remark.isEmpty())
+            Complain(remark);
         Print(options.output, AnswerTo(person, options));
         break;
     }
@@ -76,7 +89,7 @@ int main(int argc, char *argv[]) {
     try {
         return static_cast<int>(Run(argc, argv));
     } catch (const Refusal &refusal) {
-        WriteToStandardError("orravane-report: " + OneLine(refusal.Line()) + '\n');
+        Complain(refusal.Line());
         return static_cast<int>(refusal.Code());
     }
 }

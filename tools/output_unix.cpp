@@ -81,17 +81,15 @@ std::optional<int> DescriptorNamed(std::string_view name) {
     return std::nullopt;
 }
 
-bool IsFileOrNothing(const char *name) {
-    struct stat status {};
-    return stat(name, &status) != 0 || S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
-}
-
-/// `name` with all links followed, also where the last one leads to nothing yet.
-std::string BehindLinks(std::string name) {
+/// `name` with all links followed, also where the last one leads to nothing yet. Nothing, and
+/// errno, where the system cannot say.
+std::optional<std::string> BehindLinks(std::string name) {
     constexpr int most = 40; // more links than the system follows itself
     for (int followed = 0; followed < most; ++followed) {
         std::array<char, 4096> target{};
         const ssize_t length = readlink(name.c_str(), target.data(), target.size());
+        if (length < 0 && errno != EINVAL && errno != ENOENT) // no link, and nothing there
+            return std::nullopt;
         if (length <= 0 || static_cast<std::size_t>(length) == target.size())
             break;
         const std::string_view next(target.data(), static_cast<std::size_t>(length));
@@ -113,14 +111,23 @@ void Output::OpenNamed(const Name &name) {
         descriptor_ = *number;
         if (fcntl(descriptor_, F_GETFD) < 0)
             Fail(errno);
-    } else if (!IsFileOrNothing(name.c_str())) {
+        return;
+    }
+    struct stat present {};
+    const bool isThere = stat(name.c_str(), &present) == 0;
+    if (!isThere && errno != ENOENT)
+        Fail(errno); // it may be there and no file
+    if (isThere && !S_ISREG(present.st_mode) && !S_ISDIR(present.st_mode)) {
         descriptor_ = open(name.c_str(), O_WRONLY | O_CLOEXEC);
         if (descriptor_ < 0)
             Fail(errno);
         owned_ = true;
-    } else {
-        OpenBeside(BehindLinks(name));
+        return;
     }
+    const auto file = BehindLinks(name);
+    if (!file)
+        Fail(errno);
+    OpenBeside(*file);
 }
 
 Output::~Output() {
@@ -135,6 +142,8 @@ Output::~Output() {
 void Output::OpenBeside(Name place) {
     struct stat present {};
     const bool replaces = lstat(place.c_str(), &present) == 0;
+    if (!replaces && errno != ENOENT)
+        Fail(errno); // it may be there, and its mode be lost
     if (replaces && S_ISDIR(present.st_mode))
         Fail(EISDIR);
     if (place.size() + 16 >= unfinished.size())

@@ -33,7 +33,11 @@ std::string Clock(double seconds) {
 }
 
 std::string Rate(const BatchCount &count, double seconds) {
-    return Grouped(std::llround(static_cast<double>(count.people + count.wrong) / seconds));
+    const double rate = static_cast<double>(count.people + count.wrong) / seconds;
+    const long long tenths = std::llround(rate * 10);
+    if (tenths < 100 && tenths % 10 != 0) // such as PDFs, each of which takes its time
+        return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10);
+    return Grouped(std::llround(rate));
 }
 
 } // namespace

@@ -18,8 +18,9 @@ foreach(component window tool)
   install(FILES debian/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
           RENAME ${package} COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
-install(FILES ${PROJECT_SOURCE_DIR}/docs/user-guide.md ${PROJECT_SOURCE_DIR}/docs/windows.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
-        COMPONENT window EXCLUDE_FROM_ALL)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/user-guide.md ${PROJECT_SOURCE_DIR}/docs/sample-report.html
+              ${PROJECT_SOURCE_DIR}/docs/windows.md
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane COMPONENT window EXCLUDE_FROM_ALL)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/pictures DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane
         COMPONENT window EXCLUDE_FROM_ALL)
 install(FILES debian/people.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orravane-report/examples
@@ -42,14 +43,16 @@ the Comprehensive Reading. Reports can be printed or saved as Rich Text Format."
 set(CPACK_DEBIAN_WINDOW_DESCRIPTION
     "${what_it_is}
 .
-The package holds the window, orravane. The command orravane-report, which gives
-the same readings without a display, has a package of its own.")
+The package holds the window, orravane, and orravane-document, which makes a
+document to hand over as PDF, HTML or Markdown. The command orravane-report,
+which gives the same without a display, has a package of its own.")
 set(CPACK_DEBIAN_TOOL_DESCRIPTION
     "${what_it_is}
 .
 The package holds the command orravane-report. It gives readings as text, JSON
-or Rich Text Format, for one person or for every line of a list, and needs
-neither a display nor the libraries of one.")
+or Rich Text Format, or as a document in PDF, HTML or Markdown, for one person
+or for every line of a list, and needs neither a display nor the libraries of
+one.")
 
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -62,14 +65,15 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 
 # The libraries are found by dpkg-shlibdeps. The window is laid out for the widths of DejaVu
 # Sans. Printing goes through libcups and needs a print server, not the commands of
-# cups-client.
+# cups-client. WeasyPrint makes the PDFs and nothing else.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_WINDOW_PACKAGE_NAME orravane)
 set(CPACK_DEBIAN_WINDOW_PACKAGE_DEPENDS "fonts-dejavu-core")
-set(CPACK_DEBIAN_WINDOW_PACKAGE_RECOMMENDS "hicolor-icon-theme, orravane-report, qt6-wayland, xdg-utils")
-set(CPACK_DEBIAN_WINDOW_PACKAGE_SUGGESTS "cups")
+set(CPACK_DEBIAN_WINDOW_PACKAGE_RECOMMENDS "hicolor-icon-theme, orravane-report, qt6-wayland, weasyprint, xdg-utils")
+set(CPACK_DEBIAN_WINDOW_PACKAGE_SUGGESTS "cups, pandoc")
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME orravane-report)
-set(CPACK_DEBIAN_TOOL_PACKAGE_SUGGESTS "parallel")
+set(CPACK_DEBIAN_TOOL_PACKAGE_RECOMMENDS "weasyprint")
+set(CPACK_DEBIAN_TOOL_PACKAGE_SUGGESTS "pandoc, parallel")
 # Up to 1.1.0 the window's package held the tool as well.
 set(CPACK_DEBIAN_TOOL_PACKAGE_BREAKS "orravane (<< 1.2.0)")
 set(CPACK_DEBIAN_TOOL_PACKAGE_REPLACES "orravane (<< 1.2.0)")

@@ -18,13 +18,13 @@ build_toolkit
 
 build=build/windows/product
 configure "$build" "$@"
-cmake --build "$build" --target orravane orravane-report
+cmake --build "$build" --target orravane orravane-document orravane-report
 
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
 folder=build/windows/orravane-$version
 rm -rf "$folder"
 mkdir -p "$folder/platforms" "$folder/styles" "$folder/licenses" "$output"
-cp "$build/shell/orravane.exe" "$build/tools/orravane-report.exe" "$folder"
+cp "$build/shell/orravane.exe" "$build/document/orravane-document.exe" "$build/tools/orravane-report.exe" "$folder"
 cp "$toolkit/plugins/platforms/qwindows.dll" "$folder/platforms"
 cp "$toolkit/plugins/styles/qwindowsvistastyle.dll" "$folder/styles"
 add_dlls "$folder"

@@ -77,6 +77,7 @@ Section
   Abort "The files could not be written."
   WriteUninstaller "$INSTDIR\Uninstall.exe"
   CreateShortCut "$SMPROGRAMS\Orravane.lnk" "$INSTDIR\orravane.exe" "" "" "" SW_SHOWNORMAL "" "Numerology reports"
+  CreateShortCut "$SMPROGRAMS\Orravane Document.lnk" "$INSTDIR\orravane-document.exe" "" "" "" SW_SHOWNORMAL "" "Numerology documents"
 
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayName" "Orravane"
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
@@ -97,6 +98,7 @@ Section "Uninstall"
   Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\Orravane.lnk"
+  Delete "$SMPROGRAMS\Orravane Document.lnk"
   DeleteRegKey SHCTX "${UNINSTALL_KEY}"
 
   ; What the program has kept for this user: the day of the update question, and its lock.

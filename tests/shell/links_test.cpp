@@ -56,6 +56,18 @@ private slots:
         QCOMPARE(browser.Taken(), QStringList());
     }
 
+    void AKeyThatIsHeldDownOpensOnePage() {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            QTest::keyPress(form.lblHyperlink, key);
+            for (int times = 0; times < 3; ++times) {
+                QKeyEvent repeated(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+                QApplication::sendEvent(form.lblHyperlink, &repeated);
+            }
+            QTest::keyRelease(form.lblHyperlink, key);
+            QCOMPARE(browser.Taken(), home_);
+        }
+    }
+
     void OnlyALeftClickThatEndsOnTheLinkCounts() {
         QTest::mousePress(form.lblHyperlink, Qt::LeftButton, {}, QPoint(5, 5));
         QTest::mouseRelease(form.lblHyperlink, Qt::LeftButton, {}, QPoint(5, -20));
