@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void Complain(const QString &line) {
-    std::fprintf(stderr, "orravane-report: %s\n", OneLine(line).c_str());
+    WriteToStandardError("orravane-report: " + OneLine(line) + '\n');
 }
 
 void Print(const QString &fileName, const std::string &bytes) {
