@@ -6,16 +6,24 @@
 //
 // A digit sum adds all the digits of a text. A fold adds the first digit and the last
 // and forgets what stands between them: 123 has the digit sum 6 and folds to 4.
+//
+// A trace shows each step that changes a number, and each master number that stays.
 
 #include "core/int16.h"
 #include "core/text.h"
+#include "core/tracing.h"
 
 #include <string_view>
 
 namespace modReadings {
 
-/// Whether `number` is one of the two master numbers, 11 and 22.
-constexpr bool IsMaster(int16 number) { return number == 11 || number == 22; }
+/// Whether `number` is one of the two master numbers, 11 and 22, and so stays as it is.
+constexpr bool StaysMaster(int16 number) {
+    if (number != 11 && number != 22)
+        return false;
+    TraceStep(Trace::StepKind::MasterStays, number, number);
+    return true;
+}
 
 /// The sum of the digits of `text`; 0 for the empty text. Throws RuntimeFailure at the
 /// first character that is no digit, or when the sum leaves the int16 range.
@@ -23,6 +31,7 @@ constexpr int16 DigitSum(std::u16string_view text) {
     int16 sum = 0;
     for (const char16_t character : text)
         sum = Add(sum, DigitValue(character));
+    TraceDigitSum(text, sum);
     return sum;
 }
 
@@ -31,9 +40,12 @@ constexpr int16 DigitSum(std::u16string_view text) {
 constexpr int16 DigitSum(int16 value) {
     if (value < 0)
         throw RuntimeFailure("not a digit");
+    if (value < 10)
+        return value;
     int16 sum = 0;
-    for (; value != 0; value = static_cast<int16>(value / 10))
-        sum = static_cast<int16>(sum + value % 10);
+    for (int rest = value; rest != 0; rest /= 10)
+        sum = static_cast<int16>(sum + rest % 10);
+    TraceDigitSum(value, sum);
     return sum;
 }
 
@@ -48,7 +60,10 @@ constexpr int16 Fold(int16 value) {
     int first = value;
     while (first >= 10)
         first /= 10;
-    return static_cast<int16>(first + last);
+    const auto folded = static_cast<int16>(first + last);
+    TraceStep(Trace::StepKind::Fold, value, folded, static_cast<int16>(first),
+              static_cast<int16>(last));
+    return folded;
 }
 
 /// Digit sum and exactly two folds, 0 to 9. Knows no master number: a sum of 11 gives
@@ -66,10 +81,10 @@ constexpr int16 ReduceNumber(int16 value) { return Fold(Fold(DigitSum(value))); 
 /// folds to 11 and on to 2. A loop that guards every stage would change readings.
 /// Throws RuntimeFailure for a negative number, which then stays as it was.
 constexpr int16 ReduceKeepMaster(int16 &number) {
-    if (IsMaster(number))
+    if (StaysMaster(number))
         return number;
     const int16 sum = DigitSum(number);
-    number = IsMaster(sum) ? sum : Fold(Fold(sum));
+    number = StaysMaster(sum) ? sum : Fold(Fold(sum));
     return number;
 }
 

@@ -4,6 +4,7 @@
 // Only the capitals A to Z have a value; every other character counts 0.
 
 #include "core/int16.h"
+#include "core/tracing.h"
 
 #include <array>
 #include <bitset>
@@ -36,15 +37,22 @@ constexpr int16 ChartValue(char16_t character) {
 /// The chart value of a text that is one letter: 1 to 9. Gives 0 for the empty text,
 /// for more than one character and for any character without a value. Never fails.
 constexpr int16 LetterValue(std::u16string_view letter) {
-    return letter.size() == 1 ? ChartValue(letter.front()) : int16{0};
+    if (letter.size() != 1)
+        return 0;
+    const int16 value = ChartValue(letter.front());
+    TraceLetter(letter.front(), value, true, value);
+    return value;
 }
 
 /// Which of the values 1 to 9 the characters of `name` have, however often: bit 5 is set
 /// when one has the value 5. Bit 0 is set when a character has no value. Never fails.
 inline std::bitset<10> PresentValues(std::u16string_view name) {
     std::bitset<10> present;
-    for (const char16_t character : name)
-        present.set(static_cast<std::size_t>(ChartValue(character)));
+    for (const char16_t character : name) {
+        const int16 value = ChartValue(character);
+        present.set(static_cast<std::size_t>(value));
+        TraceLetter(character, value, true, value);
+    }
     return present;
 }
 
@@ -52,8 +60,11 @@ inline std::bitset<10> PresentValues(std::u16string_view name) {
 /// it leaves the int16 range.
 constexpr int16 NameLetterSum(std::u16string_view name) {
     int16 sum = 0;
-    for (const char16_t character : name)
-        sum = Add(sum, ChartValue(character));
+    for (const char16_t character : name) {
+        const int16 value = ChartValue(character);
+        sum = Add(sum, value);
+        TraceLetter(character, value, true, sum);
+    }
     return sum;
 }
 

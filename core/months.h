@@ -4,6 +4,7 @@
 // language matches none of them, and the month then counts 0.
 
 #include "core/int16.h"
+#include "core/tracing.h"
 
 #include <array>
 #include <string_view>
@@ -23,10 +24,12 @@ constexpr int16 MonthValue(std::size_t index) {
 
 /// The value of a month name, compared exactly: 1 to 9, or 0 for any other text.
 constexpr int16 EnglishMonthValue(std::u16string_view monthName) {
-    for (std::size_t index = 0; index < englishMonths.size(); ++index)
+    int16 value = 0;
+    for (std::size_t index = 0; index < englishMonths.size() && value == 0; ++index)
         if (monthName == englishMonths[index])
-            return MonthValue(index);
-    return 0;
+            value = MonthValue(index);
+    TraceStep(Trace::StepKind::Month, monthName, value);
+    return value;
 }
 
 /// The value of a month name, 0 to 9. Twelve tests are made in calendar order, and each

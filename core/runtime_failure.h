@@ -18,13 +18,19 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+namespace detail {
+/// Tells a trace, if one is recorded (core/trace.h).
+void AddFailure(const RuntimeFailure &failure);
+} // namespace detail
+
 /// Runs one statement of an event procedure. Returns false when it was abandoned by a
-/// RuntimeFailure; nothing is reported, the caller simply goes on.
+/// RuntimeFailure; nobody is told, the caller simply goes on.
 template <typename Statement> bool Attempt(Statement &&statement) {
     try {
         std::forward<Statement>(statement)();
         return true;
-    } catch (const RuntimeFailure &) {
+    } catch (const RuntimeFailure &failure) {
+        detail::AddFailure(failure);
         return false;
     }
 }

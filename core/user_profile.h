@@ -17,6 +17,9 @@ struct UserProfile {
     std::u16string BirthYear;  ///< decimal text, "1900" to "2050"
 };
 
+/// One of the three names of a person.
+enum class NamePart { First, Middle, Last };
+
 /// The person whom the calculators read; empty until the first pass.
 inline UserProfile profile;
 

@@ -64,3 +64,13 @@ picture help
 
 key alt+f x
 wait $! 2>/dev/null || true
+
+# Three pages of the sample document, where the engine that makes pages is there.
+if command -v weasyprint >/dev/null && command -v pdftoppm >/dev/null; then
+    weasyprint --quiet docs/sample-report.html "$home/sample.pdf"
+    pdftoppm -r 80 -png "$home/sample.pdf" "$home/page"
+    montage "$home/page-01.png" "$home/page-05.png" "$home/page-09.png" -tile 3x1 \
+        -geometry +12+12 -background '#8a7d97' -strip "$pictures/document.png"
+else
+    echo "No weasyprint and pdftoppm: docs/pictures/document.png stays as it is." >&2
+fi

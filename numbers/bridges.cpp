@@ -1,5 +1,6 @@
 #include "core/digits.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
 
@@ -9,9 +10,8 @@ namespace {
 
 /// The gap between two core numbers, reduced. A gap of 9 has no reading, and the text
 /// of an earlier run stays under it.
-void Bridge(int16 minuend, int16 subtrahend, int16 &number, std::u16string &text,
-            ReadingTable table) {
-    number = ReduceNumber(Absolute(Subtract(minuend, subtrahend)));
+void Bridge(int16 one, int16 other, int16 &number, std::u16string &text, ReadingTable table) {
+    number = Traced(u"bridge", ReduceNumber(Gap(one, other)));
     SelectReading(text, number, table);
 }
 
@@ -21,14 +21,17 @@ void Bridge(int16 minuend, int16 subtrahend, int16 &number, std::u16string &text
 // core/proceed_pass.h. The trace that remains is the text under a gap of 9: the pass has
 // put the reading of the stale numbers there, on the first Proceed that of 0.
 void CalcHPBridge() {
-    Bridge(store.SoulUrgeNumber, store.InnerDreamsNumber, store.HPBridgeNumber, store.HPBridgeText,
+    const int16 soulUrge = Traced(u"Soul Urge Number", store.SoulUrgeNumber);
+    const int16 innerDreams = Traced(u"Inner Dreams Number", store.InnerDreamsNumber);
+    Bridge(soulUrge, innerDreams, store.HPBridgeNumber, store.HPBridgeText,
            readings::hpBridge.rows);
     store.HPBridgeAbout = readings::hpBridge.about;
 }
 
 void CalcLEBridge() {
-    Bridge(store.DestinyNumber, store.LifePathNumber, store.LEBridgeNumber, store.LEBridgeText,
-           readings::leBridge.rows);
+    const int16 destiny = Traced(u"Destiny Number", store.DestinyNumber);
+    const int16 lifePath = Traced(u"Life Path Number", store.LifePathNumber);
+    Bridge(destiny, lifePath, store.LEBridgeNumber, store.LEBridgeText, readings::leBridge.rows);
     store.LEBridgeAbout = readings::leBridge.about;
 }
 

@@ -1,6 +1,7 @@
 #include "core/digits.h"
 #include "core/months.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/digit_walk.h"
@@ -16,20 +17,23 @@ void AssignChallenge(std::u16string_view ordinal, int16 value, std::u16string &l
                      std::u16string &text) {
     if (value <= 8)
         label = std::u16string(ordinal) + u" Challenge Number is " + DecimalText(value);
+    else
+        TraceLeft(u"its line", label);
     SelectReading(text, value, readings::challenge.rows);
 }
 
 } // namespace
 
 void CalcChallenges() {
-    const int16 day = Fold(WalkDigits(profile.BirthDay)); // one fold is enough for any day
-    const int16 month = EnglishMonthValue(profile.BirthMonth);
-    const int16 year = Fold(Fold(WalkDigits(profile.BirthYear)));
+    // One fold is enough for any day.
+    const int16 day = Traced(u"day of birth", Fold(WalkDigits(profile.BirthDay)));
+    const int16 month = Traced(u"month of birth", EnglishMonthValue(profile.BirthMonth));
+    const int16 year = Traced(u"year of birth", Fold(Fold(WalkDigits(profile.BirthYear))));
 
-    const int16 first = Absolute(Subtract(month, day));
-    const int16 second = Absolute(Subtract(year, day));
-    const int16 third = Absolute(Subtract(first, second));
-    const int16 fourth = Absolute(Subtract(year, month));
+    const int16 first = Traced(u"first challenge", Gap(month, day));
+    const int16 second = Traced(u"second challenge", Gap(year, day));
+    const int16 third = Traced(u"third challenge", Gap(first, second));
+    const int16 fourth = Traced(u"fourth challenge", Gap(year, month));
 
     store.ChallengeNumber = DecimalText(first) + u' ' + DecimalText(second) + u' ' +
                             DecimalText(third) + u' ' + DecimalText(fourth);

@@ -2,6 +2,7 @@
 
 #include "core/reading_store.h"
 #include "core/text.h"
+#include "core/tracing.h"
 
 namespace modReadings {
 
@@ -14,6 +15,7 @@ int16 WalkDigits(std::u16string_view text) {
         ++store.ScratchIndex;
         sum = Add(sum, DigitValue(character));
     }
+    TraceDigitSum(text, sum);
     return sum;
 }
 

@@ -4,6 +4,7 @@
 #include "core/digits.h"
 #include "core/letters.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -43,11 +44,14 @@ int16 LetterInForce(std::u16string_view untrimmed, int16 age, Chart chart) {
         for (const char16_t character : TrimBlanks(untrimmed)) {
             if (years > age)
                 continue;
-            if (const int16 lasts = chart(character); lasts != 0) {
+            const int16 lasts = chart(character);
+            if (lasts != 0) {
                 years = Add(years, lasts);
                 value = lasts;
             }
+            TraceLetter(character, lasts, true, years);
         }
+        Traced(essenceYearsLabel, years);
     } while (unguarded && years < age);
     return value;
 }
@@ -73,14 +77,18 @@ std::optional<NamePart> EndlessName(const UserProfile &person, int16 age) {
 }
 
 void CalcEssence() {
-    const int16 age = Subtract(Clock::Year(), NumberFromText(TrimBlanks(profile.BirthYear)));
+    const int16 birthYear = NumberFromText(TrimBlanks(profile.BirthYear));
+    const int16 age = Traced(u"age", Difference(Clock::Year(), birthYear));
 
-    const int16 first = LetterInForce(profile.FirstName, age, ChartValue);
-    const int16 middle =
-        HasMiddleName(profile) ? LetterInForce(profile.MiddleName, age, ChartValue) : int16{0};
-    const int16 last = LetterInForce(profile.LastName, age, LastNameChartValue);
+    const int16 first =
+        Traced(u"first name, in force", LetterInForce(profile.FirstName, age, ChartValue));
+    const int16 middle = Traced(
+        u"middle name, in force",
+        HasMiddleName(profile) ? LetterInForce(profile.MiddleName, age, ChartValue) : int16{0});
+    const int16 last =
+        Traced(u"last name, in force", LetterInForce(profile.LastName, age, LastNameChartValue));
 
-    store.EssenceNumber = ReduceNumber(Add(first, middle, last));
+    store.EssenceNumber = Traced(u"Essence", ReduceNumber(Total(first, middle, last)));
     SelectReading(store.EssenceText, store.EssenceNumber, readings::essence.rows);
     store.EssenceAbout = readings::essence.about;
 }

@@ -10,8 +10,8 @@
 
 namespace modReadings {
 
-/// One of the three names of a person.
-enum class NamePart { First, Middle, Last };
+/// What a trace calls the years that the letters make up to the end of a name.
+inline constexpr const char16_t *essenceYearsLabel = u"years of the letters";
 
 /// The first of the names of `person` that would keep CalcEssence walking for ever at
 /// `age`, in whole years: at a positive age a name without a single letter that counts.

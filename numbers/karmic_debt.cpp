@@ -1,5 +1,6 @@
 #include "core/reading_store.h"
 #include "core/text.h"
+#include "core/tracing.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -17,6 +18,7 @@ constexpr std::array<int16, 4> debts{13, 14, 16, 19};
 struct Source {
     std::array<int16, 4> values;
     std::u16string_view name;
+    const char16_t *label; ///< in a trace
 };
 
 } // namespace
@@ -30,16 +32,18 @@ void CalcKarmicDebt() {
     // The first source is the digit sum of the day alone and cannot reach 13 with a day
     // of the list; its tests stay. The last compares 13 with another slot than the rest.
     const std::array<Source, 5> sources{{
-        {all(store.LifePathDaySum), u"LifePath"},
-        {all(store.DestinyRaw), u"Destiny"},
-        {all(store.SoulUrgeRaw), u"SoulUrge"},
-        {all(store.InnerDreamsRaw), u"InnerDream"},
+        {all(store.LifePathDaySum), u"LifePath", u"digit sum of the day"},
+        {all(store.DestinyRaw), u"Destiny", u"Destiny, unreduced"},
+        {all(store.SoulUrgeRaw), u"SoulUrge", u"Soul Urge, unreduced"},
+        {all(store.InnerDreamsRaw), u"InnerDream", u"Inner Dreams, unreduced"},
         {{store.BirthDayValue, store.BirthdayRaw, store.BirthdayRaw, store.BirthdayRaw},
-         u"BirthDay"},
+         u"BirthDay",
+         u"day of birth"},
     }};
 
     int16 debt = 0;
     for (const Source &source : sources) { // always all five: the last hit wins
+        Traced(source.label, source.values.front());
         for (std::size_t index = 0; index < debts.size(); ++index) {
             if (source.values[index] != debts[index])
                 continue;
@@ -53,7 +57,7 @@ void CalcKarmicDebt() {
     if (store.KarmicDebtText.empty())
         store.KarmicDebtText = u"Your Karmic Debt Number is not applicable.";
 
-    store.KarmicDebtNumber = debt;
+    store.KarmicDebtNumber = Traced(u"Karmic Debt Number", debt);
     // The reading replaces all that was built above: no user ever sees those messages.
     SelectReading(store.KarmicDebtText, debt, readings::karmicDebt.rows);
     store.KarmicDebtAbout = readings::karmicDebt.about;

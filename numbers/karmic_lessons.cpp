@@ -1,6 +1,7 @@
 #include "core/letters.h"
 #include "core/reading_store.h"
 #include "core/text.h"
+#include "core/tracing.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -28,6 +29,7 @@ void CalcKarmicLessons() {
         SelectReading(lesson, value, readings::karmicLessons.rows);
         store.KarmicLessonsText += u"\r\n" + digit + u"\r\n" + lesson;
     }
+    Traced(u"missing values", store.KarmicLessonsNumber);
     store.KarmicLessonsAbout = readings::karmicLessons.about;
 }
 

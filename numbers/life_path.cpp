@@ -1,6 +1,7 @@
 #include "core/digits.h"
 #include "core/months.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -11,19 +12,19 @@ namespace modReadings {
 // year fold once where those fold twice, and ScratchLetter has no say in the month.
 void CalcLifePath() {
     const int16 daySum = DigitSum(profile.BirthDay);
-    const int16 day = Fold(daySum);
-    const int16 month = EnglishMonthValue(profile.BirthMonth);
+    const int16 day = Traced(u"day of birth", Fold(daySum));
+    const int16 month = Traced(u"month of birth", EnglishMonthValue(profile.BirthMonth));
     // A single fold, on purpose: 1999 has the digit sum 28 and enters as 10.
-    const int16 year = Fold(DigitSum(profile.BirthYear));
+    const int16 year = Traced(u"year of birth", Fold(DigitSum(profile.BirthYear)));
 
-    int16 number = Add(day, month, year);
-    if (!IsMaster(number)) {
+    int16 number = Total(day, month, year);
+    if (!StaysMaster(number)) {
         number = DigitSum(number);
-        if (!IsMaster(number))
+        if (!StaysMaster(number))
             number = Fold(number);
     }
 
-    store.LifePathNumber = number;
+    store.LifePathNumber = Traced(u"Life Path Number", number);
     store.LifePathDaySum = daySum; // of the day alone, not of the date
     SelectReading(store.LifePathText, number, readings::lifePath.rows);
     store.LifePathAbout = readings::lifePath.about;

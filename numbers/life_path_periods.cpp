@@ -1,7 +1,10 @@
+#include "numbers/life_path_periods.h"
+
 #include "core/clock.h"
 #include "core/digits.h"
 #include "core/months.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -21,6 +24,12 @@ struct PeriodAges {
     int16 firstEnds;  ///< last age of period 1
     int16 secondEnds; ///< last age of period 2
     std::array<std::u16string_view, 3> lines;
+
+    constexpr std::array<Ages, 3> Periods() const {
+        return {{{0, firstEnds},
+                 {static_cast<int16>(firstEnds + 1), secondEnds},
+                 {static_cast<int16>(secondEnds + 1), Ages::open}}};
+    }
 };
 
 // Root 4 breaks the run: its second period lasts 36 years where all others last 27.
@@ -84,6 +93,19 @@ constexpr bool HasAgesWithoutLines(int16 root) {
 static_assert(HasAgesWithoutLines(11));
 static_assert(HasAgesWithoutLines(22));
 
+constexpr bool NamesTheComparedAges(const PeriodAges &row) {
+    for (std::size_t index = 0; index < row.lines.size(); ++index)
+        if (!row.lines[index].empty() && AgesNamedIn(row.lines[index]) != row.Periods()[index])
+            return false;
+    return true;
+}
+static_assert(std::ranges::all_of(ageTable, NamesTheComparedAges));
+
+const PeriodAges *AgesOf(int16 root) {
+    const auto row = std::ranges::find(ageTable, root, &PeriodAges::root);
+    return row == std::end(ageTable) ? nullptr : row;
+}
+
 void AssignLine(std::u16string &slot, std::u16string_view line, int16 number) {
     if (!line.empty())
         slot = std::u16string(line) + DecimalText(number);
@@ -91,31 +113,42 @@ void AssignLine(std::u16string &slot, std::u16string_view line, int16 number) {
 
 } // namespace
 
+std::optional<std::array<Ages, 3>> AgesOfPeriods(int16 root) {
+    const PeriodAges *row = AgesOf(root);
+    return row == nullptr ? std::nullopt : std::optional(row->Periods());
+}
+
 void CalcLifePathPeriods() {
-    store.PeriodNumber1 = MonthNumber(profile.BirthMonth);
-    store.PeriodNumber2 = ReduceDigitString(profile.BirthDay);
-    store.PeriodNumber3 = ReduceDigitString(profile.BirthYear);
+    store.PeriodNumber1 = Traced(u"period 1, month", MonthNumber(profile.BirthMonth));
+    store.PeriodNumber2 = Traced(u"period 2, day", ReduceDigitString(profile.BirthDay));
+    store.PeriodNumber3 = Traced(u"period 3, year", ReduceDigitString(profile.BirthYear));
 
     store.PeriodStage1 = readings::periodStage1;
     store.PeriodStage2 = readings::periodStage2;
     store.PeriodStage3 = readings::periodStage3;
 
     // Whole calendar years: a person born in December is a year older on 1 January.
-    const int16 age = Subtract(Clock::Year(), NumberFromText(TrimBlanks(profile.BirthYear)));
+    const int16 birthYear = NumberFromText(TrimBlanks(profile.BirthYear));
+    const int16 age = Traced(u"age", Difference(Clock::Year(), birthYear));
 
     store.PeriodRoot =
-        ReduceNumber(Add(store.PeriodNumber2, store.PeriodNumber1, store.PeriodNumber3));
+        Traced(u"root",
+               ReduceNumber(Total(store.PeriodNumber2, store.PeriodNumber1, store.PeriodNumber3)));
 
-    const auto row = std::ranges::find(ageTable, store.PeriodRoot, &PeriodAges::root);
-    if (row != std::end(ageTable)) {
+    if (const PeriodAges *row = AgesOf(store.PeriodRoot)) {
         // The index of the period, though its heading announces a number. A negative
         // age is in no period and leaves the index of the run before.
-        if (age >= 0 && age <= row->firstEnds)
-            store.LifePathPeriodsNumber = 1;
-        else if (age > row->firstEnds && age <= row->secondEnds)
-            store.LifePathPeriodsNumber = 2;
-        else if (age > row->secondEnds)
-            store.LifePathPeriodsNumber = 3;
+        const std::array<Ages, 3> periods = row->Periods();
+        for (std::size_t index = 0; index < periods.size(); ++index)
+            if (periods[index].Hold(age))
+                store.LifePathPeriodsNumber = static_cast<int16>(index + 1);
+
+        Traced(u"period 1 ends at age", row->firstEnds);
+        Traced(u"period 2 ends at age", row->secondEnds);
+        if (age >= 0)
+            Traced(u"period now running", store.LifePathPeriodsNumber);
+        else
+            TraceLeft(u"period now running", store.LifePathPeriodsNumber);
 
         AssignLine(store.PeriodLine1, row->lines[0], store.PeriodNumber1);
         AssignLine(store.PeriodLine2, row->lines[1], store.PeriodNumber2);

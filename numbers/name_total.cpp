@@ -4,6 +4,7 @@
 #include "core/letters.h"
 #include "core/reading_store.h"
 #include "core/text.h"
+#include "core/tracing.h"
 
 namespace modReadings {
 
@@ -14,14 +15,16 @@ void WalkLetters(std::u16string_view text, LetterFilter admits) {
         const char16_t character = text[static_cast<std::size_t>(store.ScratchIndex)];
         ++store.ScratchIndex;
         store.ScratchLetter.assign(1, character);
-        if (admits(character))
+        const bool admitted = admits(character);
+        if (admitted)
             store.ScratchSum = Add(store.ScratchSum, ChartValue(character));
+        TraceLetter(character, ChartValue(character), admitted, store.ScratchSum);
     }
 }
 
 void StoreNameTotal(const NameTotalEntry &entry) {
-    entry.raw = store.ScratchSum;
-    entry.number = ReduceKeepMaster(store.ScratchSum);
+    entry.raw = Traced(nameTotalLabel, store.ScratchSum);
+    entry.number = Traced(nameNumberLabel, ReduceKeepMaster(store.ScratchSum));
     SelectReading(entry.text, entry.number, entry.prose.rows);
     entry.about = entry.prose.about;
 }

@@ -35,6 +35,10 @@ struct NameTotalEntry {
     const Prose &prose;
 };
 
+/// What a trace calls the total and the number.
+inline constexpr const char16_t *nameTotalLabel = u"sum of the letters";
+inline constexpr const char16_t *nameNumberLabel = u"number";
+
 /// Takes ScratchSum as the finished total: writes raw value, number, reading and About.
 /// ScratchSum is left reduced.
 void StoreNameTotal(const NameTotalEntry &entry);

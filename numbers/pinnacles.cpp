@@ -1,6 +1,9 @@
+#include "numbers/pinnacles.h"
+
 #include "core/digits.h"
 #include "core/months.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -13,9 +16,19 @@ namespace modReadings {
 
 namespace {
 
+/// A line, and the ages that are named in it: the text is the only place where they stand.
+struct Line {
+    std::u16string_view text;
+    Ages ages;
+
+    template <std::size_t size>
+    consteval Line(const char16_t (&line)[size])
+        : text(line, size - 1), ages(AgesNamedIn({line, size - 1})) {}
+};
+
 struct PinnacleLines {
     int16 value;
-    std::array<std::u16string_view, 4> lines; ///< first to fourth pinnacle
+    std::array<Line, 4> lines; ///< first to fourth pinnacle
 };
 
 // The ages follow from the value of each pinnacle by itself, so the four lines of one
@@ -60,27 +73,39 @@ constexpr PinnacleLines lineTable[] = {
 /// ReduceKeepMaster writes its argument, so it gets a copy.
 int16 Reduced(int16 value) { return ReduceKeepMaster(value); }
 
+const PinnacleLines *LinesOf(int16 value) {
+    const auto row = std::ranges::find(lineTable, value, &PinnacleLines::value);
+    return row == std::end(lineTable) ? nullptr : row;
+}
+
 void AssignPinnacle(std::size_t position, int16 value, std::u16string &label,
                     std::u16string &text) {
-    const auto row = std::ranges::find(lineTable, value, &PinnacleLines::value);
-    if (row != std::end(lineTable))
-        label = std::u16string(row->lines[position]) + DecimalText(value);
+    if (const PinnacleLines *row = LinesOf(value))
+        label = std::u16string(row->lines[position].text) + DecimalText(value);
+    else
+        TraceLeft(u"its line", label);
     SelectReading(text, value, readings::pinnacle.rows);
 }
 
 } // namespace
 
+std::optional<Ages> AgesOfPinnacle(std::size_t position, int16 value) {
+    const PinnacleLines *row = LinesOf(value);
+    return row == nullptr ? std::nullopt : std::optional(row->lines[position].ages);
+}
+
 // Day and year enter as they stand and only the month in reduced form, on purpose: so a
 // master number can come out of a whole sum.
 void CalcPinnacles() {
-    const int16 day = NumberFromText(TrimBlanks(profile.BirthDay));
-    const int16 month = MonthNumber(TrimBlanks(profile.BirthMonth));
-    const int16 year = NumberFromText(TrimBlanks(profile.BirthYear));
+    const int16 day = Traced(u"day of birth", NumberFromText(TrimBlanks(profile.BirthDay)));
+    const int16 month = Traced(u"month of birth", MonthNumber(TrimBlanks(profile.BirthMonth)));
+    const int16 year = Traced(u"year of birth", NumberFromText(TrimBlanks(profile.BirthYear)));
 
-    store.PinnacleNumber1 = Reduced(Add(month, day));
-    store.PinnacleNumber2 = Reduced(Add(day, year));
-    store.PinnacleNumber3 = Reduced(Add(store.PinnacleNumber1, store.PinnacleNumber2));
-    store.PinnacleNumber4 = Reduced(Add(month, year));
+    store.PinnacleNumber1 = Traced(u"first pinnacle", Reduced(Total(month, day)));
+    store.PinnacleNumber2 = Traced(u"second pinnacle", Reduced(Total(day, year)));
+    store.PinnacleNumber3 =
+        Traced(u"third pinnacle", Reduced(Total(store.PinnacleNumber1, store.PinnacleNumber2)));
+    store.PinnacleNumber4 = Traced(u"fourth pinnacle", Reduced(Total(month, year)));
 
     AssignPinnacle(0, store.PinnacleNumber1, store.PinnacleLabel1, store.PinnacleText1);
     AssignPinnacle(1, store.PinnacleNumber2, store.PinnacleLabel2, store.PinnacleText2);

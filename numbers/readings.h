@@ -5,6 +5,7 @@
 // paragraphs divided by "\r\n"; a calculator picks a row by its number.
 
 #include "core/int16.h"
+#include "core/tracing.h"
 
 #include <span>
 #include <string>
@@ -35,6 +36,7 @@ inline void SelectReading(std::u16string &slot, int16 number, ReadingTable table
             return;
         }
     }
+    TraceLeft(u"reading", slot);
 }
 
 namespace readings {

@@ -1,5 +1,6 @@
 #include "core/digits.h"
 #include "core/reading_store.h"
+#include "core/sums.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
 
@@ -12,7 +13,7 @@ namespace {
 /// gives 4, 22 + 7 = 29 gives 11.
 int16 ReduceMaturitySum(int16 total) {
     const int16 sum = DigitSum(total);
-    return IsMaster(sum) ? sum : Fold(sum);
+    return StaysMaster(sum) ? sum : Fold(sum);
 }
 
 } // namespace
@@ -20,11 +21,15 @@ int16 ReduceMaturitySum(int16 total) {
 void CalcRealization() {
     // Both numbers have always been worked out by now; one is 0 for a name without a
     // letter. Number and About keep what they hold.
-    if (store.LifePathNumber == 0 || store.DestinyNumber == 0) {
+    const int16 lifePath = Traced(u"Life Path Number", store.LifePathNumber);
+    const int16 destiny = Traced(u"Destiny Number", store.DestinyNumber);
+    if (lifePath == 0 || destiny == 0) {
         store.RealizationText = readings::realizationRefusal;
+        TraceLeft(u"Realization Number", store.RealizationNumber);
         return;
     }
-    store.RealizationNumber = ReduceMaturitySum(Add(store.LifePathNumber, store.DestinyNumber));
+    store.RealizationNumber =
+        Traced(u"Realization Number", ReduceMaturitySum(Total(lifePath, destiny)));
     SelectReading(store.RealizationText, store.RealizationNumber, readings::realization.rows);
     store.RealizationAbout = readings::realization.about;
 }

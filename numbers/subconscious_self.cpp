@@ -1,6 +1,7 @@
 #include "core/letters.h"
 #include "core/reading_store.h"
 #include "core/text.h"
+#include "core/tracing.h"
 #include "core/user_profile.h"
 #include "numbers/calculators.h"
 #include "numbers/readings.h"
@@ -21,7 +22,9 @@ void CalcSubconsciousSelf() {
         ++count;
     }
 
-    store.SubconsciousSelfNumber = count; // also where the reading refuses it
+    Traced(u"values in the name", store.MissingDigitsScratch);
+    store.SubconsciousSelfNumber = // also where the reading refuses it
+        Traced(u"Subconscious Self Number", count);
     SelectReading(store.SubconsciousSelfText, count, readings::subconsciousSelf.rows);
     store.SubconsciousSelfAbout = readings::subconsciousSelf.about;
     store.MissingDigitsScratch.clear();

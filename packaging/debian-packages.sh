@@ -3,23 +3,27 @@
 
 build_packages="
     ca-certificates cmake g++ ninja-build
-    qt6-base-dev qt6-svg-dev libcups2-dev rapidjson-dev libcsv-dev zlib1g-dev
-    fonts-dejavu-core gzip librsvg2-bin xdg-utils
+    qt6-base-dev libcups2-dev rapidjson-dev libcsv-dev zlib1g-dev
+    fonts-dejavu-core gzip librsvg2-bin optipng xdg-utils
 "
 
 # dpkg-dev and file find out what the program's package depends on.
 package_packages="dpkg-dev file"
 
+# What the pages behind the window's links are made with.
+site_packages="appstream libavif-bin libjs-lunr pandoc"
+
 test_packages="
-    $package_packages clang-format clang-tidy libgtest-dev
-    appstream bash desktop-file-utils fish man-db zsh
+    $package_packages $site_packages clang-format clang-tidy
+    g++-mingw-w64-x86-64-posix libgtest-dev
+    bash desktop-file-utils fish man-db zsh
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
-    strace weston x11-utils x11-xserver-utils xclip xdotool xvfb
+    strace tidy weasyprint weston x11-utils x11-xserver-utils xclip xdotool xvfb
 "
 
 # What `--target readers` needs besides.
-reader_packages="libreoffice-writer-nogui unrtf"
+reader_packages="libreoffice-writer-nogui pandoc unrtf"
 
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
 # time when all are.

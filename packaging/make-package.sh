@@ -1,7 +1,7 @@
 #!/bin/sh
 # make-package.sh [BUILD [CMAKE-OPTION...]]
-# Installs what is missing, builds the Debian package with Debian's own compiler flags and
-# says where it lies. Options are for example -DORRAVANE_SITE_HOST=HOST.
+# Installs what is missing, builds the Debian packages with Debian's own compiler flags and
+# says where they lie. Options are for example -DORRAVANE_SITE_HOST=HOST.
 # BUILD is the build directory, build/package by default; there the same sources make the same
 # bytes, wherever the checkout lies.
 set -eu

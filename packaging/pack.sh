@@ -1,6 +1,6 @@
 #!/bin/sh
 # pack.sh BUILD [FOLDER]
-# Makes the Debian package of what is built in BUILD, and puts it into FOLDER or into BUILD
+# Makes the Debian packages of what is built in BUILD, and puts them into FOLDER or into BUILD
 # itself. The same files make the same bytes, whatever the clock and the umask are.
 set -eu
 umask 022

@@ -1,20 +1,21 @@
 #!/bin/bash
-# try-in-bare-root.sh PACKAGE [MIRROR]
-# Tries the Debian package in a bare Debian 12 that has nothing of the build machine:
-# installs it with its dependencies, runs orravane-report and the window as an ordinary
-# user, takes pictures of the window, removes the package and looks for what it left. The
+# try-in-bare-root.sh FOLDER [MIRROR]
+# Tries the Debian packages that lie in FOLDER in a bare Debian 12 that has nothing of the build machine:
+# installs them with their dependencies, the tool's first and alone, runs orravane-report and the
+# window as an ordinary user, takes pictures of the window, removes the packages and looks for
+# what they left. The
 # settings in the user's home stay, as with every package; they are listed and not counted.
 #
 # Runs as root and needs debootstrap. What may be set in the environment:
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
 #   ROOT     the folder of the bare system; by default a temporary one, which is removed at
 #            the end. A folder that is given has to be missing or empty, and it stays.
-#   PICTURES where the pictures of the window go, the folder of the package by default
+#   PICTURES where the pictures of the window go, FOLDER by default
 set -euo pipefail
 
-package=$(realpath "${1:?which package?}")
+folder=$(realpath "${1:?which folder?}")
 mirror=${2:-${MIRROR:-http://deb.debian.org/debian}}
-pictures=$(realpath "${PICTURES:-$(dirname "$package")}")
+pictures=$(realpath "${PICTURES:-$folder}")
 kept=${ROOT:-}
 root=$(realpath -m "${ROOT:-$(mktemp -d)}")
 
@@ -27,19 +28,32 @@ step "A bare Debian 12 from $mirror"
 enter_root bookworm "$mirror"
 files >"$root/tmp/files-before"
 
-step "Install, with what it depends on and nothing it only recommends"
-cp "$package" "$root/tmp/orravane.deb"
-chmod 644 "$root/tmp/orravane.deb"
+step "Install the tool, with what it depends on and nothing it only recommends"
+for package in orravane-report orravane; do
+    cp "$folder/${package}_"*.deb "$root/tmp/$package.deb"
+    chmod 644 "$root/tmp/$package.deb"
+done
+install /tmp/orravane-report.deb
+echo "$(in_root dpkg-query -W | wc -l) packages in the system"
+if in_root dpkg-query -W | grep -E 'libqt6(gui|widgets)|libx11|libxcb'; then
+    fail "the tool brings libraries of a display"
+fi
+as_user orravane-report --batch /usr/share/doc/orravane-report/examples/people.csv --numbers -f csv
+
+step "Install the window"
 install /tmp/orravane.deb
-in_root dpkg -s orravane | grep -E '^(Status|Version):'
-in_root dpkg -V orravane
-in_root dpkg -L orravane >"$root/tmp/orravane.files"
+for package in orravane-report orravane; do
+    in_root dpkg -s $package | grep -E '^(Status|Version):'
+    in_root dpkg -V $package
+    in_root dpkg -L $package >>"$root/tmp/orravane.files"
+done
 echo "$(in_root dpkg-query -W | wc -l) packages in the system"
 
 step "Every library is there, those of the plugins too"
 plugins="/usr/lib/*/qt6/plugins"
-in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-report $plugins/platforms/libqxcb.so \
-    $plugins/imageformats/libqsvg.so $plugins/printsupport/libcupsprintersupport.so" \
+in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-document /usr/bin/orravane-report \
+    $plugins/platforms/libqxcb.so \
+    $plugins/printsupport/libcupsprintersupport.so" \
     >"$root/tmp/libraries" || fail "ldd: $(cat "$root/tmp/libraries")"
 if grep 'not found' "$root/tmp/libraries"; then
     fail "libraries are missing"
@@ -111,14 +125,14 @@ done
 
 step "Remove"
 rm -rf "$root/home/reader" "$root/tmp/pictures"
-in_root apt-get -qq -y purge orravane >/dev/null
+in_root apt-get -qq -y purge orravane orravane-report >/dev/null
 while read -r file; do
     if [ -f "$root$file" ]; then
         fail "$file is still there"
     fi
 done <"$root/tmp/orravane.files"
-if in_root dpkg-query -s orravane >/dev/null 2>&1; then
-    fail "dpkg still knows the package"
+if in_root dpkg-query -W | grep orravane; then
+    fail "dpkg still knows a package"
 fi
 in_root apt-get -qq -y autoremove --purge xvfb xauth xdotool imagemagick x11-utils man-db >/dev/null
 in_root apt-get -qq clean

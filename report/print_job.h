@@ -10,6 +10,11 @@
 class QPagedPaintDevice;
 class QString;
 
+/// In hundredths of a millimetre. No margin is narrower, even where the printer would reach the
+/// edge: paper is never fed quite straight, and letters at the edge would be lost. A quarter of
+/// an inch, which most printers keep to themselves.
+inline constexpr int narrowestMargin = 635;
+
 class PrintJob {
 public:
     /// A new job with this title for the default printer, with the settings that the user has

@@ -1,25 +1,20 @@
 #include "report/saving.h"
 
+#include "report/borrowed_settings.h"
+#include "report/on_disk.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QSaveFile>
-#include <QSettings>
 #include <QStandardPaths>
-#include <QTemporaryDir>
+
+#include <cerrno>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void WriteWhole(const QString &name, const std::string &content) {
-    QSaveFile file(name); // writes beside the file and takes its place at the end
-    const auto size = static_cast<qint64>(content.size());
-    // On a full disk a write can be cut short without failing, and a commit would then put
-    // the stump in place; only a flush tells.
-    if (file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size && file.flush())
-        file.commit();
-}
 
 /// While it lives, the process has another current folder.
 class CurrentFolder {
@@ -30,29 +25,6 @@ public:
 
 private:
     const QString before_ = QDir::currentPath();
-};
-
-/// While it lives, the settings that all programs of the toolkit share are a copy: what is
-/// noted there of a file dialog, such as the folders that were looked at, goes with it. Only
-/// the day of the update question outlasts a run.
-class BorrowedSettings {
-public:
-    BorrowedSettings() {
-        if (!copy_.isValid())
-            return;
-        const QFileInfo shared(original_);
-        QFile::copy(original_, copy_.filePath(shared.fileName()));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, copy_.path());
-    }
-    ~BorrowedSettings() {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           QFileInfo(original_).absolutePath());
-    }
-    Q_DISABLE_COPY_MOVE(BorrowedSettings)
-
-private:
-    const QString original_ = QSettings(QSettings::UserScope, u"QtProject"_s).fileName();
-    const QTemporaryDir copy_;
 };
 
 /// The file that is written under this name: the one that a link leads to.
@@ -69,11 +41,16 @@ QFileInfo FileBehind(const QString &name) {
 /// typed, without the ending that comes behind it.
 class SaveDialog final : public QFileDialog {
 public:
-    SaveDialog(QWidget *parent, const QString &title, const QString &folder)
-        : QFileDialog(parent, title, folder) {
+    SaveDialog(QWidget *parent, const SaveDialogLook &look, const QString &folder)
+        : QFileDialog(parent, look.title, folder),
+          neededEnding_(look.needsSuffix ? u'.' + look.suffix : QString()) {
         setAcceptMode(AcceptSave);
+        setNameFilter(look.filter);
+        setDefaultSuffix(look.suffix);
         setFileMode(AnyFile);
         setOption(DontConfirmOverwrite); // accept() does that
+        if (!look.name.isEmpty())
+            selectFile(look.name);
     }
 
     /// Shows the dialog until a file is chosen that can be written and, where there is one
@@ -99,6 +76,8 @@ protected:
             QFileDialog::accept(); // goes into that folder
             return;
         }
+        if (!name_.endsWith(neededEnding_, Qt::CaseInsensitive))
+            name_ += neededEnding_;
         isAsking_ = true;
         const bool mayBeWritten = MayBeWritten(name_);
         isAsking_ = false;
@@ -153,15 +132,15 @@ private:
     /// The window that messages stand in front of.
     QWidget *Front() { return IsOfTheDesktop() ? parentWidget() : this; }
 
-    QString name_;            ///< what was chosen last
-    bool isAsking_ = false;   ///< there is a message or a question in front of the dialog
-    bool opensAgain_ = false; ///< the dialog closes without an end
+    const QString neededEnding_; ///< of every name; may be empty
+    QString name_;               ///< what was chosen last
+    bool isAsking_ = false;      ///< there is a message or a question in front of the dialog
+    bool opensAgain_ = false;    ///< the dialog closes without an end
 };
 
 } // namespace
 
-void SaveReport(const modReadings::Report &report, const modReadings::RtfFont &font,
-                const QString &title, QWidget *parent) {
+QString AskForFile(const SaveDialogLook &look, QWidget *parent) {
     static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!QDir(folder).exists()) // the dialog would take its name for that of the file
         folder = QDir::homePath();
@@ -169,13 +148,32 @@ void SaveReport(const modReadings::Report &report, const modReadings::RtfFont &f
     // Made before the dialog and so destroyed after it: the dialog writes its settings when
     // it is destroyed.
     const BorrowedSettings borrowed;
-    SaveDialog dialog(parent, title, folder);
-    dialog.setNameFilter(u"Rich Text Format (*.rtf)"_s);
+    SaveDialog dialog(parent, look, folder);
+    QString name = dialog.AskForName();
+    if (!name.isEmpty())
+        folder = dialog.directory().absolutePath();
+    return name;
+}
+
+QString WriteWhole(const QString &name, std::string_view content) {
+    QSaveFile file(name); // writes beside the file and takes its place at the end
+    const auto size = static_cast<qint64>(content.size());
+    // On a full disk a write can be cut short without failing, and a commit would then put
+    // the stump in place; only a flush tells. And some file systems find out that there is no
+    // room, or that the disk is broken, only when the bytes have to be on it, which a commit
+    // asks for without heeding the answer.
+    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
+        !file.flush())
+        return file.errorString();
+    if (!IsOnDisk(file.handle()))
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return file.commit() ? QString() : file.errorString();
+}
+
+void SaveReport(const modReadings::Report &report, const modReadings::RtfFont &font,
+                const QString &title, QWidget *parent) {
     // A name without an ending gets ".txt" although the content is RTF. Odd, and settled.
-    dialog.setDefaultSuffix(u"txt"_s);
-    const QString name = dialog.AskForName();
-    if (name.isEmpty())
-        return;
-    folder = dialog.directory().absolutePath();
-    WriteWhole(name, modReadings::ToRtf(report, font));
+    const QString name = AskForFile({title, u"Rich Text Format (*.rtf)"_s, u"txt"_s}, parent);
+    if (!name.isEmpty())
+        WriteWhole(name, modReadings::ToRtf(report, font));
 }

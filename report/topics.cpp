@@ -16,7 +16,7 @@ using S = ReadingStore;
 constexpr Topic Standard(std::u16string_view caption, std::u16string_view heading,
                          HeadingNumber number, Calculator calculate, TextSlot about,
                          TextSlot text) {
-    return {caption, heading, number, calculate, {{{about, 2, {}}, {text, 0, {}}}}};
+    return {caption, heading, number, calculate, {{{about, 2, {}, true}, {text, 0, {}}}}};
 }
 
 constexpr std::array topics{
@@ -28,7 +28,7 @@ constexpr std::array topics{
           u"Your Current LifePath Period Number is: ",
           &S::LifePathPeriodsNumber,
           CalcLifePathPeriods,
-          {{{&S::LifePathPeriodsAbout, 2, {}},
+          {{{&S::LifePathPeriodsAbout, 2, {}, true},
             {&S::LifePathPeriodsText, 2, {}},
             {&S::PeriodLine1, 1, {}},
             {&S::PeriodStage1, 2, {}},
@@ -42,7 +42,7 @@ constexpr std::array topics{
           u"Pinnacle Phases",
           NoNumber{},
           CalcPinnacles,
-          {{{&S::PinnacleAbout, 2, {}},
+          {{{&S::PinnacleAbout, 2, {}, true},
             {&S::PinnacleLabel1, 1, {}},
             {&S::PinnacleText1, 2, {}},
             {&S::PinnacleLabel2, 1, {}},
@@ -66,7 +66,7 @@ constexpr std::array topics{
           u"Your Challenge Number is: ",
           &S::ChallengeNumber,
           CalcChallenges,
-          {{{&S::ChallengeAbout, 2, {}},
+          {{{&S::ChallengeAbout, 2, {}, true},
             {&S::ChallengeLabel1, 1, {}},
             {&S::ChallengeText1, 2, {}},
             {&S::ChallengeLabel2, 1, {}},
@@ -99,7 +99,7 @@ constexpr std::array topics{
           u"Your Planes of Expression is towards ",
           &S::PlanesNumber,
           CalcPlanes,
-          {{{&S::PlanesText, 2, u"Your Personal Aspects: "}, {&S::PlanesAbout, 0, {}}}}},
+          {{{&S::PlanesText, 2, u"Your Personal Aspects: "}, {&S::PlanesAbout, 0, {}, true}}}},
     Standard(u"Soul Urge / Heart's Desire Number", u"Your Soul Urge Or Heart's Desire Number is: ",
              &S::SoulUrgeNumber, CalcSoulUrge, &S::SoulUrgeAbout, &S::SoulUrgeText),
 };

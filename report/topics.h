@@ -28,6 +28,10 @@ struct Block {
     TextSlot slot = nullptr;
     int breaks = 0;
     std::u16string_view before;
+    bool isAbout = false; ///< explains the topic, whatever its number is
+
+    /// A line that stands directly above the next block, as its title.
+    constexpr bool IsLabel() const { return breaks == 1; }
 };
 
 /// What stands behind the heading literal: nothing, BirthDay converted to a number and

@@ -4,6 +4,7 @@
 #include "shell/style.h"
 
 #include <QListView>
+#include <QLocale>
 #include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
@@ -44,6 +45,17 @@ DateList::DateList(QWidget *parent) : QComboBox(parent) {
     setMaxVisibleItems(12);
     setView(new EntryView);
     setItemDelegate(new EntryDelegate(this));
+}
+
+void DateList::AddMonths() {
+    const QLocale locale = QLocale::system();
+    for (int month = 1; month <= 12; ++month)
+        addItem(locale.standaloneMonthName(month, QLocale::LongFormat));
+}
+
+void DateList::AddNumbers(int first, int last) {
+    for (int number = first; number <= last; ++number)
+        addItem(QString::number(number));
 }
 
 void DateList::paintEvent(QPaintEvent *event) {

@@ -1,6 +1,7 @@
 #pragma once
 
-// A drop-down list of the birth date. Its text cannot be typed into.
+// A drop-down list in the look of the pages, such as those of the birth date. Its text cannot
+// be typed into.
 
 #include <QComboBox>
 
@@ -9,6 +10,12 @@ class DateList : public QComboBox {
 
 public:
     explicit DateList(QWidget *parent);
+
+    /// Appends the twelve months, by the system's own full names.
+    void AddMonths();
+
+    /// Appends the whole numbers from `first` to `last`, such as days or years.
+    void AddNumbers(int first, int last);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -20,6 +20,7 @@ struct HeldMessage {
 
 /// A handler is a plain function and finds them here.
 std::vector<HeldMessage> held;
+const char *speaker = "";
 
 /// Why there is no window, in the user's terms.
 QString Reason() {
@@ -44,7 +45,7 @@ void Hold(QtMsgType type, const QMessageLogContext &context, const QString &text
         return;
     }
     const QByteArray reason = Reason().toLocal8Bit();
-    std::fprintf(stderr, "orravane: cannot open a window: %s; orravane-report needs none\n",
+    std::fprintf(stderr, "%s: cannot open a window: %s; orravane-report needs none\n", speaker,
                  reason.constData());
     std::fflush(stderr);
     std::_Exit(1); // nothing has been made yet that would have to be tidied up
@@ -52,7 +53,9 @@ void Hold(QtMsgType type, const QMessageLogContext &context, const QString &text
 
 } // namespace
 
-DisplayMessage::DisplayMessage() : before_(qInstallMessageHandler(Hold)) {}
+DisplayMessage::DisplayMessage(const char *program) : before_(qInstallMessageHandler(Hold)) {
+    speaker = program;
+}
 
 DisplayMessage::~DisplayMessage() {
     qInstallMessageHandler(before_);

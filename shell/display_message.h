@@ -12,7 +12,8 @@
 /// written as they would have been. Only one may live at a time.
 class DisplayMessage {
 public:
-    DisplayMessage();
+    /// `program` is its name in the line, a literal.
+    explicit DisplayMessage(const char *program);
     ~DisplayMessage();
     Q_DISABLE_COPY_MOVE(DisplayMessage)
 

@@ -1,6 +1,6 @@
 #include "shell/drawing.h"
 
-#include "shell/image_list.h"
+#include "shell/artwork.h"
 #include "shell/style.h"
 
 #include <QPixmapCache>
@@ -66,7 +66,7 @@ void DrawArtwork(QPainter &painter, const QString &name, const QRect &place) {
     const QString key = u"%1@%2x%3"_s.arg(name).arg(size.width()).arg(size.height());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        picture = RenderArtwork(name, size);
+        picture = LoadArtwork(name, size);
         QPixmapCache::insert(key, picture);
     }
     DrawPicture(painter, place, picture);

@@ -5,7 +5,6 @@
 #include "shell/name_box.h"
 
 #include <QKeyEvent>
-#include <QLocale>
 
 InputPage::InputPage(QWidget *parent) : Page(parent) {
     Frame1 = Placed(new Group(tr("Note: "), this), At("Frame1"));
@@ -52,13 +51,9 @@ InputPage::InputPage(QWidget *parent) : Page(parent) {
 }
 
 void InputPage::FillLists() {
-    for (int day = 1; day <= 31; ++day)
-        cboDate->addItem(QString::number(day));
-    const QLocale locale = QLocale::system();
-    for (int month = 1; month <= 12; ++month)
-        cboMonth->addItem(locale.standaloneMonthName(month, QLocale::LongFormat));
-    for (int year = 1900; year <= 2050; ++year)
-        cboYear->addItem(QString::number(year));
+    cboDate->AddNumbers(1, 31);
+    cboMonth->AddMonths();
+    cboYear->AddNumbers(1900, 2050);
 }
 
 void InputPage::SelectFirstDates() {

@@ -7,7 +7,7 @@
 #include <optional>
 
 int main(int argc, char *argv[]) {
-    std::optional<DisplayMessage> noDisplay(std::in_place);
+    std::optional<DisplayMessage> noDisplay(std::in_place, "orravane");
     QApplication application(argc, argv);
     noDisplay.reset();
     App::Identify();

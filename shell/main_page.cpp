@@ -1,8 +1,8 @@
 #include "shell/main_page.h"
 
+#include "shell/artwork.h"
 #include "shell/drawing.h"
 #include "shell/geometry.h"
-#include "shell/image_list.h"
 #include "shell/links.h"
 #include "shell/style.h"
 
@@ -13,14 +13,7 @@ using namespace Qt::StringLiterals;
 MainPage::MainPage(QWidget *parent) : QWidget(parent) {}
 
 QPixmap MainPage::DrawSky(QSize size, qreal ratio) const {
-    // The tree and the pages never move, so what lies under them is not drawn, but for an
-    // edge that is wider than any rounding.
-    const auto covered = [ratio](const QRect &place) {
-        return QTransform::fromScale(ratio, ratio).mapRect(place.adjusted(2, 2, -2, -2));
-    };
-    const QRegion inSight =
-        QRegion(QRect(QPoint(), size)) - covered(At("TV").place) - covered(At("Picture1").place);
-    QPixmap sky = RenderArtwork(u"background"_s, size, inSight);
+    QPixmap sky = LoadBackground(size);
 
     // The web address is drawn as a part of the picture, because the host is known only
     // when the program is built. lblHyperlink lies over it, has no text and takes the click.

@@ -1,6 +1,6 @@
 #include "shell/style.h"
 
-#include "shell/image_list.h"
+#include "shell/artwork.h"
 
 #include <QIconEngine>
 
@@ -19,13 +19,24 @@ public:
         DrawArtwork(*painter, name_, rect);
     }
     QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override {
-        return RenderArtwork(name_, size);
+        return LoadArtwork(name_, size);
     }
     QIconEngine *clone() const override { return new ArtworkIcon(name_); }
 
 private:
     QString name_;
 };
+
+/// `sheet` with the colours that it names with an at sign in front.
+QString Coloured(QString sheet) {
+    constexpr std::pair<QLatin1StringView, QColor> colors[] = {
+        {"@violet"_L1, Colors::violet}, {"@gold"_L1, Colors::gold},  {"@night"_L1, Colors::night},
+        {"@shade"_L1, Colors::shade},   {"@mist"_L1, Colors::mist},  {"@haze"_L1, Colors::haze},
+        {"@glow"_L1, Colors::glow},     {"@paper"_L1, Colors::paper}};
+    for (const auto &[name, color] : colors)
+        sheet.replace(name, color.name());
+    return sheet;
+}
 
 } // namespace
 
@@ -36,15 +47,8 @@ QFont WindowFont() {
     return font;
 }
 
-QString PageStyle() {
-    // A control that a style sheet touches no longer inherits its font, so the font is repeated
-    // here.
-    QString style = uR"(
-        #picMain, #picMain * { font-family: "Verdana", "DejaVu Sans"; font-size: 11px; }
-        #Picture1 QLabel, #Picture3 QLabel { color: white; background: transparent; }
-        #Picture3 QLabel { font-weight: bold; }
-        #Picture3 QLabel#lblHelp0, #Picture3 QLabel#lblHelp1, #Picture3 QLabel#lblAbout2 { color: @gold; }
-
+QString ControlStyle() {
+    return Coloured(uR"(
         /* Frames and their grounds are drawn by the controls; here is the room for them. */
         QLineEdit, QComboBox { color: white; background: transparent;
                                border: 1px solid transparent; padding: 0 4px;
@@ -54,6 +58,24 @@ QString PageStyle() {
         QComboBox::down-arrow { image: none; }
         QComboBox QAbstractItemView { color: white; background-color: @shade;
                                       border: 1px solid transparent; outline: none; }
+
+        QScrollBar:vertical { background: @shade; width: 12px; margin: 0; border: none; }
+        QScrollBar::handle:vertical { background: @mist; min-height: 28px; border-radius: 4px;
+                                      margin: 2px; }
+        QScrollBar::handle:vertical:hover { background: @gold; }
+        QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
+        QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+    )"_s);
+}
+
+QString PageStyle() {
+    // A control that a style sheet touches no longer inherits its font, so the font is repeated
+    // here.
+    return Coloured(uR"(
+        #picMain, #picMain * { font-family: "Verdana", "DejaVu Sans"; font-size: 11px; }
+        #Picture1 QLabel, #Picture3 QLabel { color: white; background: transparent; }
+        #Picture3 QLabel { font-weight: bold; }
+        #Picture3 QLabel#lblHelp0, #Picture3 QLabel#lblHelp1, #Picture3 QLabel#lblAbout2 { color: @gold; }
 
         #TV { color: white; background-color: @violet; border: 1px solid transparent;
               outline: none; padding: 3px; }
@@ -67,24 +89,10 @@ QString PageStyle() {
                         border: 1px solid transparent; padding: 4px;
                         selection-background-color: @violet; selection-color: white; }
 
-        #picMain QScrollBar:vertical { background: @shade; width: 12px; margin: 0; border: none; }
-        #picMain QScrollBar::handle:vertical { background: @mist; min-height: 28px; border-radius: 4px;
-                                               margin: 2px; }
-        #picMain QScrollBar::handle:vertical:hover { background: @gold; }
         #picMain #RTB QScrollBar:vertical { background: transparent; }
         #picMain #RTB QScrollBar::handle:vertical { background: @haze; }
         #picMain #RTB QScrollBar::handle:vertical:hover { background: @violet; }
-        #picMain QScrollBar::add-line, #picMain QScrollBar::sub-line { height: 0; width: 0; }
-        #picMain QScrollBar::add-page, #picMain QScrollBar::sub-page { background: none; }
-    )"_s;
-    // The sheet above names a colour with an at sign in front.
-    constexpr std::pair<QLatin1StringView, QColor> colors[] = {
-        {"@violet"_L1, Colors::violet}, {"@gold"_L1, Colors::gold},  {"@night"_L1, Colors::night},
-        {"@shade"_L1, Colors::shade},   {"@mist"_L1, Colors::mist},  {"@haze"_L1, Colors::haze},
-        {"@glow"_L1, Colors::glow},     {"@paper"_L1, Colors::paper}};
-    for (const auto &[name, color] : colors)
-        style.replace(name, color.name());
-    return style;
+    )"_s) + ControlStyle();
 }
 
 BoxLook InputBox(bool focused) {
@@ -98,6 +106,13 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+int DesktopStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                              const QWidget *widget) const {
+    if (metric == PM_MessageBoxIconSize)
+        return 48; // the size of the drawings, so that every display has a picture that fits
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 QIcon DesktopStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption *option,

@@ -29,6 +29,9 @@ inline constexpr QColor paper{253, 251, 255}; ///< ground of the report
 /// the layout is: the text then fits at every scale of the display.
 QFont WindowFont();
 
+/// The style sheet of name boxes, lists and scroll bars, on whatever page they stand.
+QString ControlStyle();
+
 /// The style sheet of picMain and all that stands on it.
 QString PageStyle();
 
@@ -41,6 +44,8 @@ class DesktopStyle : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
     QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption *option,
                        const QWidget *widget) const override;
 };

@@ -46,11 +46,14 @@ private:
             if (!there)
                 break;
             progress_.ClearForOutput();
-            const LineAnswer answer = AnswerLine(line, input_.Lines(), *writer_);
+            const LineAnswer answer =
+                AnswerLine(line, input_.Lines(), options_.normalize, *writer_);
             if (answer.wrong) {
                 wrong_.Report(line.number, line.file, line.numberInFile, *answer.wrong);
                 wrong_.RefuseTooMany();
             }
+            if (answer.remark)
+                wrong_.Remark(line.number, line.file, line.numberInFile, *answer.remark);
             people_ += answer.person ? 1 : 0;
             progress_.Show(Count());
         }

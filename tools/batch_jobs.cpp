@@ -22,6 +22,13 @@ constexpr std::size_t fullChunk = 262'144;                    // bytes of lines
 constexpr std::size_t linesOfReadings = 8;
 constexpr std::size_t linesOfNumbers = 512;
 
+/// How many lines a chunk has at most: as many as are soon done, and as make it worth while.
+std::size_t MostLines(const Options &options) {
+    if (options.format == Format::Pdf)
+        return 1;
+    return options.numbers ? linesOfNumbers : linesOfReadings;
+}
+
 /// The kinds of WorkerMessage.
 enum Kind : std::uint32_t {
     Chunk,   ///< to the worker: `first` bytes of lines in the slot
@@ -131,10 +138,12 @@ public:
     }
 
 private:
-    struct Wrong {
+    /// What is told of a line.
+    struct Message {
         std::uint64_t number;
-        std::uint64_t end; ///< where the bytes of its answer end
-        std::string message;
+        std::uint64_t wrong; ///< 1 for a wrong line, 0 for a remark
+        std::uint64_t end;   ///< where the bytes of its answer end
+        std::string text;
     };
 
     void AnswerChunk(std::uint32_t slot) {
@@ -151,29 +160,33 @@ private:
 
         Bytes &answer = answers_[slot];
         answer.bytes.clear();
-        const auto writer = MakeBatchWriter(options_, &answer, Place::Behind);
-        std::vector<Wrong> wrong;
+        // A writer of files has the engine of its PDFs, which takes its time to start.
+        if (writer_ == nullptr || options_.outputDir.isEmpty())
+            writer_ = MakeBatchWriter(options_, &answer, Place::Behind);
+        std::vector<Message> messages;
         std::uint64_t people = 0;
         while (const std::uint64_t number = chunk.Number()) { // 0 ends them
             line_.number = static_cast<long long>(number);
             line_.tooLong = chunk.Number() != 0;
             line_.text = chunk.Text();
-            LineAnswer answered = AnswerLine(line_, lines_, *writer);
+            LineAnswer answered = AnswerLine(line_, lines_, options_.normalize, *writer_);
             people += answered.person ? 1 : 0;
             if (answered.wrong)
-                wrong.push_back({static_cast<std::uint64_t>(line_.number), answer.bytes.size(),
-                                 std::move(*answered.wrong)});
+                messages.push_back({number, 1, answer.bytes.size(), std::move(*answered.wrong)});
+            if (answered.remark)
+                messages.push_back({number, 0, answer.bytes.size(), std::move(*answered.remark)});
         }
 
         Packer packer(memory_.Of(worker_, slot));
         packer.Put(std::string_view(lines_.OpenRows()));
         packer.Put(people);
         packer.Put(std::uint64_t{answer.bytes.size()});
-        packer.Put(std::uint64_t{wrong.size()});
-        for (const Wrong &each : wrong) {
+        packer.Put(std::uint64_t{messages.size()});
+        for (const Message &each : messages) {
             packer.Put(each.number);
+            packer.Put(each.wrong);
             packer.Put(each.end);
-            packer.Put(std::string_view(each.message));
+            packer.Put(std::string_view(each.text));
         }
         parent_.Send({Answer, slot, packer.Size(), 0});
     }
@@ -194,6 +207,7 @@ private:
     bool begun_ = false;
     BatchLine line_;
     std::array<Bytes, slotsOfAWorker> answers_;
+    std::unique_ptr<BatchWriter> writer_;
 };
 
 /// The parent: hands out chunks and has their answers written in order.
@@ -275,7 +289,7 @@ private:
         file_ = line_.file;
         Piece piece{worker, slot, file_, line_.number - line_.numberInFile, !openRows_.empty()};
         const bool isCsv = !input_.Header().empty();
-        const std::size_t mostLines = options_.numbers ? linesOfNumbers : linesOfReadings;
+        const std::size_t mostLines = MostLines(options_);
         Packer packer(slots_.Of(worker, slot));
         packer.Put(std::string_view(input_.Header()));
         packer.Put(std::string_view(std::exchange(openRows_, {})));
@@ -314,7 +328,7 @@ private:
             openRows_ = Unpacker(slots_.Of(received.worker, message.slot)).Text();
     }
 
-    /// Reports the wrong lines of the first chunk and has its bytes written.
+    /// Tells what there is to tell of the first chunk and has its bytes written.
     void TakeAnswer() {
         Piece &piece = pieces_.front();
         Unpacker answer(slots_.Of(piece.worker, piece.slot));
@@ -327,8 +341,13 @@ private:
         std::uint64_t end = answer.Number();
         for (std::uint64_t left = answer.Number(); left != 0 && !wrong_.AreTooMany(); --left) {
             const auto number = static_cast<long long>(answer.Number());
+            const bool wrong = answer.Number() != 0;
             const std::uint64_t endOfAnswer = answer.Number();
-            wrong_.Report(number, piece.file, number - piece.before, std::string(answer.Text()));
+            const std::string text(answer.Text());
+            if (wrong)
+                wrong_.Report(number, piece.file, number - piece.before, text);
+            else
+                wrong_.Remark(number, piece.file, number - piece.before, text);
             if (wrong_.AreTooMany())
                 end = endOfAnswer;
         }

@@ -1,6 +1,8 @@
 #include "tools/batch_writer.h"
 
+#include "report/pdf_engine.h"
 #include "report/rtf.h"
+#include "tools/explanation.h"
 #include "tools/number_rows.h"
 #include "tools/reading.h"
 #include "tools/refusal.h"
@@ -20,6 +22,37 @@ PersonReading ReadAs(const Options &options, const modReadings::UserProfile &per
     if (options.head)
         reading.head = HeadOf(reading.person, reading.day);
     return reading;
+}
+
+/// What one person gets alone. `engine` is needed for a PDF only.
+std::string BytesOf(const Options &options, const modReadings::UserProfile &person,
+                    const modReadings::GivenName &given, PdfEngine *engine) {
+    if (options.explain)
+        return ExplanationAsText(Explain(person, options.topics));
+    if (!IsDocument(options.format))
+        return ReadingAs(options.format, ReadAs(options, person));
+    std::string document = DocumentAs(options.format, person, given);
+    if (options.format != Format::Pdf)
+        return document;
+    const PdfAnswer answer = engine->Make(document, options.paper);
+    if (!answer.trouble.isEmpty())
+        throw Refusal(answer.trouble, ExitCode::CannotReadOrWrite);
+    return answer.pdf.toStdString();
+}
+
+QString EndingOf(Format format) {
+    switch (format) {
+    case Format::Rtf:
+        return u".rtf"_s;
+    case Format::Html:
+        return u".html"_s;
+    case Format::Pdf:
+        return u".pdf"_s;
+    case Format::Markdown:
+        return u".md"_s;
+    default:
+        return u".txt"_s;
+    }
 }
 
 /// All people in one output.
@@ -58,6 +91,10 @@ private:
         if (options_.numbers)
             return options_.format == Format::Json ? NumbersAsJson(person, line)
                                                    : NumbersAsRow(options_.format, person, line);
+        if (options_.explain)
+            return options_.format == Format::Json
+                       ? ExplanationAsJson(Explain(person, options_.topics), line)
+                       : ExplanationAsText(Explain(person, options_.topics));
         const PersonReading reading = ReadAs(options_, person);
         if (options_.format == Format::Json)
             return ReadingAsJson(reading, line);
@@ -73,10 +110,15 @@ private:
 class FilesInFolder : public BatchWriter {
 public:
     explicit FilesInFolder(const Options &options)
-        : options_(options), ending_(options.format == Format::Rtf ? u".rtf"_s : u".txt"_s) {}
+        : options_(options), ending_(EndingOf(options.format)) {
+        if (options.format == Format::Pdf)
+            engine_ = std::make_unique<PdfEngine>();
+    }
 
     // Only now, so that a batch that is refused leaves no folder behind.
     void Begin() override {
+        if (engine_ != nullptr && !PdfEngine::WhatIsMissing().isEmpty())
+            throw Refusal(PdfEngine::WhatIsMissing(), ExitCode::CannotReadOrWrite);
         if (!QDir().mkpath(options_.outputDir))
             throw Refusal(u"--output-dir: the folder \"%1\" cannot be made"_s.arg(
                               Excerpt(options_.outputDir)),
@@ -89,8 +131,9 @@ public:
         const QFileInfo present(path);
         if (options_.noClobber && (present.exists() || present.isSymLink()))
             return;
+        const std::string bytes = BytesOf(options_, person, line.given, engine_.get());
         Output file(path, options_.noClobber ? Output::Kind::NewInFolder : Output::Kind::InFolder);
-        file.Write(ReadingAs(options_.format, ReadAs(options_, person)));
+        file.Write(bytes);
         file.Finish();
     }
 
@@ -101,6 +144,7 @@ public:
 private:
     const Options &options_;
     const QString ending_;
+    std::unique_ptr<PdfEngine> engine_; ///< for PDFs; its process lives as long as the writer
 };
 
 } // namespace
@@ -120,8 +164,12 @@ std::string_view BetweenPeople(const Options &options) {
 }
 
 std::string AnswerTo(const modReadings::UserProfile &person, const Options &options) {
-    if (!options.numbers)
-        return ReadingAs(options.format, ReadAs(options, person));
+    if (options.explain && options.format == Format::Json)
+        return ExplanationAsJson(Explain(person, options.topics));
+    if (!options.numbers) {
+        const auto engine = options.format == Format::Pdf ? std::make_unique<PdfEngine>() : nullptr;
+        return BytesOf(options, person, GivenNameOf(options.person), engine.get());
+    }
     if (options.format == Format::Json)
         return NumbersAsJson(person, {});
     return HeaderRow(options.format) + NumbersAsRow(options.format, person, {});

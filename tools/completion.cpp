@@ -20,9 +20,11 @@ Words ChoicesOf(ValueKind kind) {
         return months;
     }
     case ValueKind::Format:
-        return {"text", "json", "rtf", "csv", "tsv"};
+        return {"text", "json", "rtf", "html", "pdf", "markdown", "csv", "tsv"};
     case ValueKind::Shell:
         return {"bash", "zsh", "fish"};
+    case ValueKind::Paper:
+        return {"a4", "letter"};
     default:
         return {};
     }

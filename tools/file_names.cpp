@@ -15,6 +15,8 @@ namespace {
 
 constexpr qsizetype mostBytes = 255;
 constexpr qsizetype mostBytesOfPattern = 100;
+constexpr qsizetype longestNumber = 16; // of a line: --first-line goes up to 10^15
+constexpr qsizetype longestEnding = 5; // ".html"
 
 bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 
@@ -45,12 +47,25 @@ QString Safe(const QString &text, qsizetype most) {
     return safe;
 }
 
+/// What stands for a part of a name, which it captures.
+const QRegularExpression &Placeholder() {
+    static const QRegularExpression placeholder(u"\\{(first|middle|last|line)\\}"_s);
+    return placeholder;
+}
+
 /// Whether some system takes `name` for a device, whatever ending it has.
 bool IsDevice(const QString &name) {
     static const QRegularExpression device(u"\\A(CON|PRN|AUX|NUL|(COM|LPT)[0-9\u00B9\u00B2\u00B3])"
                                            "[ ]*(\\.|\\z)"_s,
                                            QRegularExpression::CaseInsensitiveOption);
     return device.match(name).hasMatch();
+}
+
+/// `name` with a "_" in front, if it needs one.
+QString SafeStart(const QString &name) {
+    const bool bad = name.isEmpty() || name.front() == u'.' || name.front() == u'-' ||
+                     name.front() == u' ' || IsDevice(name);
+    return bad ? u'_' + name : name;
 }
 
 } // namespace
@@ -60,15 +75,17 @@ FileNames::FileNames(QString pattern) : pattern_(std::move(pattern)) {
         return Refusal(
             u"--name-template: \"%1\" is not allowed; %2"_s.arg(Excerpt(pattern_), what));
     };
-    QString literal = pattern_;
-    for (const QString &placeholder : {u"{first}"_s, u"{middle}"_s, u"{last}"_s, u"{line}"_s})
-        literal.remove(placeholder);
+    const QString literal = QString(pattern_).remove(Placeholder());
     if (literal.contains(u'{') || literal.contains(u'}'))
         throw refusal(u"in braces stand first, middle, last or line"_s);
-    if (!std::ranges::all_of(literal, IsAllowed))
-        throw refusal(u"it has a character that cannot stand in the name of a file"_s);
     if (pattern_.toUtf8().size() > mostBytesOfPattern)
         throw refusal(u"it is longer than %1 bytes"_s.arg(mostBytesOfPattern));
+    if (Safe(pattern_, mostBytes) != pattern_) // what it would change cannot stand there
+        throw refusal(u"it has a character that cannot stand in the name of a file"_s);
+    const qsizetype numbers = pattern_.count(u"{line}"_s);
+    if (literal.toUtf8().size() + numbers * longestNumber + 1 + longestEnding > mostBytes)
+        throw refusal(
+            u"it has {line} so often that a name could be longer than %1 bytes"_s.arg(mostBytes));
     // Within the name, or beside a digit or another part, two lines could give one name.
     const QString line = u"{line}"_s;
     const QStringView rest = QStringView(pattern_);
@@ -86,7 +103,7 @@ FileNames::FileNames(QString pattern) : pattern_(std::move(pattern)) {
 
 QString FileNames::Of(const modReadings::UserProfile &person, long long line,
                       const QString &ending) const {
-    static const QRegularExpression part(u"\\{(first|middle|last|line)\\}"_s);
+    const QRegularExpression &part = Placeholder();
     const QString number = u"%1"_s.arg(line, 6, 10, '0'_L1);
     const qsizetype lines = pattern_.count(u"{line}"_s);
     const qsizetype names = pattern_.count(part) - lines;
@@ -105,11 +122,12 @@ QString FileNames::Of(const modReadings::UserProfile &person, long long line,
         const std::u16string &value = word == "first"_L1    ? person.FirstName
                                       : word == "middle"_L1 ? person.MiddleName
                                                             : person.LastName;
-        name += Safe(QString::fromStdU16String(value), room / names);
+        name += Safe(QStringView(value).toString(), room / names);
     }
     name += QStringView(pattern_).sliced(end);
-    const QChar start = name.front();
-    if (start == u'.' || start == u'-' || start == u' ' || IsDevice(name))
-        name.prepend(u'_');
-    return name + ending;
+    return SafeStart(name) + ending;
+}
+
+QString SafeFileName(const QString &wanted, const QString &ending) {
+    return SafeStart(Safe(wanted, mostBytes - 1 - ending.toUtf8().size())) + ending;
 }

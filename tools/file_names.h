@@ -1,6 +1,6 @@
 #pragma once
 
-// The names of the files that a batch writes into a folder.
+// The names of files that are made from those of people, for a batch and for a save dialog.
 
 #include "core/user_profile.h"
 
@@ -27,3 +27,6 @@ public:
 private:
     QString pattern_;
 };
+
+/// A name for a file, made of `wanted` and `ending` by the same rules.
+QString SafeFileName(const QString &wanted, const QString &ending);

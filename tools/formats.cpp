@@ -1,7 +1,9 @@
 #include "tools/formats.h"
 
-#include "core/months.h"
+#include "core/clock.h"
 #include "core/text.h"
+#include "report/html.h"
+#include "report/markdown.h"
 #include "report/rtf.h"
 #include "tools/text.h"
 
@@ -61,12 +63,6 @@ void AppendPlain(std::string &out, std::u16string_view text) {
     std::ranges::copy_if(AsUtf8(text), std::back_inserter(out), [](char c) { return c != '\r'; });
 }
 
-/// A date as a person writes it: "November 21, 2026".
-std::u16string LongDate(std::u16string_view month, int day, int year) {
-    const std::string rest = ' ' + std::to_string(day) + ", " + std::to_string(year);
-    return std::u16string(month).append(rest.begin(), rest.end());
-}
-
 /// Head and topics as one report, an empty line between them.
 modReadings::Report Joined(const PersonReading &reading) {
     modReadings::Report whole = reading.head;
@@ -89,18 +85,15 @@ std::string IsoDate(std::chrono::year_month_day date) {
 
 modReadings::Report HeadOf(const modReadings::UserProfile &person,
                            std::chrono::year_month_day day) {
-    QString name = QString::fromStdU16String(person.FirstName);
+    QString name = QStringView(person.FirstName).toString();
     for (const std::u16string &part : {person.MiddleName, person.LastName})
         if (!part.empty())
-            name += u' ' + QString::fromStdU16String(part);
+            name += u' ' + QStringView(part).toString();
     const std::u16string born =
-        LongDate(person.BirthMonth, modReadings::NumberFromText(person.BirthDay),
-                 modReadings::NumberFromText(person.BirthYear));
-    const std::u16string read =
-        LongDate(modReadings::englishMonths[static_cast<unsigned>(day.month()) - 1],
-                 static_cast<int>(static_cast<unsigned>(day.day())), static_cast<int>(day.year()));
-    return {{QString::fromStdString(OneLine(name)).toStdU16String(), true},
-            {u"\r\nBorn " + born + u"\r\nRead for " + read, false}};
+        modReadings::LongDate(person.BirthMonth, modReadings::NumberFromText(person.BirthDay),
+                              modReadings::NumberFromText(person.BirthYear));
+    return {{FromUtf8(OneLine(name)).value_or(QString()).toStdU16String(), true},
+            {u"\r\nBorn " + born + u"\r\nRead for " + modReadings::LongDate(day), false}};
 }
 
 std::string ReadingAsText(const PersonReading &reading) {
@@ -177,11 +170,22 @@ std::string ReadingAs(Format format, const PersonReading &reading) {
     case Format::Rtf:
         return ReadingAsRtf(reading);
     case Format::Text:
+    case Format::Html:
+    case Format::Pdf:
+    case Format::Markdown:
     case Format::Csv:
     case Format::Tsv:
         break;
     }
     return ReadingAsText(reading);
+}
+
+std::string DocumentAs(Format format, const modReadings::UserProfile &person,
+                       const modReadings::GivenName &given) {
+    const modReadings::Document document =
+        modReadings::MakeDocument(person, given, modReadings::Clock::Date());
+    return format == Format::Markdown ? modReadings::ToMarkdown(document)
+                                      : modReadings::ToHtml(document);
 }
 
 std::string ErrorAsJson(const LineFacts &line, std::string_view message) {

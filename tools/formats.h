@@ -3,13 +3,19 @@
 // A reading as bytes: UTF-8 text, JSON or RTF. All text of the output is UTF-8.
 
 #include "numbers/book.h"
+#include "report/document.h"
 #include "tools/reading.h"
 
 #include <span>
 #include <string>
 #include <string_view>
 
-enum class Format { Text, Json, Rtf, Csv, Tsv };
+enum class Format { Text, Json, Rtf, Html, Pdf, Markdown, Csv, Tsv };
+
+/// Whether it is a document of one person to hand over, which holds all topics and more.
+constexpr bool IsDocument(Format format) {
+    return format == Format::Html || format == Format::Pdf || format == Format::Markdown;
+}
 
 /// Who is read, as it stands above the first topic: the names, the dates of birth and of the
 /// reading. What a terminal might act on in a name is written out.
@@ -26,6 +32,7 @@ std::string ReadingAsText(const PersonReading &reading);
 struct LineFacts {
     long long number = 0; ///< of the line, from 1 on; 0 outside a batch
     std::string further;  ///< the person's further members or columns, a JSON object; or empty
+    modReadings::GivenName given{}; ///< the names as they stand in the input
 };
 
 /// One object on one line: the captured person, the day of the reading, the line and the
@@ -41,6 +48,11 @@ std::string ReadingAsRtfBody(const PersonReading &reading);
 
 /// One of the three above: Text, Json or Rtf.
 std::string ReadingAs(Format format, const PersonReading &reading);
+
+/// The document of `person`, read for the present day: as Markdown, or as HTML, of which a PDF
+/// is made too.
+std::string DocumentAs(Format format, const modReadings::UserProfile &person,
+                       const modReadings::GivenName &given);
 
 /// The object that stands in the place of a person who could not be read.
 std::string ErrorAsJson(const LineFacts &line, std::string_view message);

@@ -4,36 +4,13 @@
 #include "tools/option_table.h"
 #include "tools/reading.h"
 #include "tools/text.h"
+#include "tools/wrapping.h"
 
 #include <optional>
 
 namespace {
 
-constexpr std::size_t width = 79;  ///< of a line without its break
 constexpr std::size_t column = 26; ///< where the descriptions begin
-
-/// `words` from `column` on, broken between words; the first line follows what `text` holds.
-void AppendWrapped(std::string &text, std::string_view words) {
-    std::size_t used = column;
-    bool first = true;
-    while (!words.empty()) {
-        const std::string_view word = words.substr(0, words.find(' '));
-        words.remove_prefix(std::min(words.size(), word.size() + 1));
-        if (!first && used + 1 + word.size() > width) {
-            text += '\n' + std::string(column, ' ');
-            used = column;
-            first = true;
-        }
-        if (!first) {
-            text += ' ';
-            ++used;
-        }
-        text += word;
-        used += word.size();
-        first = false;
-    }
-    text += '\n';
-}
 
 /// "  -f, --format FORMAT", filled up to the column of the description or broken before it.
 std::string Spelling(const OptionRow &row) {
@@ -63,7 +40,7 @@ The Orravane numerology report without the window.
             text.append("\n").append(HeadingOf(row.group)).append(":\n");
         }
         text += Spelling(row);
-        AppendWrapped(text, row.help);
+        AppendWrapped(text, WordsOf(row.help), column);
     }
     text += R"(
 A value may also follow an equals sign: --format=json.
@@ -72,6 +49,7 @@ Examples:
   orravane-report --first Ada --last Moreau --date 1984-05-07
   orravane-report --first Ada --last Moreau --month May --day 7 --year 1984 \
       --topic "Comprehensive Reading" -f rtf -o ada.rtf
+  orravane-report --first Ada --last Moreau --date 1984-05-07 --explain
   orravane-report --batch people.csv --topic "Life Path Number" > numbers.jsonl
   orravane-report --batch people.csv.gz --output-dir reports
 

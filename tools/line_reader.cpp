@@ -1,17 +1,13 @@
 #include "tools/line_reader.h"
 
 #include "tools/refusal.h"
+#include "tools/system.h"
 #include "tools/text.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <zlib.h>
 
 using namespace Qt::StringLiterals;
@@ -42,25 +38,25 @@ struct LineReader::Gzip {
 LineReader::LineReader(const QString &file) : buffer_(bufferSize) {
     if (file == "-"_L1) {
         name_ = u"standard input"_s;
-        descriptor_ = STDIN_FILENO;
+        descriptor_ = 0;
         return;
     }
     name_ = u"the file \"%1\""_s.arg(Excerpt(file));
-    descriptor_ = open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
-    struct stat status {};
-    if (descriptor_ < 0 || fstat(descriptor_, &status) != 0)
+    const auto opened = InputFile::Open(file);
+    if (!opened)
         Fail(u"%1 cannot be read (%2)"_s.arg(name_, Reason(errno)));
-    owned_ = true;
-    if (S_ISDIR(status.st_mode)) {
-        close(descriptor_);
+    if (opened->isFolder) {
+        InputFile::Close(opened->descriptor);
         Fail(u"%1 cannot be read (%2)"_s.arg(name_, Reason(EISDIR)));
     }
-    size_ = S_ISREG(status.st_mode) ? status.st_size : 0;
+    descriptor_ = opened->descriptor;
+    owned_ = true;
+    size_ = opened->size;
 }
 
 LineReader::~LineReader() {
     if (owned_)
-        close(descriptor_);
+        InputFile::Close(descriptor_);
 }
 
 LineReader::Found LineReader::Next(std::string &line) {
@@ -151,10 +147,7 @@ bool LineReader::FillFromGzip() {
 }
 
 std::size_t LineReader::Read(char *bytes, std::size_t most) {
-    ssize_t count = 0;
-    do
-        count = read(descriptor_, bytes, most);
-    while (count < 0 && errno == EINTR);
+    const long long count = InputFile::Read(descriptor_, bytes, most);
     if (count < 0) // broken off, which is not the same as having come to its end
         Fail(u"reading %1 stopped before its end (%2)"_s.arg(name_, Reason(errno)));
     return static_cast<std::size_t>(count);

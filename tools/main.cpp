@@ -6,21 +6,22 @@
 #include "tools/options.h"
 #include "tools/output.h"
 #include "tools/reading.h"
+#include "tools/system.h"
 #include "tools/text.h"
 #include "version.h"
 
 #include <QCoreApplication>
 
-#include <cerrno>
 #include <cstdio>
 #include <optional>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+void Complain(const QString &line) {
+    std::fprintf(stderr, "orravane-report: %s\n", OneLine(line).c_str());
+}
 
 void Print(const QString &fileName, const std::string &bytes) {
     Output output(fileName);
@@ -28,18 +29,9 @@ void Print(const QString &fileName, const std::string &bytes) {
     output.Finish();
 }
 
-/// If the program was started with one of its three streams closed, the next file that it
-/// opens would take the number of that stream, and what is meant for the stream would go
-/// into the file. So each closed stream is occupied, by /dev/null opened in the direction
-/// in which the stream is not used: using the stream then fails, as it should.
-void OccupyClosedStreams() {
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-        if (fcntl(stream, F_GETFD) < 0 && errno == EBADF)
-            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-}
-
 ExitCode Run(int argc, char *argv[]) {
-    RequireUtf8(argc, argv);
+    if (ArgumentsAreBytes())
+        RequireUtf8(argc, argv);
     const Options options = ParseOptions(QCoreApplication::arguments());
 
     std::optional<modReadings::FixedClock> today;
@@ -67,8 +59,17 @@ ExitCode Run(int argc, char *argv[]) {
     case Options::Task::Batch:
         return RunBatch(options);
     case Options::Task::Person: {
+        if (options.format == Format::Pdf &&
+            (options.output.isEmpty() || options.output == u"-"_s) && isatty(STDOUT_FILENO) == 1)
+            throw Refusal(
+                u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
+                "a program read it."_s);
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
-        const auto person = CheckPerson(options.person, u"--"_s);
+        const PersonInput input = options.normalize ? Composed(options.person) : options.person;
+        const InputNames names(u"--"_s);
+        const auto person = CheckPerson(input, names);
+        if (const QString remark = DecomposedRemark(input, names); !remark.isEmpty())
+            Complain(remark);
         Print(options.output, AnswerTo(person, options));
         break;
     }
@@ -79,7 +80,7 @@ ExitCode Run(int argc, char *argv[]) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    OccupyClosedStreams();
+    const StandardStreams streams;
     std::setvbuf(stdout, nullptr, _IONBF, 0); // a report leaves in one write, whole and at once
     qputenv("LC_ALL", "C.UTF-8");             // the tool speaks English and UTF-8 wherever it runs
     const QCoreApplication application(argc, argv);
@@ -88,7 +89,7 @@ int main(int argc, char *argv[]) {
     try {
         return static_cast<int>(Run(argc, argv));
     } catch (const Refusal &refusal) {
-        std::fprintf(stderr, "orravane-report: %s\n", OneLine(refusal.Line()).c_str());
+        Complain(refusal.Line());
         return static_cast<int>(refusal.Code());
     }
 }

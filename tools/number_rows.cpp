@@ -4,7 +4,7 @@
 #include "core/proceed_pass.h"
 #include "core/reading_store.h"
 #include "core/text.h"
-#include "tools/json_text.h"
+#include "tools/person_json.h"
 #include "tools/text.h"
 
 #include <algorithm>
@@ -148,7 +148,7 @@ public:
         if (std::ranges::all_of(text, [](char16_t c) { return c >= u' ' && c < 0x7F; }))
             Add(AsUtf8(text));
         else
-            Add(OneLine(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()))));
+            Add(OneLine(QStringView(text).toString()));
     }
 
     std::string Finish() {
@@ -171,15 +171,6 @@ private:
 constexpr std::array<std::string_view, 8> facts{"line",  "first", "middle", "last",
                                                 "month", "day",   "year",   "today"};
 
-void Key(OutsideJson &json, std::string_view name) {
-    json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
-}
-
-void Member(OutsideJson &json, std::string_view name, std::string_view text) {
-    Key(json, name);
-    WriteString(json, text);
-}
-
 } // namespace
 
 std::string NumbersAsJson(const UserProfile &person, const LineFacts &line) {
@@ -188,25 +179,9 @@ std::string NumbersAsJson(const UserProfile &person, const LineFacts &line) {
     buffer.Clear();
     OutsideJson json(buffer);
     json.StartObject();
-    Member(json, "first", AsUtf8(person.FirstName));
-    Member(json, "middle", AsUtf8(person.MiddleName));
-    Member(json, "last", AsUtf8(person.LastName));
-    Member(json, "month", AsUtf8(person.BirthMonth));
-    Key(json, "day");
-    json.Int(NumberFromText(person.BirthDay));
-    Key(json, "year");
-    json.Int(NumberFromText(person.BirthYear));
-    Member(json, "today", IsoDate(Clock::Date()));
-    if (line.number != 0) {
-        Key(json, "line");
-        json.Int64(line.number);
-    }
-    if (!line.further.empty()) {
-        Key(json, "input");
-        json.RawValue(line.further.data(), line.further.size(), rapidjson::kObjectType);
-    }
+    WritePerson(json, person, Clock::Date(), line);
     for (const NumberColumn &column : columns) {
-        Key(json, column.name);
+        WriteKey(json, column.name);
         const Cell cell = std::visit(CellOf{}, column.value);
         if (const int *number = std::get_if<int>(&cell))
             json.Int(*number);

@@ -43,7 +43,8 @@ constexpr std::array table{
               "Use N processes, 1 to 256. The output is the same. Default: 1."},
     OptionRow{OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch,
               false,
-              "Write one file per person into this directory, text or rtf, named by line number."},
+              "Write one file per person into this directory, in any format but json, named by "
+              "line number."},
     OptionRow{NameTemplate, ManyPeople, "name-template", 0, "TEMPLATE", ValueKind::Text,
               goesWith::batch, false,
               "The names of these files, made of {first}, {middle}, {last} and {line}; {line} "
@@ -53,23 +54,32 @@ constexpr std::array table{
 
     OptionRow{Today, WhatToRead, "today", 0, "YYYY-MM-DD", ValueKind::Date, goesWith::reading,
               false, "Read for this day instead of today."},
+    OptionRow{Normalize, WhatToRead, "normalize", 0, "", ValueKind::None, goesWith::reading, false,
+              "Compose the letters of the names (Unicode NFC) before they count: an E with a "
+              "separate accent becomes one letter."},
     OptionRow{Topic, WhatToRead, "topic", 0, "CAPTION", ValueKind::Topic, goesWith::reading, true,
               "Read this topic; may be repeated. --list-topics shows the captions. "
               "Default: all topics."},
     OptionRow{Numbers, WhatToRead, "numbers", 0, "", ValueKind::None, goesWith::reading, false,
               "Print the numbers without the readings, one row per person: json (default), csv "
               "or tsv."},
+    OptionRow{Explain, WhatToRead, "explain", 0, "", ValueKind::None, goesWith::reading, false,
+              "Print how the numbers come about, letter by letter and step by step, instead of "
+              "the readings: text or json."},
     OptionRow{Book, WhatToRead, "book", 0, "", ValueKind::None, goesWith::book, false,
               "Print every reading and every fixed text of the program."},
 
     OptionRow{OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
               goesWith::everything, false,
-              "text (default), json (default of a batch) or rtf; with --numbers json, csv or tsv."},
+              "text (default), json (default of a batch), rtf, html, pdf or markdown; with "
+              "--numbers json, csv or tsv."},
     OptionRow{Head, WhatToWrite, "head", 0, "", ValueKind::None, goesWith::reading, false,
               "Write name, date of birth and date of the reading above the first topic, in text "
               "and rtf. A batch has this by default."},
     OptionRow{NoHead, WhatToWrite, "no-head", 0, "", ValueKind::None, goesWith::reading, false,
               "Leave these lines out in a batch."},
+    OptionRow{OptionId::Paper, WhatToWrite, "paper", 0, "SIZE", ValueKind::Paper, goesWith::reading,
+              false, "The pages of a PDF: a4 (default) or letter."},
     OptionRow{Output, WhatToWrite, "output", 'o', "FILE", ValueKind::File, goesWith::everything,
               false,
               "Write to this file instead of standard output. It appears complete or not at all. "

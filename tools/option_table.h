@@ -24,12 +24,15 @@ enum class OptionId {
     NameTemplate,
     NoClobber,
     Today,
+    Normalize,
     Topic,
     Numbers,
+    Explain,
     Book,
     Format,
     Head,
     NoHead,
+    Paper,
     Output,
     Quiet,
     Summary,
@@ -43,7 +46,7 @@ enum class OptionId {
 enum class OptionGroup { OnePerson, ManyPeople, WhatToRead, WhatToWrite, Other };
 
 /// What a shell can offer as the value of an option.
-enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic, Shell };
+enum class ValueKind { None, Text, Month, Number, Date, File, Folder, Format, Topic, Shell, Paper };
 
 /// The tasks with which an option goes, as bits of OptionRow::tasks.
 namespace goesWith {

@@ -161,6 +161,12 @@ std::optional<Format> FormatFrom(const QString &text) {
         return Format::Json;
     if (text == "rtf"_L1)
         return Format::Rtf;
+    if (text == "html"_L1)
+        return Format::Html;
+    if (text == "pdf"_L1)
+        return Format::Pdf;
+    if (text == "markdown"_L1)
+        return Format::Markdown;
     if (text == "csv"_L1)
         return Format::Csv;
     if (text == "tsv"_L1)
@@ -233,7 +239,8 @@ Options ParseOptions(const QStringList &arguments) {
         const auto format = FormatFrom(line.Value(OptionId::Format));
         if (!format)
             throw Refusal(
-                u"--format: \"%1\" is not allowed; give text, json or rtf, and "
+                u"--format: \"%1\" is not allowed; give text, json, rtf, html, pdf or markdown, "
+                u"and "
                 "with --numbers json, csv or tsv."_s.arg(Excerpt(line.Value(OptionId::Format))));
         options.format = *format;
     } else if (line.Given(Numbers) ||
@@ -241,16 +248,30 @@ Options ParseOptions(const QStringList &arguments) {
         options.format = ::Format::Json;
     }
     options.numbers = line.Given(Numbers);
+    options.explain = line.Given(Explain);
+    options.normalize = line.Given(Normalize);
     const bool isRow = options.format == ::Format::Csv || options.format == ::Format::Tsv;
     const bool isPage = options.format == ::Format::Text || options.format == ::Format::Rtf;
     if (isRow && !options.numbers)
         throw Refusal(
             u"--format: \"%1\" goes with --numbers only."_s.arg(line.Value(OptionId::Format)));
-    if (isPage && options.numbers)
+    const bool isDocument = IsDocument(options.format);
+    if ((isPage || isDocument) && options.numbers)
         throw Refusal(u"--format: \"%1\" does not go with --numbers; give json, csv or tsv."_s.arg(
             line.Value(OptionId::Format)));
-    if (options.task == Options::Task::Book && options.format == ::Format::Rtf)
-        throw Refusal(u"--format: \"rtf\" does not go with --book; give text or json."_s);
+    if (options.explain && (options.format == ::Format::Rtf || isDocument))
+        throw Refusal(u"--format: \"%1\" does not go with --explain; give text or json."_s.arg(
+            line.Value(OptionId::Format)));
+    for (const OptionId id : {Numbers, Head, NoHead})
+        if (options.explain && line.Given(id))
+            throw Refusal(
+                u"%1 does not go with --explain; leave one of them out."_s.arg(Dashed(id)));
+    if (options.task == Options::Task::Book && (options.format == ::Format::Rtf || isDocument))
+        throw Refusal(u"--format: \"%1\" does not go with --book; give text or json."_s.arg(
+            line.Value(OptionId::Format)));
+    if (isDocument && line.Given(Topic))
+        throw Refusal(u"--topic does not go with the format %1, which has all topics; leave one of "
+                      "them out."_s.arg(line.Value(OptionId::Format)));
     for (const OptionId id : {Topic, OutputDir, Head, NoHead})
         if (options.numbers && line.Given(id))
             throw Refusal(
@@ -258,6 +279,15 @@ Options ParseOptions(const QStringList &arguments) {
     for (const OptionId id : {Head, NoHead})
         if (line.Given(id) && !isPage)
             throw Refusal(u"%1 goes with the formats text and rtf only."_s.arg(Dashed(id)));
+    if (line.Given(OptionId::Paper)) {
+        const QString paper = line.Value(OptionId::Paper);
+        if (options.format != ::Format::Pdf)
+            throw Refusal(u"--paper goes with the format pdf only."_s);
+        if (paper != "a4"_L1 && paper != "letter"_L1)
+            throw Refusal(
+                u"--paper: \"%1\" is not allowed; give a4 or letter."_s.arg(Excerpt(paper)));
+        options.paper = paper == "a4"_L1 ? ::Paper::A4 : ::Paper::Letter;
+    }
     if (line.Given(Head) && line.Given(NoHead))
         throw Refusal(u"--head does not go with --no-head; leave one of them out."_s);
     options.head =
@@ -278,7 +308,11 @@ Options ParseOptions(const QStringList &arguments) {
     if (options.task == Options::Task::Batch) {
         const bool files = line.Given(OutputDir);
         if (files && options.format == ::Format::Json)
-            throw Refusal(u"--format: \"json\" does not go with --output-dir; give text or rtf."_s);
+            throw Refusal(
+                u"--format: \"json\" does not go with --output-dir; give text, rtf, html, pdf or markdown."_s);
+        if (!files && isDocument)
+            throw Refusal(u"--format: \"%1\" makes one file a person; give --output-dir."_s.arg(
+                line.Value(OptionId::Format)));
         for (const OptionId id : {NameTemplate, NoClobber})
             if (!files && line.Given(id))
                 throw Refusal(u"%1 goes with --output-dir only; see --help."_s.arg(Dashed(id)));

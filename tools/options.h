@@ -2,6 +2,7 @@
 
 // The command line of orravane-report.
 
+#include "report/pdf_engine.h"
 #include "tools/completion.h"
 #include "tools/file_names.h"
 #include "tools/formats.h"
@@ -24,6 +25,8 @@ struct Options {
     std::optional<std::chrono::year_month_day> today;
     std::vector<std::u16string_view> topics; ///< captions, never empty
     bool numbers = false;                    ///< the numbers alone, a row per person
+    bool explain = false;                    ///< how the numbers come about
+    bool normalize = false;                  ///< whether names are composed first
     bool head = false;                       ///< whether text and RTF say who is read
     QStringList batchFiles;                  ///< "-" for standard input
     std::optional<char> delimiter;           ///< of CSV; none: found out
@@ -32,6 +35,7 @@ struct Options {
     int jobs = 1;                            ///< how many processes work on a batch
     QString outputDir;                       ///< empty: none
     FileNames fileNames;                     ///< of the files in it
+    Paper paper = Paper::A4;                 ///< of a PDF
     bool noClobber = false;                  ///< whether files stay that are in it
     QString output;                          ///< empty: standard output
     Progress::Verbosity verbosity = Progress::Verbosity::Person;

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,10 +25,10 @@ protected:
 class Output final : public ByteSink {
 public:
     enum class Kind {
-        /// What the option --output names. Empty or "-" is standard output. "/dev/stdout",
-        /// "/dev/stderr", "/dev/fd/N" and "/proc/self/fd/N" are the open descriptor, written
-        /// from where it stands. A device or a pipe is written as it is. Anything else is a
-        /// file; a link to one is followed, and the file behind it replaced.
+        /// What the option --output names. Empty or "-" is standard output. On Unix,
+        /// "/dev/stdout", "/dev/stderr", "/dev/fd/N" and "/proc/self/fd/N" are the open
+        /// descriptor, written from where it stands. A device or a pipe is written as it is.
+        /// Anything else is a file; a link to one is followed, and the file behind it replaced.
         Named,
         /// A file in the folder of --output-dir. What stands there is replaced, whatever it
         /// is but a folder: a link is not followed, a pipe not waited for. The file is not
@@ -38,8 +39,9 @@ public:
     };
 
     /// A file is written under another name beside its place and takes that place in
-    /// Finish, so that a file that stands there is whole all the time. SIGINT, SIGTERM and
-    /// SIGHUP remove the unfinished file before they end the program.
+    /// Finish, so that a file that stands there is whole all the time. When the program ends
+    /// before, the unfinished file goes with it: on Unix at SIGINT, SIGTERM and SIGHUP, on
+    /// Windows however it ends.
     explicit Output(const QString &path, Kind kind = Kind::Named);
 
     /// Gives up what Finish has not put in place.
@@ -51,23 +53,26 @@ public:
     /// Puts the file in its place. Without this call no file appears.
     void Finish();
 
-    /// To be called in a child process: an unfinished file is the parent's, and stays when a
-    /// signal ends the child.
+    /// To be called in a child process on Unix: an unfinished file is the parent's, and stays
+    /// when a signal ends the child.
     static void LeaveUnfinishedToParent();
 
 private:
     /// The members alone: once this has run, the destructor runs too when the rest fails.
     Output(Kind kind, QString shownName) : name_(std::move(shownName)), kind_(kind) {}
 
-    void OpenNamed(const std::string &name);
-    void OpenBeside(std::string place);
+    using Name = std::filesystem::path::string_type; ///< as the system has it
+    static Name NameOf(const QString &path);
+
+    void OpenNamed(const Name &name);
+    void OpenBeside(Name place);
     void PutInPlace();
     [[noreturn]] void Fail(int error) const;
 
     QString name_; ///< in messages
     Kind kind_;
-    int descriptor_ = -1;   ///< -1 once nothing is left to do
-    bool owned_ = false;    ///< whether the descriptor is closed in the end
-    std::string place_;     ///< where the file goes; empty for anything but a file
-    std::string temporary_; ///< under which name it is written
+    int descriptor_ = -1; ///< -1 once nothing is left to do
+    bool owned_ = false;  ///< whether the descriptor is closed in the end
+    Name place_;          ///< where the file goes; empty for anything but a file
+    Name temporary_;      ///< under which name it is written
 };

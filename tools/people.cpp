@@ -49,10 +49,9 @@ QString MonthName(const QString &text) {
 }
 
 /// `input` with its date in month, day and year, if it has one in one piece.
-PersonInput WithDateInParts(PersonInput input, const QString &prefix) {
+PersonInput WithDateInParts(PersonInput input, const QString &name) {
     if (input.date.isEmpty())
         return input;
-    const QString name = prefix.isEmpty() ? u"birthdate"_s : prefix + "date"_L1;
     for (const QString &part : {input.month, input.day, input.year})
         if (!part.isEmpty())
             throw Refusal(
@@ -72,7 +71,7 @@ PersonInput WithDateInParts(PersonInput input, const QString &prefix) {
 
 /// Refuses a name with a sum that int16 cannot hold, which would silently count 0, and one of
 /// more characters than it can count.
-void RefuseTooLong(const UserProfile &person, const QString &prefix) {
+void RefuseTooLong(const UserProfile &person, const InputNames &names) {
     const std::u16string whole = person.FirstName + person.MiddleName + person.LastName;
     try {
         modReadings::Length(whole);
@@ -81,54 +80,99 @@ void RefuseTooLong(const UserProfile &person, const QString &prefix) {
         modReadings::Add(modReadings::NameLetterSum(person.FirstName),
                          modReadings::NumberFromText(person.BirthDay));
     } catch (const modReadings::RuntimeFailure &) {
-        throw Refusal(u"the name is too long, its letters add up to more than 32767 or it has more "
-                      "characters; shorten %1first, %1middle or %1last"_s.arg(prefix));
+        throw Refusal(
+            u"the name is too long, its letters add up to more than 32767 or it has more "
+            "characters; shorten %1, %2 or %3"_s.arg(names.first, names.middle, names.last));
     }
 }
 
 /// The walk of the Essence repeats a name until the person's age is reached and has no
 /// limit. The window behaves so; a program that scripts wait for must not.
-void RefuseEndlessEssence(const UserProfile &person, const QString &prefix) {
+void RefuseEndlessEssence(const UserProfile &person, const InputNames &names) {
     const int age = modReadings::Clock::Year() - modReadings::NumberFromText(person.BirthYear);
     const auto endless = EndlessName(person, static_cast<modReadings::int16>(age));
     if (!endless)
         return;
-    const auto [name, letters] = *endless == NamePart::First ? std::pair("first"_L1, "A to Z"_L1)
+    const auto [name, letters] = *endless == NamePart::First ? std::pair(names.first, "A to Z"_L1)
                                  : *endless == NamePart::Middle
-                                     ? std::pair("middle"_L1, "A to Z"_L1)
-                                     : std::pair("last"_L1, "A to Z other than F"_L1);
+                                     ? std::pair(names.middle, "A to Z"_L1)
+                                     : std::pair(names.last, "A to Z other than F"_L1);
     throw Refusal(u"%1 has no letter that the Essence can count; give a name with at least one of "
-                  "the letters %2"_s.arg(prefix + name, letters));
+                  "the letters %2"_s.arg(name, letters));
 }
 
 } // namespace
 
-UserProfile CheckPerson(const PersonInput &given, const QString &prefix) {
-    const auto refusal = [&](QLatin1StringView name, const QString &value, const QString &allowed) {
-        return Refusal(value.isEmpty() ? u"%1 is missing or empty; %2"_s.arg(prefix + name, allowed)
-                                       : u"%1: \"%2\" is not allowed; %3"_s.arg(
-                                             prefix + name, Excerpt(value), allowed));
+modReadings::GivenName GivenNameOf(const PersonInput &input) {
+    return {input.first.toStdU16String(), input.middle.toStdU16String(),
+            input.last.toStdU16String()};
+}
+
+InputNames::InputNames(const QString &prefix)
+    : first(prefix + "first"_L1), middle(prefix + "middle"_L1), last(prefix + "last"_L1),
+      month(prefix + "month"_L1), day(prefix + "day"_L1), year(prefix + "year"_L1),
+      date(prefix.isEmpty() ? u"birthdate"_s : prefix + "date"_L1) {}
+
+const InputNames &InputNames::OfColumns() {
+    static const InputNames names;
+    return names;
+}
+
+PersonInput Composed(PersonInput input) {
+    for (QString *name : {&input.first, &input.middle, &input.last})
+        *name = name->normalized(QString::NormalizationForm_C);
+    return input;
+}
+
+QString DecomposedRemark(const PersonInput &input, const InputNames &names) {
+    const auto captured = [](const PersonInput &person) {
+        return modReadings::Captured({person.first, person.middle, person.last, {}, {}, {}});
+    };
+    const PersonInput composedInput = Composed(input);
+    if (composedInput.first == input.first && composedInput.middle == input.middle &&
+        composedInput.last == input.last)
+        return {};
+    const UserProfile typed = captured(input);
+    const UserProfile composed = captured(composedInput);
+    QStringList decomposed;
+    for (const auto &[name, slot] : {std::pair(&names.first, &UserProfile::FirstName),
+                                     {&names.middle, &UserProfile::MiddleName},
+                                     {&names.last, &UserProfile::LastName}})
+        if (typed.*slot != composed.*slot)
+            decomposed << *name;
+    if (decomposed.isEmpty())
+        return {};
+    return decomposed.join(u", "_s) +
+           u": not in composed letters (Unicode NFC), which can count differently; --normalize "
+           "composes them"_s;
+}
+
+UserProfile CheckPerson(const PersonInput &given, const InputNames &names) {
+    const auto refusal = [&](const QString &name, const QString &value, const QString &allowed) {
+        return Refusal(value.isEmpty()
+                           ? u"%1 is missing or empty; %2"_s.arg(name, allowed)
+                           : u"%1: \"%2\" is not allowed; %3"_s.arg(name, Excerpt(value), allowed));
     };
 
     if (given.first.isEmpty())
-        throw refusal("first"_L1, {}, u"give the first name"_s);
+        throw refusal(names.first, {}, u"give the first name"_s);
     if (given.last.isEmpty())
-        throw refusal("last"_L1, {}, u"give the last name"_s);
-    const PersonInput input = WithDateInParts(given, prefix);
+        throw refusal(names.last, {}, u"give the last name"_s);
+    const PersonInput input = WithDateInParts(given, names.date);
     const QString month = MonthName(input.month);
     if (month.isEmpty())
-        throw refusal("month"_L1, input.month,
+        throw refusal(names.month, input.month,
                       u"give an English month name, its abbreviation or a number from 1 to 12"_s);
     const auto day = Number(input.day, 1, 31);
     if (!day)
-        throw refusal("day"_L1, input.day, u"give a number from 1 to 31"_s);
+        throw refusal(names.day, input.day, u"give a number from 1 to 31"_s);
     const auto year = Number(input.year, 1900, 2050);
     if (!year)
-        throw refusal("year"_L1, input.year, u"give a number from 1900 to 2050"_s);
+        throw refusal(names.year, input.year, u"give a number from 1900 to 2050"_s);
 
     UserProfile person = modReadings::Captured({input.first, input.middle, input.last, month,
                                                 QString::number(*day), QString::number(*year)});
-    RefuseTooLong(person, prefix);
-    RefuseEndlessEssence(person, prefix);
+    RefuseTooLong(person, names);
+    RefuseEndlessEssence(person, names);
     return person;
 }

@@ -401,7 +401,7 @@ std::optional<PersonLine> PeopleLines::PersonIn(const CsvRow &row) const {
                             column.input == &PersonInput::middle ||
                             column.input == &PersonInput::last;
         found.person.*column.input =
-            isName ? *text : QString::fromUtf8(WithoutBlanks(row.fields[index]));
+            isName ? *text : FromUtf8(WithoutBlanks(row.fields[index])).value_or(QString());
     }
     if (buffer.GetSize() != 0) {
         further.EndObject();

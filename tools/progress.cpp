@@ -1,14 +1,13 @@
 #include "tools/progress.h"
 
+#include "tools/system.h"
+
 #include <QLocale>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <vector>
-
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -34,13 +33,11 @@ std::string Clock(double seconds) {
 }
 
 std::string Rate(const BatchCount &count, double seconds) {
-    return Grouped(std::llround(static_cast<double>(count.people + count.wrong) / seconds));
-}
-
-/// How wide the terminal behind standard error is at this moment.
-int TerminalColumns() {
-    winsize size{};
-    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+    const double rate = static_cast<double>(count.people + count.wrong) / seconds;
+    const long long tenths = std::llround(rate * 10);
+    if (tenths < 100 && tenths % 10 != 0) // such as PDFs, each of which takes its time
+        return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10);
+    return Grouped(std::llround(rate));
 }
 
 } // namespace
@@ -97,10 +94,9 @@ std::string SummaryLine(const BatchCount &count, double seconds) {
 }
 
 Progress::Progress(long long total, Verbosity verbosity)
-    : total_(total), bar_(verbosity != Verbosity::Quiet && isatty(STDERR_FILENO) == 1),
-      summary_(bar_ || verbosity == Verbosity::Summary),
-      outputIsTerminal_(isatty(STDOUT_FILENO) == 1), start_(std::chrono::steady_clock::now()),
-      next_(start_) {}
+    : total_(total), bar_(verbosity != Verbosity::Quiet && IsTerminal(2)),
+      summary_(bar_ || verbosity == Verbosity::Summary), outputIsTerminal_(IsTerminal(1)),
+      start_(std::chrono::steady_clock::now()), next_(start_) {}
 
 Progress::~Progress() { Clear(); }
 

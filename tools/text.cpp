@@ -22,7 +22,9 @@ std::string_view AsUtf8(std::u16string_view text) {
 std::string ToUtf8(std::u16string_view text) { return std::string(AsUtf8(text)); }
 
 std::optional<QString> FromUtf8(std::string_view bytes) {
-    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // A mark of byte order at the beginning is a character of the text.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
+                                                    QStringDecoder::Flag::ConvertInitialBom);
     QString text = decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
     return decode.hasError() ? std::nullopt : std::optional(std::move(text));
 }

@@ -11,6 +11,11 @@ void WrongLines::Report(long long number, std::size_t file, long long numberInFi
                         const std::string &message) {
     ++count_;
     last_ = number;
+    Remark(number, file, numberInFile, message);
+}
+
+void WrongLines::Remark(long long number, std::size_t file, long long numberInFile,
+                        const std::string &message) {
     progress_.Clear();
     QString place = u"line %1"_s.arg(number);
     if (options_.batchFiles.size() > 1)

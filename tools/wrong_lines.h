@@ -1,6 +1,6 @@
 #pragma once
 
-// What a batch says of its wrong lines.
+// What a batch says of its lines, the wrong ones above all.
 
 #include "tools/options.h"
 #include "tools/progress.h"
@@ -16,6 +16,10 @@ public:
     /// Reports on standard error what is wrong with line `number`, which is `numberInFile` of a
     /// file, and counts it.
     void Report(long long number, std::size_t file, long long numberInFile,
+                const std::string &message);
+
+    /// Tells the same of a line that is not wrong.
+    void Remark(long long number, std::size_t file, long long numberInFile,
                 const std::string &message);
 
     /// Throws Refusal when the line that was reported last is one too many.

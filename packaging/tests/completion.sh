@@ -87,7 +87,7 @@ fish_offers() {
         cut -f 1
 }
 offers fish 'orravane-report --out' '--output --output-dir'
-offers fish 'orravane-report --format ' 'csv json rtf text tsv'
+offers fish 'orravane-report --format ' 'csv html json markdown pdf rtf text tsv'
 offers fish 'orravane-report --completion ' 'bash fish zsh'
 offers fish 'orravane-report --batch peo' 'people.csv'
 offers fish 'orravane-report --output-dir r' 'readings/'

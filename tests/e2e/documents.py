@@ -39,6 +39,22 @@ def difference(one, other):
     return ""
 
 
+def missing_word(expected, found):
+    """Where `expected` leaves `found`, which may have more between its words; empty when all are
+    there in their order."""
+    found = iter(found)
+    for index, word in enumerate(expected):
+        if word not in found:
+            return f"{word!r} behind {' '.join(expected[max(0, index - 8):index])!r}"
+    return ""
+
+
+def words_once(text):
+    """The words of a report as a document has them: a reading that comes back stands once."""
+    lines = dict.fromkeys(line for line in text.splitlines() if line)
+    return [word for line in lines for word in words(line)]
+
+
 def flat_document_lines(path):
     """The paragraphs of a flat OpenDocument text, each a list of (text, bold, colour)."""
     root = xml.etree.ElementTree.parse(path).getroot()
@@ -76,6 +92,20 @@ def flat_document_lines(path):
                 line.append((text, *look))
         lines.append(line)
     return lines
+
+
+def outline_and_lines(path):
+    """The headings of a flat OpenDocument text as (level, text), and all its lines, with plain
+    quotation marks."""
+    def text_of(node):
+        text = "".join(node.itertext()).translate(str.maketrans("\u2018\u2019\u201c\u201d", "''\"\""))
+        return re.sub(r"\s+", " ", text).strip()
+
+    root = xml.etree.ElementTree.parse(path).getroot().find(f"{_OFFICE}body/{_OFFICE}text")
+    outline = [(int(node.get(_TEXT + "outline-level")), text_of(node))
+               for node in root.iter(_TEXT + "h")]
+    lines = [text_of(node) for node in root.iter() if node.tag in (_TEXT + "p", _TEXT + "h")]
+    return outline, [line for line in lines if line]
 
 
 def unrtf_lines(path):

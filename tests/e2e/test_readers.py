@@ -1,13 +1,14 @@
 """The saved files in the hands of other programs: nothing of a report is lost."""
 
+import re
 import shutil
 
 import desktop
 from desktop import Desktop, DesktopTest
-from documents import (PdfText, bold_words, difference, flat_document_lines, pdf_fonts,
-                       unrtf_lines, words)
+from documents import (PdfText, bold_words, difference, flat_document_lines, missing_word,
+                       outline_and_lines, pdf_fonts, unrtf_lines, words, words_once)
 from program import COMPREHENSIVE, TOPICS
-from readings import MARIA, Person, expected_rtf, expected_runs, lines_of, plain_text
+from readings import MARIA, Person, expected_rtf, expected_runs, lines_of, plain_text, tool
 
 # Another person too, whose report has other readings and none in some places.
 JOHN = Person("John", "", "Adams", "October", 29, 1949)
@@ -73,6 +74,45 @@ class Readers(DesktopTest):
             self.assertEqual(unrtf_lines(path), plain_text(runs).split("\n"))
 
         self.for_each_report(check)
+
+
+class Documents(DesktopTest):
+    """What pandoc makes of a document's Markdown, in an office suite."""
+
+    # Its name is full of what Markdown takes for markup.
+    NAMED = Person("*Zo\u00eb* _a_ [x](http://x)", "# <b>&amp; `c` --- $5$ {#i}", "\"O'Neil\" \\\\ ~|^@|~",
+                   "October", 29, 1949)
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Desktop("readers-documents", display=False)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.close)
+        cls.folder = cls.desktop.folder
+        for name, person in (("maria", MARIA), ("named", cls.NAMED)):
+            markdown = cls.folder / (name + ".md")
+            markdown.write_bytes(tool(*person.options(), "--today", DAY, "--format", "markdown"))
+            for ending in ("docx", "odt"):
+                file = cls.folder / f"{name}.{ending}"
+                cls.desktop.run("pandoc", "--from", "markdown", "--output", str(file), str(markdown))
+                shutil.copy(file, cls.desktop.artefact(file.name))
+                cls.desktop.run("soffice", "--headless", "--norestore", "--convert-to", "fodt",
+                                "--outdir", str(cls.folder / ending), str(file), timeout=120)
+
+    def test_headings_are_in_the_outline_and_texts_are_there(self):
+        for name, person in (("maria", MARIA), ("named", self.NAMED)):
+            given = f"{person.first} {person.middle} {person.last}"
+            markdown = (self.folder / (name + ".md")).read_text()
+            headings = [(len(level), " ".join(text.replace("\\", "").split())) for level, text in
+                        re.findall(r"^(#+) (.*) \{#[^}]*\}$", markdown, re.MULTILINE)]
+            self.assertGreater(len(headings), 22)
+            report = words_once(tool(*person.options(), "--today", DAY).decode())
+            for ending in ("docx", "odt"):
+                with self.subTest(name=name, ending=ending):
+                    outline, lines = outline_and_lines(self.folder / ending / (name + ".fodt"))
+                    self.assertEqual(outline, headings)
+                    self.assertEqual(lines[0], given)
+                    self.assertEqual(missing_word(report, words("\n".join(lines))), "")
 
 
 if __name__ == "__main__":

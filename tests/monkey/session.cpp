@@ -277,7 +277,7 @@ void Session::Perform(const Event &event) {
         break;
     case Kind::Key:
         Key(Any(keys, second), third % 5 == 0 ? Qt::ShiftModifier : Qt::NoModifier, {},
-            third % 16 == 3);
+            third % 6 == 3);
         break;
     case Kind::Letter:
         Letter(Any(std::u16string_view(u"PSPSFH"), second));
@@ -784,6 +784,8 @@ void Session::NoteMouse(QObject *watched, QEvent *event) {
     } else if (control == form_.Picture2->RTB->viewport()) {
         if (event->type() != QEvent::MouseButtonDblClick)
             Note({.what = What::PaneMouse});
+        if (mouse->button() == Qt::LeftButton)
+            markingReport_ = !release;
     } else if (control == form_.TV->viewport()) {
         NoteTreeMouse(event);
     }
@@ -1024,6 +1026,10 @@ void Session::CompareFocus() {
 void Session::CompareClipboard() {
     const QMimeData *content = QApplication::clipboard()->mimeData();
     const bool empty = content == nullptr || content->formats().isEmpty();
+    // While text is marked with the mouse beside the pane, the toolkit scrolls the pane by a timer,
+    // and takes each time for a move of the mouse.
+    if (markingReport_ && empty)
+        model_.clipboard.reset();
     Check("the clipboard is empty", empty, !model_.clipboard);
     if (!empty && model_.clipboard)
         Check("clipboard", content->text(), *model_.clipboard);

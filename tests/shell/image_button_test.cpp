@@ -1,3 +1,4 @@
+#include "shell/artwork.h"
 #include "shell/image_list.h"
 #include "tests/shell/window_test.h"
 
@@ -53,8 +54,8 @@ private slots:
             QCOMPARE(ImageList::Key(2 * index + 2), words[index] + u"-hyper"_s);
             const QSize size = buttons_[index]->size();
             for (const qreal ratio : {1.0, 2.0}) {
-                const QPixmap quiet = RenderArtwork(ImageList::Key(2 * index + 1), size * ratio);
-                const QPixmap bright = RenderArtwork(ImageList::Key(2 * index + 2), size * ratio);
+                const QPixmap quiet = LoadArtwork(ImageList::Key(2 * index + 1), size * ratio);
+                const QPixmap bright = LoadArtwork(ImageList::Key(2 * index + 2), size * ratio);
                 QCOMPARE(quiet.size(), size * ratio);
                 QCOMPARE(bright.size(), size * ratio);
                 QVERIFY(Brightness(bright) > Brightness(quiet) + 0.05);
@@ -69,7 +70,7 @@ private slots:
                 QImage expected(button->size(), QImage::Format_ARGB32_Premultiplied);
                 expected.fill(Qt::transparent);
                 QPainter(&expected).drawPixmap(
-                    0, 0, RenderArtwork(ImageList::Key(position), button->size()));
+                    0, 0, LoadArtwork(ImageList::Key(position), button->size()));
                 QImage shown(button->size(), QImage::Format_ARGB32_Premultiplied);
                 shown.fill(Qt::transparent);
                 button->render(&shown, {}, {}, QWidget::RenderFlags());

@@ -1,4 +1,4 @@
-#include "shell/image_list.h"
+#include "shell/artwork.h"
 #include "shell/style.h"
 #include "tests/shell/window_test.h"
 
@@ -271,9 +271,10 @@ private slots:
             for (const QAbstractButton *button : box.buttons())
                 QVERIFY(button->icon().isNull());
             const QImage sign = box.iconPixmap().toImage().convertToFormat(QImage::Format_ARGB32);
+            QCOMPARE(sign.size(), QSize(48, 48)); // that of the drawing
             QCOMPARE(
                 sign,
-                RenderArtwork(name, sign.size()).toImage().convertToFormat(QImage::Format_ARGB32));
+                LoadArtwork(name, sign.size()).toImage().convertToFormat(QImage::Format_ARGB32));
             const QIcon drawn = QApplication::style()->standardIcon(
                 icon == QMessageBox::Critical ? QStyle::SP_MessageBoxCritical
                                               : QStyle::SP_MessageBoxWarning);
@@ -283,7 +284,7 @@ private slots:
             for (const QColor &ground : {QColor(0xEF, 0xEF, 0xEF), QColor(0x2D, 0x2D, 0x2D)}) {
                 QImage picture(64, 64, QImage::Format_RGB32);
                 picture.fill(ground);
-                QPainter(&picture).drawPixmap(0, 0, RenderArtwork(name, {64, 64}));
+                QPainter(&picture).drawPixmap(0, 0, LoadArtwork(name, {64, 64}));
                 int seen = 0;
                 for (int y = 0; y < 64; ++y)
                     for (int x = 0; x < 64; ++x)

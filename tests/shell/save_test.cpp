@@ -1,16 +1,19 @@
 #include "report/rtf.h"
+#include "tests/shell/file_dialog.h"
 #include "tests/shell/window_test.h"
 
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QSettings>
 
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 // The report as a file, through the real save dialog.
 
@@ -36,30 +39,32 @@ private:
     rlimit before_{};
 };
 
+/// As long as this lives, the disk fails when bytes have to be on it.
+class BrokenDisk {
+public:
+    BrokenDisk() { isBroken = true; }
+    ~BrokenDisk() { isBroken = false; }
+    Q_DISABLE_COPY_MOVE(BrokenDisk)
+
+    static inline bool isBroken = false;
+};
+
+} // namespace
+
+/// Stands in for the system's own, for the program and the toolkit alike.
+extern "C" int fsync(int descriptor) {
+    if (!BrokenDisk::isBroken)
+        return static_cast<int>(syscall(SYS_fsync, descriptor));
+    errno = EIO;
+    return -1;
+}
+
+namespace {
+
 void Write(const QString &path, const QByteArray &content) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
-}
-
-QLineEdit *NameBoxOf(QDialog &dialog) {
-    auto *box = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
-    if (box == nullptr)
-        qFatal("the dialog has no box for the name");
-    return box;
-}
-
-void Press(QDialog &dialog, QDialogButtonBox::StandardButton button) {
-    QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(button), Qt::LeftButton);
-}
-
-void Cancel(QDialog &dialog) { Press(dialog, QDialogButtonBox::Cancel); }
-
-/// Puts a whole name into the dialog and presses Save. Typed key by key it would have the
-/// dialog's list of completions drop down, which is a window of its own.
-void SaveAs(QDialog &dialog, const QString &path) {
-    NameBoxOf(dialog)->setText(path);
-    Press(dialog, QDialogButtonBox::Save);
 }
 
 } // namespace
@@ -339,6 +344,20 @@ private slots:
         QCOMPARE(ReportText(), report);
         QCOMPARE(Page(), u"Picture2"_s);
         QVERIFY(form.isVisible());
+    }
+
+    void ADiskThatTellsOfItsFailureAtTheEndLeavesTheEarlierFileWhole() {
+        const QString path = PathOf(u"report.rtf"_s);
+        Write(path, "an earlier report");
+        {
+            const BrokenDisk disk;
+            Replace(path);
+            SaveUnder(PathOf(u"another.rtf"_s));
+        }
+        QCOMPARE(ContentOf(path), QByteArray("an earlier report"));
+        QCOMPARE(Files(), QStringList{u"report.rtf"_s});
+        Replace(path);
+        QVERIFY(IsTheReport(path));
     }
 
     void AFullDiskLeavesTheEarlierFileWhole() {

@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace modReadings {
@@ -18,7 +19,8 @@ inline bool operator==(const Ink &a, const Ink &b) {
     return a.red == b.red && a.green == b.green && a.blue == b.blue;
 }
 
-/// One character as a reader shows it. A paragraph's end mark is a plain line feed.
+/// One character as a reader shows it. A paragraph's end mark is a plain line feed, a page break
+/// a plain form feed.
 struct RtfCharacter {
     char16_t unit = 0;
     bool bold = false;
@@ -183,6 +185,8 @@ private:
             Put(u'\t');
         } else if (word == "par") {
             document_.characters.push_back({u'\n', false, {}});
+        } else if (word == "page") {
+            document_.characters.push_back({u'\f', false, {}});
         } else {
             Fail("the unknown control word " + word);
         }

@@ -7,9 +7,36 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <functional>
 
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 #include <zlib.h>
+
+namespace {
+
+/// As long as this lives, the system has no room for messages between processes.
+class NoRoomForMessages {
+public:
+    NoRoomForMessages() { isThere = true; }
+    ~NoRoomForMessages() { isThere = false; }
+    NoRoomForMessages(const NoRoomForMessages &) = delete;
+    NoRoomForMessages &operator=(const NoRoomForMessages &) = delete;
+
+    static inline bool isThere = false;
+};
+
+} // namespace
+
+/// Stands in for the system's own.
+extern "C" ssize_t send(int socket, const void *bytes, std::size_t count, int flags) {
+    if (!NoRoomForMessages::isThere)
+        return syscall(SYS_sendto, socket, bytes, count, flags, nullptr, 0);
+    errno = ENOBUFS;
+    return -1;
+}
 
 namespace {
 
@@ -98,6 +125,41 @@ TEST_F(BatchJobs, GiveTheBytesOfOneInEveryForm) {
             EXPECT_EQ(std::ranges::count(seen.err, '\n'), 3000 / 7 + 1);
             EXPECT_GT(seen.out.size(), 100'000U);
         }
+}
+
+TEST_F(BatchJobs, ExplainAsOneDoes) {
+    Make("people", Rows(300));
+    for (const Format format : {Format::Json, Format::Text}) {
+        Options options = Of({"people"});
+        options.format = format;
+        options.explain = true;
+        EXPECT_EQ(Same(options).code, 1);
+    }
+}
+
+// A name in decomposed letters is told of in its place among the wrong lines, but is none.
+TEST_F(BatchJobs, TellOfDecomposedNamesAsOneDoes) {
+    std::string people;
+    for (int index = 0; index < 40; ++index)
+        people += index % 8 == 5 ? "{}\n"
+                                 : R"({"first":"Zoe\u0301","last":"Lee","birthdate":"1990-03-07"})"
+                                   "\n";
+    Make("people", people);
+    Options options = Of({"people"});
+    Seen seen = Same(options);
+    EXPECT_EQ(std::ranges::count(seen.err, '\n'), 40);
+    ExpectLine(seen.err.substr(0, seen.err.find('\n')), {"line 1: first: not in composed letters"});
+    EXPECT_NE(seen.err.find("line 6: first is missing"), std::string::npos);
+    options.maxErrors = 2; // the second wrong line is the 14th
+    seen = Same(options);
+    EXPECT_EQ(std::ranges::count(seen.err, '\n'), 14);
+
+    options.maxErrors.reset();
+    options.normalize = true;
+    seen = Same(options);
+    EXPECT_EQ(std::ranges::count(seen.err, '\n'), 5); // the wrong lines
+    EXPECT_EQ(seen.err.find("composed"), std::string::npos);
+    EXPECT_NE(seen.out.find("ZO\u00C9"), std::string::npos);
 }
 
 TEST_F(BatchJobs, GiveTheFilesOfOne) {
@@ -207,6 +269,16 @@ TEST_F(BatchJobs, ReportAnOutputThatCannotBeWritten) {
         EXPECT_EQ(seen.code, 3);
         EXPECT_NE(seen.refusal.find("/dev/full: No space left"), std::string::npos) << seen.refusal;
     }
+}
+
+// A worker that lives but cannot be told anything would be waited for without end.
+TEST_F(BatchJobs, EndWhereAWorkerCannotBeReached) {
+    Make("people", "{}\n");
+    const NoRoomForMessages none;
+    const Seen seen = Run(Of({"people"}), 2);
+    EXPECT_EQ(seen.code, 3);
+    EXPECT_EQ(seen.refusal,
+              "--jobs: a process cannot be told what to do (No buffer space available)");
 }
 
 } // namespace

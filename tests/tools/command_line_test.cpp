@@ -10,6 +10,8 @@
 #include "tools/help.h"
 #include "version.h"
 
+#include <QJsonArray>
+
 #include <gtest/gtest.h>
 
 #include <ctime>
@@ -44,6 +46,31 @@ TEST(CommandLine, PrintsTheTopicsAskedForInTheirOrder) {
     ExpectGood(run);
     EXPECT_TRUE(run.out.starts_with("Your Soul Urge Or Heart's Desire Number is: ")) << run.out;
     EXPECT_NE(run.out.find("\n\nYour BirthDay Number is: 7\n\n"), std::string::npos) << run.out;
+}
+
+TEST(CommandLine, PrintsHowTheNumbersComeAbout) {
+    const Finished run = RunProgram(ann + Arguments{"--explain", "--topic", "Life Path Number"});
+    ExpectGood(run);
+    EXPECT_TRUE(run.out.starts_with("ANN LEE\nBorn March 7, 1990\nRead for November 16, 2026\n"));
+    EXPECT_TRUE(run.out.ends_with("Life Path Number: 2\n"
+                                  "  day of birth      7\n"
+                                  "  month of birth    March counts 3\n"
+                                  "  year of birth     1990: 1 + 9 + 9 + 0 = 19, 1 + 9 = 10\n"
+                                  "  Life Path Number  7 + 3 + 10 = 20, 2 + 0 = 2\n"))
+        << run.out;
+    const Finished json = RunProgram(ann + Arguments{"--explain", "--format", "json"});
+    ExpectGood(json);
+    EXPECT_EQ(ParseObject(Lines(json.out).at(0))["topics"].toArray().size(), 22);
+}
+
+TEST(CommandLine, TellsOfANameInDecomposedLetters) {
+    const Arguments zoe{"--first", "Zoe\u0301",  "--last",  "Lee",
+                        "--date",  "1990-03-07", "--topic", "Birthday Number"};
+    const Finished run = RunProgram(zoe);
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(run.out.starts_with("Your BirthDay Number is: 7\n"));
+    ExpectOneLine(run.err, {"--first: not in composed letters", "--normalize"});
+    ExpectGood(RunProgram(zoe + Arguments{"--normalize"}));
 }
 
 TEST(CommandLine, PrintsTheBookHelpAndVersion) {

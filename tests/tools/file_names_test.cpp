@@ -58,6 +58,7 @@ TEST(FileNames, HoldNothingThatAFileSystemOrATerminalTakesAmiss) {
 TEST(FileNames, AreNoLongerThan255Bytes) {
     for (const QString &letter : {u"A"_s, u"Ä"_s, u"€"_s, u"😀"_s})
         for (const QString &pattern : {u"{first}-{line}"_s, u"{line}_{first}{last}{first}"_s,
+                                       u"{line}-"_s + u"{line}"_s.repeated(13) + u"{first}"_s,
                                        QString(80, 'x') + "{last}-{line}"}) {
             const QString name =
                 FileNames(pattern).Of(Named(letter.repeated(400), {}, letter.repeated(300)),
@@ -82,11 +83,26 @@ TEST(FileNames, RefuseATemplateThatCouldGiveOneNameToTwoPeopleOrLeaveTheFolder) 
              {"../{line}", "cannot stand in the name"},
              {"a\\{line}", "cannot stand in the name"},
              {"a\n-{line}", "cannot stand in the name"},
+             {QString(QChar(0xDC00)) + "-{line}", "cannot stand in the name"},
+             {QString(QChar(0xD83D)) + "{first}" + QChar(0xDE00) + "-{line}",
+              "cannot stand in the name"},
              {"{day}-{line}", "in braces stand first, middle, last or line"},
              {"{-{line}", "in braces"},
-             {QString(100, 'x') + "-{line}", "longer than 100 bytes"}})
+             {"{line}-{li{first}ne}", "in braces"},
+             {QString(100, 'x') + "-{line}", "longer than 100 bytes"},
+             // 16 times a number of up to 16 digits
+             {"{line}-" + QString("{line}").repeated(15), "longer than 255 bytes"}})
         ExpectLine(RefusalOf([&, text = pattern] { FileNames names(text); }),
                    {"--name-template: \"", part});
+}
+
+TEST(SafeFileName, KeepsTheRulesOfAllNames) {
+    EXPECT_EQ(SafeFileName("Zo\u00EB van der Wal", ".pdf"), u"Zo\u00EB van der Wal.pdf");
+    EXPECT_EQ(SafeFileName("../a: b?", ".pdf"), u"_.._a_ b_.pdf");
+    EXPECT_EQ(SafeFileName("nul", ".md"), u"_nul.md");
+    EXPECT_EQ(SafeFileName("", ".md"), u"_.md");
+    // One of 255 bytes is kept free for a "_" in front, and a letter of two is not cut.
+    EXPECT_EQ(SafeFileName(QString(300, u'\u00EB'), ".html").toUtf8().size(), 253);
 }
 
 } // namespace

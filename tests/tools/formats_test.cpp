@@ -34,6 +34,12 @@ PersonReading Everything() {
                       captions);
 }
 
+TEST(HeadOf, HasTheNameAsItIs) {
+    modReadings::UserProfile person{u"\uFEFFANN\n", u"M", u"\uFEFFLEE", u"March", u"7", u"1990"};
+    EXPECT_EQ(HeadOf(person, std::chrono::year(2026) / 11 / 21).front().text,
+              u"\uFEFFANN\\n M \uFEFFLEE");
+}
+
 TEST(ReadingAsText, HasPlainBreaksAndAnEmptyLineBetweenTopics) {
     EXPECT_EQ(ReadingAsText(TwoTopics()), "Heading: 3\n\nText\nof it\n\nOther\n\n");
     EXPECT_EQ(ReadingAsText({}), "");

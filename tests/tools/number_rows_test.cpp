@@ -145,6 +145,12 @@ TEST_F(NumberRows, QuoteInCsvAloneAndStayOneLine) {
     EXPECT_TRUE(tsv.ends_with("\t{\"id\":\"a,b\"}\t\n")) << tsv;
     for (const std::string &row : {csv, tsv})
         EXPECT_EQ(std::ranges::count(row, '\n'), 1);
+    // A mark of byte order is a character of a name like any other.
+    UserProfile marked = odd;
+    marked.FirstName = u"\uFEFFANN";
+    EXPECT_TRUE(NumbersAsRow(Format::Csv, marked, {3, {}})
+                    .starts_with("3,\xEF\xBB\xBF"
+                                 "ANN,"));
 }
 
 } // namespace

@@ -88,11 +88,12 @@ TEST(Completion, HasEveryOptionForEveryShell) {
 // A value that a shell offers is one that the program takes.
 TEST(Completion, OffersTheFormatsAndShellsThereAre) {
     const std::string script = CompletionFor(Shell::Fish);
-    for (const char *format : {"text", "json", "rtf"})
+    for (const char *format : {"text", "json", "rtf", "html", "pdf", "markdown"})
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--format", format}));
     for (const char *format : {"csv", "tsv"})
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--numbers", "--format", format}));
-    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf csv tsv'"), std::string::npos)
+    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf html pdf markdown csv tsv'"),
+              std::string::npos)
         << script;
     for (const char *shell : {"bash", "zsh", "fish"})
         EXPECT_TRUE(ShellFrom(shell)) << shell;

@@ -128,6 +128,27 @@ TEST(ParseOptions, OfTheHead) {
     EXPECT_FALSE(Parsed(batch).head);
 }
 
+TEST(ParseOptions, OfAnExplanation) {
+    EXPECT_FALSE(Parsed({"--batch", "p"}).explain);
+    EXPECT_TRUE(Parsed({"--explain"}).explain);
+    EXPECT_EQ(Parsed({"--explain"}).format, Format::Text);
+    EXPECT_EQ(Parsed({"--explain", "-f", "json"}).format, Format::Json);
+    EXPECT_EQ(Parsed({"--batch", "p", "--explain"}).format, Format::Json);
+    EXPECT_EQ(Parsed({"--batch", "p", "--explain", "--output-dir", "d"}).format, Format::Text);
+    ExpectWrong({"--explain", "-f", "rtf"}, {"--format: \"rtf\" does not go with --explain"});
+    ExpectWrong({"--explain", "-f", "csv"}, {"--format: \"csv\" goes with --numbers only"});
+    for (const std::string other : {"--numbers", "--head", "--no-head"})
+        ExpectWrong({"--explain", other}, {other, "does not go with --explain"});
+    ExpectWrong({"--book", "--explain"}, {"--explain does not go with --book"});
+}
+
+TEST(ParseOptions, TakesNamesToBeComposed) {
+    EXPECT_FALSE(Parsed({"--numbers"}).normalize);
+    EXPECT_TRUE(Parsed({"--numbers", "--normalize"}).normalize);
+    EXPECT_TRUE(Parsed({"--batch", "p", "--normalize"}).normalize);
+    ExpectWrong({"--book", "--normalize"}, {"--normalize does not go with --book"});
+}
+
 TEST(ParseOptions, OfTheBookHelpAndVersion) {
     const Options book = Parsed({"--book", "--format", "json", "--output", "f"});
     EXPECT_EQ(book.task, Options::Task::Book);
@@ -190,7 +211,17 @@ constexpr std::pair<const char *, const char *> valued[]{
     {"--batch", "FILE"},       {"--output-dir", "DIR"},
     {"--date", "YYYY-MM-DD"},  {"--first-line", "N"},
     {"--max-errors", "N"},     {"--delimiter", "CHAR"},
-    {"--jobs", "N"},           {"--name-template", "TEMPLATE"}};
+    {"--jobs", "N"},           {"--name-template", "TEMPLATE"},
+    {"--paper", "a4"}};
+
+TEST(ParseOptions, PaperGoesWithPdf) {
+    EXPECT_EQ(Parsed(ann + Arguments{"--format", "pdf"}).paper, Paper::A4);
+    EXPECT_EQ(Parsed(ann + Arguments{"--format", "pdf", "--paper", "letter"}).paper, Paper::Letter);
+    ExpectWrong(ann + Arguments{"--format", "pdf", "--paper", "A5"},
+                {"--paper: \"A5\"", "a4 or letter"});
+    ExpectWrong(ann + Arguments{"--format", "html", "--paper", "a4"},
+                {"--paper", "format pdf only"});
+}
 
 TEST(ParseOptions, TellsWhichValueIsMissing) {
     for (const auto &[option, allowed] : valued)
@@ -259,7 +290,7 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
         std::vector<std::string> wrong;
     };
     for (const auto &[option, allowed, wrong] : std::vector<Values>{
-             {"--format", "text, json or rtf", {"", "html", "JSON", "te\nxt"}},
+             {"--format", "text, json, rtf, html, pdf or markdown", {"", "docx", "JSON", "te\nxt"}},
              {"--topic",
               "--list-topics",
               {"", "Lucky Number", "Essence ", "Ess\nence", "Destiny / Expression Number",

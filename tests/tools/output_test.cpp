@@ -149,6 +149,17 @@ TEST_F(OutputTest, KeepsTheModeOfTheFileItReplaces) {
     umask(mask);
 }
 
+// A file that cannot be looked at may be there: nothing is put in its place.
+TEST_F(OutputTest, RefusesAPlaceThatCannotBeLookedAt) {
+    Make("file", "before");
+    std::filesystem::create_symlink("loop", Path("loop"));
+    for (const auto &[name, reason] : {std::pair("file/report", "Not a directory"),
+                                       {"loop", "Too many levels of symbolic links"}})
+        ExpectLine(RefusalOf([&] { Output{File(name)}; }, ExitCode::CannotReadOrWrite),
+                   {"--output: " + Shown(Path(name)) + ": " + reason});
+    EXPECT_TRUE(std::filesystem::is_symlink(Path("loop")));
+}
+
 TEST_F(OutputTest, InAFolderFollowsNoLinkAndWaitsForNoPipe) {
     Make("precious", "mine");
     std::filesystem::create_directory(Path("d"));

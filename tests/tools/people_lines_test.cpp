@@ -128,6 +128,12 @@ TEST(PeopleLines, ReadTheMembersOfAnObject) {
              {R"({"year":1990,"last":"Lee","day":"7","first":"Ann"})", "Ann||Lee||7|1990"},
              {R"(  { "first" : "\u0041nn" , "last":"Le\u0065" }  )", "Ann||Lee|||"},
              {R"({"first":"A\ud83d\ude00\t","last":"\"\\\/Lee 😀"})", "A😀\t||\"\\/Lee 😀|||"},
+             // A mark of byte order is a character of a name like any other.
+             {"{\"first\":\"\xEF\xBB\xBF"
+              "A\",\"last\":\"\\ufeffB\"}",
+              "\xEF\xBB\xBF"
+              "A||\xEF\xBB\xBF"
+              "B|||"},
              // Whether a person may be so is not looked at here.
              {R"({"year":0,"day":-7,"first":"a\tb"})", "a\tb||||-7|0"},
              {R"({"middle":null,"last":null,"day":null,"first":"A"})", "A|||||"},
@@ -217,6 +223,10 @@ TEST(PeopleLines, ReadTheFieldsOfARow) {
              {R"("1990"," A,n ","""L""",,)", " A,n ||\"L\"|||1990"},
              {R"( 1990 ,Ann,Lee,	 3," 7 ")", "Ann||Lee|3|7|1990"},
              {"1990,Zoë 😀,O'Neil,3,7", "Zoë 😀||O'Neil|3|7|1990"},
+             {"1990,\xEF\xBB\xBF"
+              "Ann,Lee,3,7",
+              "\xEF\xBB\xBF"
+              "Ann||Lee|3|7|1990"},
              {"1990,{Ann}, Lee  Ray ,3,7", "{Ann}|| Lee  Ray |3|7|1990"}})
         EXPECT_EQ(reader.Parse(line), inputs);
     EXPECT_EQ(Reader("middle,year,day,month,last,first").Parse("M,1990,7,3,Lee,Ann"),

@@ -19,7 +19,7 @@ protected:
     }
 
     static std::string Refused(const PersonInput &input) {
-        return RefusalOf([&] { CheckPerson(input, "--"); });
+        return RefusalOf([&] { CheckPerson(input, InputNames(QStringLiteral("--"))); });
     }
 
     modReadings::FixedClock clock_{std::chrono::year(2026) / 11 / 16};
@@ -201,6 +201,31 @@ TEST_F(CheckPersonTest, SparesNamesWithOneLetterThatCounts) {
                                              {"ß", "", "Lee"},
                                              {"Ann", "   ", "Lee"}})
         EXPECT_NO_THROW(CheckPerson({first, middle, last, "3", "7", "1900"}));
+}
+
+// "é" in one letter has no value; in two it is an E and an accent.
+TEST_F(CheckPersonTest, ReadsANameComposedWhenItIsToldTo) {
+    const PersonInput typed{"Zoe\u0301", "Ae\u0301", "Le\u0301e", "March", "7", "1990"};
+    EXPECT_EQ(CheckPerson(typed).FirstName, u"ZOE\u0301");
+    const UserProfile composed = CheckPerson(Composed(typed));
+    EXPECT_EQ(composed.FirstName, u"ZO\u00C9");
+    EXPECT_EQ(composed.MiddleName, u"A\u00C9");
+    EXPECT_EQ(composed.LastName, u"L\u00C9E");
+    EXPECT_EQ(composed.BirthMonth, u"March");
+}
+
+TEST(DecomposedRemark, IsThereOnlyWhereComposingChangesTheCapturedName) {
+    const auto remark = [](const QString &first, const QString &middle, const QString &last) {
+        return DecomposedRemark({first, middle, last, "March", "7", "1990"},
+                                InputNames(QString("--")))
+            .toStdString();
+    };
+    for (const char *composed : {"Anna", "Zo\u00E9", "O'Neil-2", "\u0416\u0425", "Q\u0301"})
+        EXPECT_EQ(remark(composed, "", composed), "");
+    ExpectLine(remark("Zoe\u0301", "", "Lee"), {"--first: not in composed letters", "--normalize"});
+    ExpectLine(remark("Ann", "N\u0303", "Lee\u0308"), {"--middle, --last: "});
+    // The Kelvin sign looks like a K and has no value; composed it is one.
+    ExpectLine(remark("Ann", "", "\u212Aent"), {"--last: "});
 }
 
 } // namespace

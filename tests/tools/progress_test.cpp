@@ -88,13 +88,16 @@ TEST(SummaryLine, CountsPeopleAndWrongLines) {
               "49,990 people, 10 wrong lines, 25.0 s, 2,000 a second");
     EXPECT_EQ(SummaryLine({9, 1, 1}, 0.04), "1 person, 1 wrong line, 0.0 s");
     EXPECT_EQ(SummaryLine({9, 7322, 0}, 3661), "7,322 people, 0 wrong lines, 1:01:01, 2 a second");
+    // Few in a second get a digit more: 12 in 8 seconds, 12 in a minute.
+    EXPECT_EQ(SummaryLine({9, 12, 0}, 8), "12 people, 0 wrong lines, 8.0 s, 1.5 a second");
+    EXPECT_EQ(SummaryLine({9, 12, 0}, 60), "12 people, 0 wrong lines, 1:00, 0.2 a second");
 }
 
 class ProgressBar : public FolderTest {};
 
 void ExpectSummary(const std::string &line, const std::string &counts) {
     EXPECT_TRUE(std::regex_match(
-        line, std::regex("orravane-report: " + counts + R"(, [0-9.]+ s(, [0-9,]+ a second)?)")))
+        line, std::regex("orravane-report: " + counts + R"(, [0-9.]+ s(, [0-9.,]+ a second)?)")))
         << line;
 }
 

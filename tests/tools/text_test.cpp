@@ -24,6 +24,7 @@ TEST(ToUtf8, ReplacesASurrogateWithoutItsPartner) {
 TEST(FromUtf8, TakesUtf8Alone) {
     EXPECT_EQ(FromUtf8("Zoë 😀"), QString("Zoë 😀"));
     EXPECT_EQ(FromUtf8("\xEF\xBF\xBD"), QString(QChar(0xFFFD))); // is a character like others
+    EXPECT_EQ(FromUtf8("\xEF\xBB\xBF"), QString(QChar(0xFEFF))); // and so is this
     // Latin 1, a stray byte, sequences cut short, an overlong one and a surrogate.
     for (const char *bytes :
          {"Zo\xEB", "A\xFF", "A\xC3", "A\xF0\x9F\x98", "A\xC0\xAF", "A\xED\xA0\xBD"})

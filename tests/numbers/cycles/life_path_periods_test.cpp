@@ -1,5 +1,6 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
+#include "numbers/life_path_periods.h"
 #include "numbers/readings.h"
 #include "tests/support/fresh_store.h"
 #include "tests/support/longhand.h"
@@ -162,6 +163,12 @@ TEST_F(LifePathPeriods, BadYearLeavesTheFirstTwoNumbersNew) {
         EXPECT_EQ(WrittenBeforeFailure(CalcLifePathPeriods),
                   SlotsOf({"PeriodNumber", "PeriodStage"}));
     }
+}
+
+TEST(LifePathPeriodsAges, AreThoseOfTheRootsRow) {
+    EXPECT_EQ(AgesOfPeriods(1), (std::array<Ages, 3>{{{0, 26}, {27, 53}, {54, Ages::open}}}));
+    EXPECT_EQ(AgesOfPeriods(4), (std::array<Ages, 3>{{{0, 23}, {24, 59}, {60, Ages::open}}}));
+    EXPECT_EQ(AgesOfPeriods(0), std::nullopt);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "core/proceed_pass.h"
 #include "numbers/calculators.h"
+#include "numbers/pinnacles.h"
 #include "tests/support/fresh_store.h"
 #include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
@@ -133,6 +134,22 @@ TEST_F(Pinnacles, NameThatEndsInADigitBendsTheMonthFromTheNextRunOn) {
     EXPECT_EQ(store.PinnacleNumber1, 1);
     // The 2 stands for February, which comes before March: 9; 1997; 17; 1992 with digits 21.
     EXPECT_EQ(Of(u"7", u"March", u"1990"), (Four{9, 8, 8, 3}));
+}
+
+// What stands in the lines, and nothing else.
+static_assert(AgesNamedIn(u"First Pinnacle from age 0-35 years is ") == Ages{0, 35});
+static_assert(AgesNamedIn(u"Fourth Pinnacle from age 54 & beyond is ") == Ages{54, Ages::open});
+static_assert(AgesNamedIn(u"Life Path Period 2 from age 27 - 53 is ") == Ages{27, 53});
+static_assert(AgesNamedIn(u"Life Path Period 3 from age 54 on is ") == Ages{54, Ages::open});
+static_assert(Ages{30, 38}.Hold(30) && Ages{30, 38}.Hold(38));
+static_assert(!Ages{30, 38}.Hold(29) && !Ages{30, 38}.Hold(39));
+
+TEST(PinnacleAges, AreThoseOfTheLineOfPositionAndValue) {
+    EXPECT_EQ(AgesOfPinnacle(0, 9), (Ages{0, 27}));
+    EXPECT_EQ(AgesOfPinnacle(1, 5), (Ages{32, 40}));
+    EXPECT_EQ(AgesOfPinnacle(2, 22), (Ages{42, 50}));
+    EXPECT_EQ(AgesOfPinnacle(3, 11), (Ages{53, Ages::open}));
+    EXPECT_EQ(AgesOfPinnacle(0, 10), std::nullopt);
 }
 
 TEST_F(Pinnacles, ValueWithoutARowLeavesOnlyItsOwnLineAndReading) {

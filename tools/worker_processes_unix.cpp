@@ -32,14 +32,21 @@ bool SendAll(int descriptor, const WorkerMessage &message) {
     return sent == sizeof message;
 }
 
-/// Returns false when the other end is gone, or, without waiting, when nothing is there.
+/// Returns false, with errno, when the other end is gone, or, without waiting, when nothing is
+/// there.
 bool ReceiveAll(int descriptor, WorkerMessage &message, bool wait) {
     ssize_t received = 0;
     do
         received = recv(descriptor, &message, sizeof message, wait ? 0 : MSG_DONTWAIT);
     while (received < 0 && errno == EINTR);
+    if (received == 0)
+        errno = ECONNRESET;
     return received == sizeof message;
 }
+
+/// Whether errno says that the other end is gone. Otherwise it is there, and waiting for its end
+/// would take for ever.
+bool IsOtherEndGone() { return errno == EPIPE || errno == ECONNRESET; }
 
 } // namespace
 
@@ -148,8 +155,11 @@ void WorkerProcesses::HasDied(Worker &worker) {
 }
 
 void WorkerProcesses::Send(std::size_t worker, const WorkerMessage &message) {
-    if (!SendAll(workers_[worker].descriptor, message))
-        HasDied(workers_[worker]);
+    if (SendAll(workers_[worker].descriptor, message))
+        return;
+    if (!IsOtherEndGone())
+        throw Failure(u"a process cannot be told what to do"_s);
+    HasDied(workers_[worker]);
 }
 
 WorkerProcesses::Received WorkerProcesses::Receive() {
@@ -165,9 +175,11 @@ WorkerProcesses::Received WorkerProcesses::Receive() {
         if (ends[worker].revents == 0)
             continue;
         WorkerMessage message;
-        if (!ReceiveAll(workers_[worker].descriptor, message, true))
-            HasDied(workers_[worker]);
-        return {worker, message};
+        if (ReceiveAll(workers_[worker].descriptor, message, true))
+            return {worker, message};
+        if (!IsOtherEndGone())
+            throw Failure(u"a process cannot be heard"_s);
+        HasDied(workers_[worker]);
     }
     throw Failure(u"the processes cannot be waited for"_s);
 }

@@ -25,10 +25,6 @@ constexpr double silenceSeconds = 5; // a server that says nothing for longer is
 
 // Lengths are in hundredths of a millimetre, as the library has them.
 
-/// No margin is narrower, even where the printer would reach the edge: paper is never fed
-/// quite straight, and letters at the edge would be lost. A quarter of an inch, which most
-/// printers keep to themselves.
-constexpr int narrowestMargin = 635;
 /// Papers that differ by less than this are one: sizes are also told in rounded points.
 constexpr int sameSize = 200;
 

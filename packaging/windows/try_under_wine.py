@@ -1,0 +1,437 @@
+#!/usr/bin/env python3
+"""Tries what build.sh has made under Wine. Called by test.sh, from the root of the project."""
+
+import json
+import os
+import pathlib
+import pty
+import random
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+ROOT = pathlib.Path.cwd()
+BUILT = ROOT / "build/windows"
+RELEASE = BUILT / "release"
+PICTURES = BUILT / "pictures"
+LINUX_TOOL = ROOT / "build/release/tools/orravane-report"
+VERSION = re.search(r"VERSION ([0-9.]+)", (ROOT / "CMakeLists.txt").read_text()).group(1)
+ARCHIVE = RELEASE / f"orravane-{VERSION}-windows.zip"
+SETUP = RELEASE / f"orravane-{VERSION}-windows-setup.exe"
+HOST = "www.orravane.example"
+
+
+def wait_for(what, ready, seconds=60):
+    """What `ready` returns as soon as it is true."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        if result := ready():
+            return result
+        time.sleep(0.2)
+    raise AssertionError(f"waited in vain for {what}")
+
+
+class Machine:
+    """A display of its own and a Windows of its own on it."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orravane-wine-"))
+        read, write = os.pipe()
+        self.display = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0",
+                                         "1280x1024x24"], pass_fds=[write],
+                                        stderr=subprocess.DEVNULL)
+        os.close(write)
+        number = os.read(read, 16).decode().strip()
+        self.env = dict(os.environ, DISPLAY=f":{number}", WINEPREFIX=str(self.folder / "prefix"),
+                        WINEARCH="win64", WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree=;mshtml=",
+                        LC_ALL="C.UTF-8", HOME=str(self.folder))
+        self.manager = subprocess.Popen(["openbox"], env=self.env, stderr=subprocess.DEVNULL)
+        self.wine("wineboot", "-i")
+        self.home = next((self.folder / "prefix/drive_c/users").glob("[!P]*"))
+        # Whatever is opened in a browser is written down.
+        self.pages = self.folder / "pages"
+        browser = self.folder / "browser.sh"
+        browser.write_text(f'#!/bin/sh\necho "$*" >>"{self.pages}"\n')
+        browser.chmod(0o755)
+        for scheme in ("http", "https"):
+            self.wine("reg", "add", f"HKCR\\{scheme}\\shell\\open\\command", "/ve", "/d",
+                      f'winebrowser "%1"', "/f")
+        self.wine("reg", "add", r"HKCU\Software\Wine\WineBrowser", "/v", "Browsers", "/d",
+                  str(browser), "/f")
+        with zipfile_of(ARCHIVE) as archive:
+            archive.extractall(self.folder)
+        self.portable = self.folder / f"orravane-{VERSION}"
+
+    def close(self):
+        subprocess.run(["wineserver", "-k"], env=self.env, stderr=subprocess.DEVNULL)
+        self.manager.terminate()
+        self.display.terminate()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def run(self, *command, **more):
+        return subprocess.run([str(part) for part in command], env=self.env, timeout=600, **more)
+
+    def wine(self, *command, check=True, **more):
+        more.setdefault("stdout", subprocess.DEVNULL)
+        more.setdefault("stderr", subprocess.DEVNULL)
+        return self.run("wine", *command, check=check, **more)
+
+    def start(self, *command):
+        return subprocess.Popen(["wine", *map(str, command)], env=self.env,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def opened_pages(self):
+        return self.pages.read_text().split() if self.pages.exists() else []
+
+    # --- By mouse and keyboard
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.env,
+                              capture_output=True, text=True, timeout=60).stdout
+
+    def windows(self, title):
+        """The windows of this title, as (number, left, top, width, height)."""
+        found = []
+        for number in self.xdotool("search", "--onlyvisible", "--name", f"^{title}$").split():
+            place = self.xdotool("getwindowgeometry", "--shell", number)
+            values = dict(line.split("=") for line in place.split())
+            if len(values) >= 5:
+                found.append((number, *(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))))
+        return found
+
+    def keys(self, *keys):
+        for key in keys:
+            self.xdotool("key", "--delay", 60, key)
+            time.sleep(0.3)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", 40, text)
+        time.sleep(0.5)
+
+    def move(self, x, y):
+        self.xdotool("mousemove", x, y)
+        time.sleep(0.5)
+
+    def click(self, x, y):
+        self.move(x, y)
+        self.xdotool("click", 1)
+        time.sleep(0.8)
+
+    def keep(self, name):
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        self.run("import", "-window", "root", PICTURES / f"{name}.png", check=True)
+
+
+def zipfile_of(path):
+    import zipfile
+    return zipfile.ZipFile(path)
+
+
+def files_below(folder):
+    return {str(path.relative_to(folder)) for path in folder.rglob("*")}
+
+
+class UnitTests(unittest.TestCase):
+
+    def test_all_are_green(self):
+        tests = BUILT / "tests/tests"
+        libraries = ";".join("Z:" + str(folder).replace("/", "\\") for folder in (
+            machine.portable, os.environ["TOOLKIT_BIN"]))
+        env = dict(machine.env, WINEPATH=libraries)
+        for name in ("core/core_test", "numbers/numbers_test", "numbers/cycles/cycles_test",
+                     "numbers/derived/derived_test", "report/report_test", "report/person_test"):
+            with self.subTest(name):
+                done = subprocess.run(["wine", f"{tests / name}.exe"], env=env,
+                                      capture_output=True, text=True, timeout=600)
+                self.assertEqual(done.returncode, 0, done.stdout[-3000:])
+                passed = re.search(r"\[  PASSED  \] (\d+) tests", done.stdout)
+                self.assertGreater(int(passed.group(1)), 0)
+                print(f"  {name}: {passed.group(1)} tests", flush=True)
+
+
+class ReportTool(unittest.TestCase):
+
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = machine.folder / "reports with blanks äöü 数"
+        cls.folder.mkdir()
+        pick = random.Random(1985)
+        first = ["Clara", "Bob", "Zoë", "Łukasz", "Ørjan", "Mary Ann", "O'Neil", "Ἀλέξανδρος"]
+        last = ["Winter", "Moreau", "Ångström", "van der Berg", "Çelik", "Иванова", "X"]
+        people = [{"id": number, "first": pick.choice(first), "middle": pick.choice(first + [""]),
+                   "last": pick.choice(last), "month": pick.randint(1, 12),
+                   "day": pick.randint(1, 31), "year": pick.randint(1900, 2050)}
+                  for number in range(2000)]
+        people[77]["last"] = ""  # one that is wrong
+        cls.people = cls.folder / "people.jsonl"
+        cls.people.write_text("".join(json.dumps(each, ensure_ascii=False) + "\n"
+                                      for each in people), encoding="utf-8")
+
+    def tool(self, *arguments, **more):
+        return machine.run("wine", machine.portable / "orravane-report.exe", *arguments,
+                           capture_output=True, **more)
+
+    def linux(self, *arguments, **more):
+        return machine.run(LINUX_TOOL, *arguments, capture_output=True, **more)
+
+    def assert_same(self, *arguments):
+        ours, theirs = self.tool(*arguments), self.linux(*arguments)
+        self.assertEqual(ours.returncode, theirs.returncode, ours.stderr[-500:])
+        self.assertEqual(ours.stdout == theirs.stdout, True, arguments)
+        self.assertEqual(ours.stderr, theirs.stderr)
+        return ours
+
+    def test_two_thousand_people_in_every_format(self):
+        formats = re.search(r"-f, --format[^\n]*|--format [^\n]*", self.linux("--help").stdout.decode())
+        for arguments in (["--format", "json"], ["--format", "text"], ["--format", "rtf"],
+                          ["--numbers", "--format", "json"], ["--numbers", "--format", "csv"],
+                          ["--numbers", "--format", "tsv"]):
+            with self.subTest(arguments):
+                done = self.assert_same("--batch", self.people, "--today", "2027-01-01", *arguments)
+                self.assertEqual(done.returncode, 1)  # the one that is wrong
+                self.assertGreater(len(done.stdout), 100_000)
+                if arguments != ["--format", "rtf"]:
+                    self.assertNotIn(b"\r\n", done.stdout)
+                print(f"  {' '.join(arguments)}: {len(done.stdout)} bytes", flush=True)
+
+    def test_one_person(self):
+        person = ["--first", "Zoë", "--last", "Ångström 数", "--date", "1985-03-29",
+                  "--today", "2027-01-01"]
+        for form in ("text", "json", "rtf"):
+            self.assert_same(*person, "--format", form)
+        self.assert_same("--book")
+        self.assert_same("--list-topics")
+        self.assert_same("--version")
+        self.assert_same("--first", "x")
+        self.assert_same()
+        self.assert_same(*person, "--topic", "no such topic")
+
+    def test_files(self):
+        """Written whole, to paths with blanks and letters, over what is there; a folder of files."""
+        target = self.folder / "ein Bericht – Ω.rtf"
+        target.write_text("before")
+        person = ["--first", "Zoë", "--last", "Winter", "--date", "1985-03-29", "--today",
+                  "2027-01-01", "--format", "rtf"]
+        done = self.tool(*person, "--output", "Z:" + str(target).replace("/", "\\"))
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(target.read_bytes(), self.linux(*person).stdout)
+        # What cannot be written leaves what is there, and nothing beside it.
+        done = self.tool(*person, "--output", self.folder)
+        self.assertEqual(done.returncode, 3, done.stderr)
+        done = self.tool(*person, "--output", self.folder / "none" / "x.rtf")
+        self.assertEqual(done.returncode, 3, done.stderr)
+        before = files_below(self.folder)
+        few = self.folder / "few.jsonl"
+        few.write_bytes(b"".join(self.people.read_bytes().splitlines(True)[:40]))
+        folders = self.folder / "von Windows", self.folder / "von Linux"
+        for tool, folder in ((self.tool, folders[0]), (self.linux, folders[1])):
+            done = tool("--batch", few, "--today", "2027-01-01", "--output-dir", folder)
+            self.assertEqual(done.returncode, 0, done.stderr)
+        names = files_below(folders[1])
+        self.assertEqual(len(names), 40)
+        self.assertEqual(files_below(folders[0]), names)
+        for name in names:
+            self.assertEqual((folders[0] / name).read_bytes(), (folders[1] / name).read_bytes())
+        self.assertEqual(files_below(self.folder) - before,
+                         {"few.jsonl", "von Windows", "von Linux",
+                          *(f"{folder.name}/{name}" for folder in folders for name in names)})
+
+    def test_a_killed_run_leaves_nothing(self):
+        target = self.folder / "killed.jsonl"
+        run = machine.start(machine.portable / "orravane-report.exe", "--batch", "-", "--output",
+                            target)
+        wait_for("the temporary file", lambda: list(self.folder.glob(".orravane-*")))
+        machine.wine("taskkill", "/f", "/im", "orravane-report.exe", check=False)
+        run.wait(60)
+        wait_for("it to go", lambda: not list(self.folder.glob(".orravane-*")))
+        self.assertFalse(target.exists())
+
+    def test_jobs(self):
+        done = self.tool("--batch", self.people, "--jobs", "2")
+        self.assertEqual(done.returncode, 2)
+        self.assertEqual(done.stderr.count(b"\n"), 1)
+        self.assertIn(b"--jobs", done.stderr)
+
+    def test_a_console_shows_utf_8(self):
+        main, side = pty.openpty()
+        child = subprocess.Popen(["wine", machine.portable / "orravane-report.exe", "--first", "Zoë",
+                                  "--last", "Ångström", "--date", "1985-03-29", "--topic",
+                                  "no topic é"], env=machine.env, stdin=side, stdout=side,
+                                 stderr=side)
+        os.close(side)
+        shown = b""
+        try:
+            while piece := os.read(main, 4096):
+                shown += piece
+        except OSError:
+            pass
+        child.wait(60)
+        self.assertIn("é", shown.decode(errors="replace"), shown)
+
+
+class Window(unittest.TestCase):
+    """The whole story by mouse and keyboard. Places are in pixels of the page, below the menu."""
+
+    def place_of(self, title="Orravane v1.0"):
+        return wait_for(f"the window {title}", lambda: machine.windows(title))[-1]
+
+    def setUp(self):
+        machine.pages.unlink(missing_ok=True)
+        self.program = machine.start(machine.portable / "orravane.exe")
+        self.window, self.left, self.top, self.width, self.height = self.place_of()
+        self.top += self.height - 440
+        time.sleep(3)
+
+    def tearDown(self):
+        machine.wine("taskkill", "/f", "/im", "orravane.exe", check=False)
+        self.program.wait(60)
+
+    def click(self, x, y):
+        machine.click(self.left + x, self.top + y)
+
+    def brightness(self, x, y, width, height):
+        """Of a part of the page, from 0 to 1."""
+        done = machine.run("import", "-window", "root", "-crop",
+                           f"{width}x{height}+{self.left + x}+{self.top + y}", "-format",
+                           "%[fx:mean]", "info:", capture_output=True, check=True)
+        return float(done.stdout)
+
+    def test_story(self):
+        self.assertEqual(self.width, 626)
+        machine.keep("1-start")
+        self.assertEqual(machine.opened_pages(), [])
+
+        # Hover lights up and goes out again.
+        plain = self.brightness(566, 7, 44, 39)
+        machine.move(self.left + 588, self.top + 26)
+        machine.move(self.left + 589, self.top + 27)
+        machine.keep("2-hover")
+        self.assertGreater(self.brightness(566, 7, 44, 39), plain + 0.05)
+        machine.move(self.left + 300, self.top + 30)
+        wait_for("the button to go out", lambda: self.brightness(566, 7, 44, 39) < plain + 0.02)
+
+        # A person, by keyboard, and Proceed.
+        self.click(315 + 150, 56 + 100)  # First Name
+        machine.type("Clara")
+        machine.keys("Tab", "Tab")
+        machine.type("Winter")
+        machine.keep("3-typed")
+        self.click(315 + 205 + 42, 56 + 312 + 13)
+        time.sleep(2)
+        machine.keep("4-report")
+        paper = self.brightness(325, 70, 270, 280)
+        self.assertGreater(paper, 0.6)
+
+        # Save, by the common dialog, twice over the same file.
+        target = machine.home / "Documents" / "ein Bericht.rtf"
+        for number in (1, 2):
+            self.click(315 + 205 + 42, 56 + 312 + 13)
+            wait_for("the save dialog", lambda: machine.windows("Orravane"))
+            time.sleep(2)
+            machine.keep(f"5-save-{number}")
+            machine.type("C:\\users\\" + machine.home.name + "\\Documents\\ein Bericht.rtf\n")
+            time.sleep(2)
+            machine.keep(f"6-saved-{number}")
+            if number == 2:  # the question
+                first = target.read_bytes()
+                machine.keys("alt+y")
+                time.sleep(2)
+            wait_for("the file", target.exists)
+        self.assertEqual(target.read_bytes(), first)
+        self.assertTrue(first.startswith(b"{\\rtf1"))
+        self.assertEqual([path.name for path in target.parent.glob("*")
+                          if path.suffix in (".txt", ".rtf")], [target.name])
+        self.assertEqual(machine.windows("Orravane"), [])
+
+        # A second one is turned away, and opens the thank-you page.
+        second = machine.start(machine.portable / "orravane.exe")
+        wait_for("the message", lambda: machine.windows("Orravane"))
+        time.sleep(1)
+        machine.keep("7-second")
+        machine.keys("Return")
+        second.wait(60)
+        wait_for("the page", lambda: machine.opened_pages())
+        self.assertEqual(machine.opened_pages(), [f"https://{HOST}/thankyou-for-using-orravane.php"])
+
+        # Killed, it leaves no lock behind.
+        machine.wine("taskkill", "/f", "/im", "orravane.exe")
+        self.program.wait(60)
+        self.program = machine.start(machine.portable / "orravane.exe")
+        self.window, self.left, self.top, self.width, self.height = self.place_of()
+        self.top += self.height - 440
+        time.sleep(3)
+        machine.keep("8-again")
+        self.assertEqual(machine.windows("Orravane"), [])
+
+        # The way out, with its question and its page.
+        self.click(588, 26)
+        wait_for("the question", lambda: machine.windows("Orravane"))
+        time.sleep(1)
+        machine.keep("9-exit")
+        machine.keys("alt+y")
+        self.program.wait(60)
+        wait_for("the page", lambda: len(machine.opened_pages()) == 2)
+        self.assertEqual(set(machine.opened_pages()),
+                         {f"https://{HOST}/thankyou-for-using-orravane.php"})
+
+
+class Installer(unittest.TestCase):
+
+    def user_files(self):
+        drive = machine.folder / "prefix/drive_c"
+        return {name for name in files_below(drive) if "orravane" in name.lower()
+                or "Start Menu" in name}
+
+    def registry(self):
+        done = machine.wine("reg", "query", "HKCU\\Software", "/s", stdout=subprocess.PIPE)
+        text = done.stdout.decode(errors="replace")
+        done = machine.wine("reg", "query",
+                            "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall", "/s",
+                            stdout=subprocess.PIPE)
+        text += done.stdout.decode(errors="replace")
+        return [line for line in text.splitlines()
+                if line.startswith("HKEY") and ("orravane" in line.lower() or "QtProject" in line)]
+
+    def check(self, *options):
+        machine.wine("reg", "delete", "HKCU\\Software\\orravane", "/f", check=False)
+        shutil.rmtree(machine.home / "AppData/Local/orravane", ignore_errors=True)
+        before = self.user_files()
+        self.assertEqual(self.registry(), [])
+        machine.wine(SETUP, "/S", *options)
+        entries = [name for name in self.user_files() if name.endswith("Orravane.lnk")]
+        self.assertEqual(len(entries), 1)
+        self.assertEqual(len(self.registry()), 1)
+
+        machine.wine("start", "/unix", machine.folder / "prefix/drive_c" / entries[0], check=False)
+        wait_for("the window", lambda: machine.windows("Orravane v1.0"))
+        time.sleep(2)
+        # While it runs it is neither replaced nor removed.
+        uninstall = next(machine.folder.glob("prefix/drive_c/**/Orravane/Uninstall.exe"))
+        self.assertEqual(machine.wine(SETUP, "/S", *options, check=False).returncode, 2)
+        machine.keys("alt+f", "x")
+        wait_for("it to go", lambda: not machine.windows("Orravane v1.0"))
+
+        machine.wine(uninstall, "/S", *options)
+        wait_for("all to be gone", lambda: not uninstall.parent.exists())
+        time.sleep(1)
+        self.assertEqual(self.user_files(), before)
+        self.assertEqual(self.registry(), [])
+
+    def test_for_one_user(self):
+        self.check("/CurrentUser")
+
+    def test_for_all_users(self):
+        self.check("/AllUsers")
+
+
+if __name__ == "__main__":
+    machine = Machine()
+    try:
+        unittest.main(verbosity=2)
+    finally:
+        machine.close()

@@ -1,0 +1,117 @@
+#include "report/svg.h"
+
+namespace modReadings {
+
+namespace {
+
+std::string_view FillOf(Paint paint) {
+    switch (paint) {
+    case Paint::Violet:
+        return " class=\"fv\" fill=\"#59496d\"";
+    case Paint::Tint:
+        return " class=\"ft\" fill=\"#e4dcec\"";
+    case Paint::Gold:
+        return " class=\"fg\" fill=\"#ffc706\"";
+    case Paint::Ink:
+        return " class=\"fi\" fill=\"#2b2333\"";
+    case Paint::Muted:
+        return " class=\"fm\" fill=\"#63576f\"";
+    case Paint::OnViolet:
+        return " class=\"fo\" fill=\"#ffffff\"";
+    case Paint::OnGold:
+        return " class=\"fd\" fill=\"#2b2333\"";
+    case Paint::Nothing:
+        break;
+    }
+    return " fill=\"none\"";
+}
+
+std::string_view StrokeOf(Paint paint) {
+    switch (paint) {
+    case Paint::Violet:
+        return " class=\"sv\" stroke=\"#59496d\"";
+    case Paint::Gold:
+        return " class=\"sg\" stroke=\"#d9a400\"";
+    case Paint::Ink:
+        return " class=\"si\" stroke=\"#2b2333\"";
+    case Paint::Nothing:
+        return {};
+    default:
+        return " class=\"sm\" stroke=\"#8a7d97\"";
+    }
+}
+
+} // namespace
+
+Drawing::Drawing(HtmlWriter &html, int height, std::string_view title, std::string_view words)
+    : html_(html) {
+    // Most texts are centred and in ink.
+    html_ << "<svg role=\"img\" aria-labelledby=\"" << title << "\" aria-describedby=\"" << words
+          << "\" viewBox=\"0 0 " << drawingWidth << ' ' << height << "\" width=\"" << drawingWidth
+          << "\" height=\"" << height
+          << "\">\n<g text-anchor=\"middle\" font-family=\"Charter,'Bitstream Charter',"
+             "'Iowan Old Style',P052,Palatino,Georgia,'DejaVu Serif',serif\""
+          << FillOf(Paint::Ink) << ">\n";
+}
+
+Drawing::~Drawing() { html_ << "\n</g>\n</svg>\n"; }
+
+void Drawing::Box(int x, int y, int width, int height, int radius, Paint fill, Paint stroke) {
+    html_ << "<rect x=\"" << x << "\" y=\"" << y << "\" width=\"" << width << "\" height=\""
+          << height << "\" rx=\"" << radius << '"'
+          << (stroke == Paint::Nothing ? FillOf(fill) : " fill=\"none\"") << StrokeOf(stroke)
+          << "/>";
+}
+
+void Drawing::Circle(int x, int y, int radius, Paint fill, Paint stroke) {
+    html_ << "<circle cx=\"" << x << "\" cy=\"" << y << "\" r=\"" << radius << '"'
+          << (stroke == Paint::Nothing ? FillOf(fill) : " fill=\"none\"") << StrokeOf(stroke)
+          << "/>";
+}
+
+void Drawing::EmptyPlace(int x, int y, int radius) {
+    html_ << "<circle cx=\"" << x << "\" cy=\"" << y << "\" r=\"" << radius
+          << "\" fill=\"none\" stroke-dasharray=\"2 3\"" << StrokeOf(Paint::Muted) << "/>";
+}
+
+void Drawing::Line(int x1, int y1, int x2, int y2, Paint stroke, int width) {
+    html_ << "<path d=\"M" << x1 << ' ' << y1 << 'L' << x2 << ' ' << y2 << '"' << StrokeOf(stroke);
+    if (width != 1)
+        html_ << " stroke-width=\"" << width << '"';
+    html_ << "/>";
+}
+
+void Drawing::Shape(std::initializer_list<int> corners, Paint fill) {
+    html_ << "<path d=\"M";
+    const char *between = "";
+    for (const int coordinate : corners) {
+        html_ << std::string_view(between) << coordinate;
+        between = " ";
+    }
+    html_ << "Z\"" << FillOf(fill) << "/>";
+}
+
+void Drawing::BeginPath(Paint stroke, int width) {
+    html_ << "<path fill=\"none\" stroke-width=\"" << width << '"' << StrokeOf(stroke) << " d=\"";
+    gap_ = true;
+}
+
+void Drawing::Point(int x, int y) {
+    html_ << (gap_ ? 'M' : 'L') << x << ' ' << y;
+    gap_ = false;
+}
+
+void Drawing::EndPath() { html_ << "\"/>"; }
+
+void Drawing::BeginText(int x, int y, int size, Paint fill, Align align, bool bold) {
+    html_ << "<text x=\"" << x << "\" y=\"" << y << "\" font-size=\"" << size << '"';
+    if (align != Align::Middle)
+        html_ << (align == Align::Start ? " text-anchor=\"start\"" : " text-anchor=\"end\"");
+    if (bold)
+        html_ << " font-weight=\"bold\"";
+    if (fill != Paint::Ink)
+        html_ << FillOf(fill);
+    html_ << '>';
+}
+
+} // namespace modReadings

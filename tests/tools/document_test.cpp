@@ -1,0 +1,120 @@
+// Documents from the built program, with the real engine of the PDFs or a stand-in for it.
+
+#include "tests/tools/complaint.h"
+#include "tests/tools/folder_test.h"
+#include "tests/tools/program.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace {
+
+class DocumentTest : public FolderTest {
+protected:
+    /// Surroundings in which the engine is a program whose interpreter is this script of the
+    /// shell.
+    Surroundings StandIn(const std::string &script) const {
+        const std::string path = std::getenv("PATH");
+        std::filesystem::create_directory(Path("bin"));
+        const std::string python =
+            Make("bin/python", "#!/bin/sh\nPATH='" + path + "'\n" + script + "\n");
+        const std::string engine = Make("bin/weasyprint", "#!" + python + "\n");
+        for (const std::string &file : {python, engine})
+            std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+        Surroundings surroundings;
+        surroundings.environment["PATH"] = Path("bin");
+        return surroundings;
+    }
+
+    /// Three people and a wrong line.
+    std::string People() const {
+        return Make("people.csv", "first,last,birthdate\nAnn,Lee,1990-03-07\nBob,,1990-01-01\n"
+                                  "Eve,Moss,1984-05-07\nMax,Hill,1971-12-31\n");
+    }
+};
+
+TEST_F(DocumentTest, APdfGoesToAPipeAndToAFileAndIsTheSame) {
+    const Finished piped = RunProgram(ann + Arguments{"--format", "pdf"});
+    ExpectGood(piped);
+    EXPECT_TRUE(piped.out.starts_with("%PDF-"));
+    const Arguments toFile{"-f", "pdf", "-o", Path("ann.pdf")};
+    ExpectGood(RunProgram(ann + toFile));
+    EXPECT_EQ(Read(Path("ann.pdf")), piped.out);
+}
+
+TEST_F(DocumentTest, APdfIsNothingForATerminal) {
+    Surroundings terminal;
+    terminal.outputFile = "/dev/ptmx"; // a terminal of its own
+    const Finished run = RunProgram(ann + Arguments{"-f", "pdf"}, {}, terminal);
+    ExpectRefused(run, {"--format: \"pdf\"", "--output FILE"});
+}
+
+TEST_F(DocumentTest, AMissingEngineIsNamedAndNothingIsWritten) {
+    const std::string people = People();
+    Surroundings noEngine;
+    noEngine.environment["PATH"] = Path("");
+    const FileMap before = Files();
+    for (const Arguments &arguments :
+         {ann + Arguments{"-f", "pdf", "-o", Path("ann.pdf")},
+          Arguments{"--batch", people, "-f", "pdf", "--output-dir", Path("made")},
+          Arguments{"--batch", people, "-f", "pdf", "--output-dir", Path("made"), "--jobs", "2"}}) {
+        const Finished run = RunProgram(arguments, {}, noEngine);
+        ExpectFailed(run, {"install the package weasyprint"});
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(Files(), before);
+    }
+}
+
+TEST_F(DocumentTest, AnEngineThatFailsLeavesTheEarlierFile) {
+    Make("ann.pdf", "earlier");
+    const Surroundings fails = StandIn("echo 'OSError: no pango' >&2; exit 1");
+    ExpectFailed(RunProgram(ann + Arguments{"-f", "pdf", "-o", Path("ann.pdf")}, {}, fails),
+                 {"WeasyPrint cannot make the PDF: OSError: no pango"});
+    EXPECT_EQ(Read(Path("ann.pdf")), "earlier");
+    const Finished batch = RunProgram(
+        {"--batch", People(), "-f", "pdf", "--output-dir", Path("made"), "--jobs", "2"}, {}, fails);
+    EXPECT_EQ(batch.exitCode, 3);
+    EXPECT_NE(batch.err.find("OSError: no pango"), std::string::npos) << batch.err;
+    EXPECT_EQ(Files(Path("made")), FileMap());
+}
+
+// Interrupted from outside, so that the engine itself hears nothing of it.
+TEST_F(DocumentTest, AnInterruptEndsTheEngineToo) {
+    const Surroundings slow = StandIn("echo $$ >" + Path("pid") + "; exec sleep 100");
+    Program program(ann + Arguments{"-f", "pdf", "-o", Path("ann.pdf")}, slow);
+    while (!std::filesystem::exists(Path("pid")) || Read(Path("pid")).empty())
+        usleep(10'000);
+    const pid_t engine = std::stoi(Read(Path("pid")));
+    EXPECT_EQ(kill(engine, 0), 0);
+    program.Signal(SIGINT);
+    EXPECT_EQ(program.Finish().signal, SIGINT);
+    for (int tries = 0; kill(engine, 0) == 0 && tries < 1000; ++tries)
+        usleep(10'000); // until the system has tidied it up
+    EXPECT_NE(kill(engine, 0), 0);
+    EXPECT_FALSE(std::filesystem::exists(Path("ann.pdf")));
+}
+
+TEST_F(DocumentTest, ABatchMakesAFileForEachPersonWithOneProcessAndWithMany) {
+    const std::string people = People();
+    const auto make = [&](const std::string &format, const std::string &folder,
+                          const std::string &jobs) {
+        const Finished run = RunProgram({"--batch", people, "-f", format, "--output-dir",
+                                         Path(folder), "--jobs", jobs, "--today", "2026-11-16"});
+        EXPECT_EQ(run.exitCode, 1) << run.err;
+        ExpectOneLine(run.err, {"line 3"});
+        return Files(Path(folder));
+    };
+    const FileMap pdfs = make("pdf", "pdf-2", "2");
+    ASSERT_EQ(pdfs.size(), 3U);
+    for (const char *line : {"2", "4", "5"})
+        EXPECT_TRUE(pdfs.at("person-00000" + std::string(line) + ".pdf").starts_with("%PDF-"));
+    EXPECT_EQ(make("pdf", "pdf-1", "1"), pdfs);
+
+    const FileMap texts = make("markdown", "md-2", "2");
+    ASSERT_EQ(texts.size(), 3U);
+    EXPECT_EQ(texts.at("person-000002.md"), RunProgram(ann + Arguments{"-f", "markdown"}).out);
+    EXPECT_EQ(make("markdown", "md-1", "1"), texts);
+}
+
+} // namespace

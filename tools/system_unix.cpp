@@ -1,0 +1,47 @@
+#include "tools/system.h"
+
+#include <QFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+StandardStreams::StandardStreams() {
+    // With /dev/null, opened in the direction in which the stream is not used.
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) < 0 && errno == EBADF)
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
+StandardStreams::~StandardStreams() = default;
+
+bool ArgumentsAreBytes() { return true; }
+
+bool IsTerminal(int descriptor) { return isatty(descriptor) == 1; }
+
+int TerminalColumns() {
+    winsize size{};
+    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
+}
+
+std::optional<InputFile::Opened> InputFile::Open(const QString &name) {
+    const int descriptor = open(QFile::encodeName(name).constData(), O_RDONLY | O_CLOEXEC);
+    struct stat status {};
+    if (descriptor < 0 || fstat(descriptor, &status) != 0)
+        return std::nullopt;
+    return Opened{descriptor, S_ISDIR(status.st_mode),
+                  S_ISREG(status.st_mode) ? status.st_size : 0};
+}
+
+long long InputFile::Read(int descriptor, char *bytes, std::size_t most) {
+    ssize_t count = 0;
+    do
+        count = read(descriptor, bytes, most);
+    while (count < 0 && errno == EINTR);
+    return count;
+}
+
+void InputFile::Close(int descriptor) { close(descriptor); }
