@@ -76,6 +76,13 @@ const QStringList &Names() {
     return names;
 }
 
+/// A name of many letters, or of more than can be counted. One in between would take long: the
+/// Hidden Passion compares each letter with each.
+QString LongName(quint32 random) {
+    const quint32 length = random % 8 == 0 ? 33'000 + random / 8 % 7'000 : random / 8 % 1'000;
+    return QString(static_cast<qsizetype>(length), u'q');
+}
+
 template <typename List> decltype(auto) Any(List &&list, quint32 random) {
     return list[static_cast<qsizetype>(random % static_cast<quint32>(std::size(list)))];
 }
@@ -270,7 +277,7 @@ void Session::Perform(const Event &event) {
         break;
     case Kind::Key:
         Key(Any(keys, second), third % 5 == 0 ? Qt::ShiftModifier : Qt::NoModifier, {},
-            third % 16 == 3);
+            third % 6 == 3);
         break;
     case Kind::Letter:
         Letter(Any(std::u16string_view(u"PSPSFH"), second));
@@ -281,9 +288,7 @@ void Session::Perform(const Event &event) {
         break;
     case Kind::EnterName:
         if (TurnToInputPage())
-            EnterName(second % 3,
-                      third % 40 == 0 ? QString(static_cast<qsizetype>(fourth % 40'000), u'q')
-                                      : Any(Names(), third),
+            EnterName(second % 3, third % 40 == 0 ? LongName(fourth) : Any(Names(), third),
                       fourth % 4 == 0);
         break;
     case Kind::PickDate:
@@ -695,6 +700,13 @@ void Session::KeepEssenceFinite() {
     while (const auto which =
                Model::NameWithoutAnEnd(model_.PersonInTheBoxes(), modReadings::Clock::Year())) {
         const auto index = static_cast<std::size_t>(*which);
+        const int lastYear = dates_[2]->count() - 1;
+        if (model_.names[index].trimmed().isEmpty() && model_.dates[2] != lastYear) {
+            // A name of blanks is good for somebody who is not yet born.
+            model_.dates[2] = lastYear;
+            dates_[2]->setCurrentIndex(lastYear);
+            continue;
+        }
         model_.names[index] += u'E';
         names_[index]->setText(model_.names[index]);
     }
@@ -772,6 +784,8 @@ void Session::NoteMouse(QObject *watched, QEvent *event) {
     } else if (control == form_.Picture2->RTB->viewport()) {
         if (event->type() != QEvent::MouseButtonDblClick)
             Note({.what = What::PaneMouse});
+        if (mouse->button() == Qt::LeftButton)
+            markingReport_ = !release;
     } else if (control == form_.TV->viewport()) {
         NoteTreeMouse(event);
     }
@@ -1012,6 +1026,10 @@ void Session::CompareFocus() {
 void Session::CompareClipboard() {
     const QMimeData *content = QApplication::clipboard()->mimeData();
     const bool empty = content == nullptr || content->formats().isEmpty();
+    // While text is marked with the mouse beside the pane, the toolkit scrolls the pane by a timer,
+    // and takes each time for a move of the mouse.
+    if (markingReport_ && empty)
+        model_.clipboard.reset();
     Check("the clipboard is empty", empty, !model_.clipboard);
     if (!empty && model_.clipboard)
         Check("clipboard", content->text(), *model_.clipboard);
