@@ -197,11 +197,39 @@ class ReportTool(unittest.TestCase):
                     self.assertNotIn(b"\r\n", done.stdout)
                 print(f"  {' '.join(arguments)}: {len(done.stdout)} bytes", flush=True)
 
+    def test_two_thousand_documents(self):
+        for form in ("html", "markdown"):
+            folders = self.folder / f"{form} von Windows", self.folder / f"{form} von Linux"
+            for tool, folder in ((self.tool, folders[0]), (self.linux, folders[1])):
+                done = tool("--batch", self.people, "--today", "2027-01-01", "--format", form,
+                            "--output-dir", folder)
+                self.assertEqual(done.returncode, 1, done.stderr[-300:])
+            names = files_below(folders[1])
+            self.assertGreater(len(names), 1000)
+            self.assertEqual(files_below(folders[0]), names)
+            different = [name for name in names if (folders[0] / name).read_bytes() !=
+                         (folders[1] / name).read_bytes()]
+            self.assertEqual(different, [])
+            print(f"  {form}: {len(names)} files", flush=True)
+            for folder in folders:
+                shutil.rmtree(folder)
+
+    def test_a_pdf_is_refused(self):
+        target = self.folder / "none.pdf"
+        done = self.tool("--first", "Clara", "--last", "Winter", "--date", "1985-03-29", "--format",
+                         "pdf", "--output", target)
+        self.assertNotEqual(done.returncode, 0)
+        self.assertEqual(done.stderr.count(b"\n"), 1, done.stderr)
+        print("  " + done.stderr.decode().strip(), flush=True)
+        self.assertFalse(target.exists())
+
     def test_one_person(self):
         person = ["--first", "Zoë", "--last", "Ångström 数", "--date", "1985-03-29",
                   "--today", "2027-01-01"]
-        for form in ("text", "json", "rtf"):
+        for form in ("text", "json", "rtf", "html", "markdown"):
             self.assert_same(*person, "--format", form)
+            self.assert_same(*person, "--format", form, "--topic", "Comprehensive Reading")
+        self.assert_same(*person, "--explain")
         self.assert_same("--book")
         self.assert_same("--list-topics")
         self.assert_same("--version")
@@ -244,6 +272,7 @@ class ReportTool(unittest.TestCase):
         target = self.folder / "killed.jsonl"
         run = machine.start(machine.portable / "orravane-report.exe", "--batch", "-", "--output",
                             target, stdin=subprocess.PIPE)
+        self.addCleanup(run.stdin.close)
         wait_for("the temporary file", lambda: list(self.folder.glob(".orravane-*")))
         machine.wine("taskkill", "/f", "/im", "orravane-report.exe", check=False)
         run.wait(60)
