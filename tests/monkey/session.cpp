@@ -720,6 +720,13 @@ bool Session::eventFilter(QObject *watched, QEvent *event) {
         if (auto *dialog = qobject_cast<QDialog *>(watched); dialog != nullptr && dialog->isModal())
             // The dialog's own event loop runs this as soon as it waits for the user.
             QTimer::singleShot(0, dialog, [this, dialog] { Answer(*dialog); });
+        if (auto *menu = qobject_cast<QMenu *>(watched);
+            menu != nullptr && !menu->objectName().startsWith(u"mnu"_s))
+            // The one of a scroll bar waits for its end, too.
+            QTimer::singleShot(0, menu, [menu] {
+                if (menu->isVisible())
+                    QTest::keyClick(menu, Qt::Key_Escape);
+            });
         break;
     case QEvent::ShortcutOverride:
         Note({.what = What::KeyDown, .here = IsHere(watched)});
