@@ -425,9 +425,10 @@ void Session::Key(int key, Qt::KeyboardModifiers modifiers, const QString &text,
     if (written.isEmpty() &&
         (key == Qt::Key_Plus || key == Qt::Key_Minus || key == Qt::Key_Asterisk))
         written = QString(QChar(static_cast<char16_t>(key)));
-    NoteKey(key, modifiers, written, repeated);
+    Note({.what = What::KeyDown, .here = true});
     if (qt_sendShortcutOverrideEvent(focus, 0, key, modifiers, written, repeated))
         return; // it was a shortcut
+    NoteKey(key, modifiers, written, repeated);
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         if (form_.focusWidget() != nullptr)
             focus = form_.focusWidget();
@@ -720,9 +721,16 @@ bool Session::eventFilter(QObject *watched, QEvent *event) {
         if (auto *dialog = qobject_cast<QDialog *>(watched); dialog != nullptr && dialog->isModal())
             // The dialog's own event loop runs this as soon as it waits for the user.
             QTimer::singleShot(0, dialog, [this, dialog] { Answer(*dialog); });
+        if (auto *menu = qobject_cast<QMenu *>(watched);
+            menu != nullptr && !menu->objectName().startsWith(u"mnu"_s))
+            // The one of a scroll bar waits for its end, too.
+            QTimer::singleShot(0, menu, [menu] {
+                if (menu->isVisible())
+                    QTest::keyClick(menu, Qt::Key_Escape);
+            });
         break;
     case QEvent::ShortcutOverride:
-        Note({.what = What::KeyDown, .here = IsHere(watched)});
+        Note({.what = What::KeyDown});
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -826,14 +834,12 @@ void Session::NoteKey(int key, Qt::KeyboardModifiers modifiers, const QString &t
     const bool plain = (modifiers & ~Qt::KeypadModifier) == 0;
     const bool copies = modifiers == Qt::ControlModifier && key == Qt::Key_C;
     if (const int button = ButtonIndex(focus); button >= 0) {
-        Note({.what = What::KeyDown, .here = true});
         if ((IsEnter(key) || key == Qt::Key_Space) && !repeated)
             Note({.what = What::ButtonKey, .control = button});
     } else if (const int link = LinkIndex(focus); link >= 0) {
         if ((IsEnter(key) || key == Qt::Key_Space) && !repeated)
             Note({.what = What::LinkClicked, .control = link});
     } else if (focus == form_.TV) {
-        Note({.what = What::KeyDown, .here = true});
         if (IsEnter(key))
             Note({.what = What::NodeClicked, .text = form_.TV->currentItem()->text(0)});
         else if (copies)
@@ -845,12 +851,10 @@ void Session::NoteKey(int key, Qt::KeyboardModifiers modifiers, const QString &t
         if (copies && caret.hasSelection())
             model_.clipboard = caret.selection().toPlainText();
     } else if (const auto name = NameIndex(focus)) {
-        Note({.what = What::KeyDown, .here = true});
         if (IsEnter(key) && plain && !repeated)
             Note({.what = What::EnterOnInputPage});
         NoteKeyOnName(*name, key, modifiers, text);
     } else if (const auto date = DateIndex(focus)) {
-        Note({.what = What::KeyDown, .here = true});
         if (IsEnter(key) && plain && !repeated)
             Note({.what = What::EnterOnInputPage});
         else
