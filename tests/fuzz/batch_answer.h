@@ -41,7 +41,11 @@ inline Answer Check(const std::string &text, PeopleLines lines, Format format) {
     if (!header.empty())
         header.pop_back();
     constexpr long long number = 4711;
-    const LineAnswer answer = AnswerLine({text, false, number, 0, number}, lines, false, *writer);
+    const bool composed = format == Format::Json && text.size() % 2 == 0;
+    const LineAnswer answer =
+        AnswerLine({text, false, number, 0, number}, lines, composed, *writer);
+    Require(!answer.remark || (answer.person && IsQuiet(*answer.remark)),
+            "a remark is a quiet line about a person");
     const std::string &row = sink.bytes;
     if (!answer.person && !answer.wrong) { // the rest of a row
         Require(row.empty(), "the rest of a row has no answer", row);

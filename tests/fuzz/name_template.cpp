@@ -22,6 +22,7 @@ long long LineFrom(std::string_view text) {
     return std::clamp(line, 1LL, mostLines);
 }
 
+/// What holds for every name of a file. `line` is in it, unless it is 0.
 void CheckName(const QString &name, long long line, const QString &ending,
                const std::string &pattern) {
     const std::string bytes = Utf8(name.toStdU16String());
@@ -35,7 +36,8 @@ void CheckName(const QString &name, long long line, const QString &ending,
     Require(bytes.front() != '.' && bytes.front() != '-' && bytes.front() != ' ',
             "a name is neither hidden nor an option", shown);
     Require(name.endsWith(ending), "a name has its ending", shown);
-    Require(bytes.find(std::to_string(line)) != std::string::npos, "a name has its line", shown);
+    Require(line == 0 || bytes.find(std::to_string(line)) != std::string::npos,
+            "a name has its line", shown);
 
     const std::filesystem::path folder = "/srv/people";
     Require((folder / bytes).lexically_normal().parent_path() == folder,
@@ -58,6 +60,10 @@ void Run(std::string_view bytes) {
     std::vector<std::string_view> parts = Pieces(bytes, '\xFF');
     parts.resize(6);
     const std::string pattern(parts[0]);
+    const QString ending = parts[5].empty() ? u".txt"_s : u".rtf"_s;
+    for (const std::string_view part : parts) // any text as the name of a file by itself
+        CheckName(SafeFileName(QStringView(AnyUnits(part)).toString(), ending), 0, ending, pattern);
+
     std::optional<FileNames> names;
     try {
         names.emplace(QStringView(AnyUnits(pattern)).toString());
@@ -72,7 +78,6 @@ void Run(std::string_view bytes) {
     person.MiddleName = AnyUnits(parts[2]);
     person.LastName = AnyUnits(parts[3]);
     const long long line = LineFrom(parts[4]);
-    const QString ending = parts[5].empty() ? u".txt"_s : u".rtf"_s;
     const QString name = names->Of(person, line, ending);
     CheckName(name, line, ending, pattern);
 
