@@ -81,7 +81,7 @@ void AssignWord(std::u16string &slot, const char16_t *label, std::u16string_view
         slot = Traced(label, word);
 }
 
-std::u16string Line(const std::u16string &label, int16 percent, const std::u16string &rating) {
+std::u16string LineOf(const std::u16string &label, int16 percent, const std::u16string &rating) {
     return label + DecimalText(percent) + u" - " + rating;
 }
 
@@ -111,10 +111,10 @@ void CalcPlanes() {
     store.IntuitiveRating = Traced(u"intuitive rating", Rating(store.IntuitivePercent, 11, 17));
 
     store.PlanesText =
-        Line(store.MentalLabel, store.MentalPercent, store.MentalRating) + u" \r\n" +
-        Line(store.PhysicalLabel, store.PhysicalPercent, store.PhysicalRating) + u" \r\n" +
-        Line(store.EmotionalLabel, store.EmotionalPercent, store.EmotionalRating) + u" \r\n" +
-        Line(store.IntuitiveLabel, store.IntuitivePercent, store.IntuitiveRating);
+        LineOf(store.MentalLabel, store.MentalPercent, store.MentalRating) + u" \r\n" +
+        LineOf(store.PhysicalLabel, store.PhysicalPercent, store.PhysicalRating) + u" \r\n" +
+        LineOf(store.EmotionalLabel, store.EmotionalPercent, store.EmotionalRating) + u" \r\n" +
+        LineOf(store.IntuitiveLabel, store.IntuitivePercent, store.IntuitiveRating);
     store.PlanesAbout = readings::planesAbout;
 }
 

@@ -19,7 +19,7 @@ test_packages="
     bash desktop-file-utils fish man-db zsh
     at-spi2-core cups-client cups-daemon dbus-daemon imagemagick libglib2.0-bin
     locales openbox poppler-utils python3 qt6-gtk-platformtheme qt6-wayland
-    tidy weasyprint weston x11-utils x11-xserver-utils xclip xdotool xvfb
+    strace tidy weasyprint weston x11-utils x11-xserver-utils xclip xdotool xvfb
 "
 
 # What `--target readers` needs besides.

@@ -73,12 +73,12 @@ HtmlWriter &HtmlWriter::operator<<(int number) {
     return *this;
 }
 
-void HtmlWriter::PutCharacter(char32_t character, std::string_view lineBreak) {
+void HtmlWriter::PutCharacter(char32_t character, std::string_view newLine) {
     switch (character) {
     case U'\r':
         return; // a line break ends in "\n"
     case U'\n':
-        *this << lineBreak;
+        *this << newLine;
         return;
     case U'&':
         *this << "&amp;";
@@ -102,7 +102,7 @@ void HtmlWriter::PutCharacter(char32_t character, std::string_view lineBreak) {
     PutUtf8(character, [this](char byte) { *this << byte; });
 }
 
-void HtmlWriter::Put(std::u16string_view text, std::string_view lineBreak) {
+void HtmlWriter::Put(std::u16string_view text, std::string_view newLine) {
     std::size_t at = 0;
     while (at < text.size()) {
         Reserve(text.size() - at);
@@ -119,7 +119,7 @@ void HtmlWriter::Put(std::u16string_view text, std::string_view lineBreak) {
                 continue;
             }
             const char32_t character = TakeCharacter(text, at);
-            PutCharacter(character, lineBreak);
+            PutCharacter(character, newLine);
             Reserve(text.size() - at);
         }
     }

@@ -51,8 +51,8 @@ private:
             Grow(more);
     }
     void Grow(std::size_t more);
-    void Put(std::u16string_view text, std::string_view lineBreak);
-    void PutCharacter(char32_t character, std::string_view lineBreak);
+    void Put(std::u16string_view text, std::string_view newLine);
+    void PutCharacter(char32_t character, std::string_view newLine);
 
     std::string out_;      ///< what is written and room for more
     std::size_t used_ = 0; ///< how much is written

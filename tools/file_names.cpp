@@ -16,7 +16,7 @@ namespace {
 constexpr qsizetype mostBytes = 255;
 constexpr qsizetype mostBytesOfPattern = 100;
 constexpr qsizetype longestNumber = 16; // of a line: --first-line goes up to 10^15
-constexpr qsizetype longestEnding = 5; // ".html"
+constexpr qsizetype longestEnding = 5;  // ".html"
 
 bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 
@@ -75,13 +75,13 @@ FileNames::FileNames(QString pattern) : pattern_(std::move(pattern)) {
         return Refusal(
             u"--name-template: \"%1\" is not allowed; %2"_s.arg(Excerpt(pattern_), what));
     };
-    const QString literal = QString(pattern_).remove(Placeholder());
-    if (literal.contains(u'{') || literal.contains(u'}'))
-        throw refusal(u"in braces stand first, middle, last or line"_s);
     if (pattern_.toUtf8().size() > mostBytesOfPattern)
         throw refusal(u"it is longer than %1 bytes"_s.arg(mostBytesOfPattern));
     if (Safe(pattern_, mostBytes) != pattern_) // what it would change cannot stand there
         throw refusal(u"it has a character that cannot stand in the name of a file"_s);
+    const QString literal = QString(pattern_).remove(Placeholder());
+    if (literal.contains(u'{') || literal.contains(u'}'))
+        throw refusal(u"in braces stand first, middle, last or line"_s);
     const qsizetype numbers = pattern_.count(u"{line}"_s);
     if (literal.toUtf8().size() + numbers * longestNumber + 1 + longestEnding > mostBytes)
         throw refusal(

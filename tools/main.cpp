@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void Complain(const QString &line) {
-    std::fprintf(stderr, "orravane-report: %s\n", OneLine(line).c_str());
+    WriteToStandardError("orravane-report: " + OneLine(line) + '\n');
 }
 
 void Print(const QString &fileName, const std::string &bytes) {
@@ -60,7 +60,7 @@ ExitCode Run(int argc, char *argv[]) {
         return RunBatch(options);
     case Options::Task::Person: {
         if (options.format == Format::Pdf &&
-            (options.output.isEmpty() || options.output == u"-"_s) && isatty(STDOUT_FILENO) == 1)
+            (options.output.isEmpty() || options.output == u"-"_s) && IsTerminal(1))
             throw Refusal(
                 u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
                 "a program read it."_s);

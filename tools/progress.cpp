@@ -114,13 +114,13 @@ void Progress::Show(const BatchCount &count) {
     drawn_ = true;
     // What is left of a longer line, or of one that was drawn before the terminal was made
     // narrower, goes.
-    std::fprintf(stderr, "\r%s\033[K",
-                 ProgressLine(count, total_, Seconds(), TerminalColumns()).c_str());
+    WriteToStandardError('\r' + ProgressLine(count, total_, Seconds(), TerminalColumns()) +
+                         "\033[K");
 }
 
 void Progress::Clear() {
     if (drawn_)
-        std::fprintf(stderr, "\r\033[K");
+        WriteToStandardError("\r\033[K");
     drawn_ = false;
 }
 
@@ -132,5 +132,5 @@ void Progress::ClearForOutput() {
 void Progress::Finish(const BatchCount &count) {
     Clear();
     if (summary_)
-        std::fprintf(stderr, "orravane-report: %s\n", SummaryLine(count, Seconds()).c_str());
+        WriteToStandardError("orravane-report: " + SummaryLine(count, Seconds()) + '\n');
 }

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 
 /// Makes the three standard streams ready, for as long as it lives.
 ///
@@ -35,6 +36,10 @@ bool IsTerminal(int descriptor);
 
 /// How wide the terminal behind standard error is at this moment; 80 where nobody can tell.
 int TerminalColumns();
+
+/// Writes to standard error in one go, since a console that gets half a letter shows none. What
+/// cannot be written is lost.
+void WriteToStandardError(std::string_view bytes);
 
 /// A file that is being read. All of it tells a failure by errno.
 namespace InputFile {

@@ -27,6 +27,16 @@ int TerminalColumns() {
     return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
 }
 
+void WriteToStandardError(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(STDERR_FILENO, bytes.data(), bytes.size());
+        if (written >= 0)
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        else if (errno != EINTR)
+            return;
+    }
+}
+
 std::optional<InputFile::Opened> InputFile::Open(const QString &name) {
     const int descriptor = open(QFile::encodeName(name).constData(), O_RDONLY | O_CLOEXEC);
     struct stat status {};

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
 
 #include <fcntl.h>
 #include <io.h>
@@ -60,6 +59,10 @@ int TerminalColumns() {
     if (GetConsoleScreenBufferInfo(StreamHandle(2), &facts) == 0)
         return 80;
     return facts.srWindow.Right - facts.srWindow.Left + 1;
+}
+
+void WriteToStandardError(std::string_view bytes) {
+    _write(2, bytes.data(), static_cast<unsigned>(bytes.size()));
 }
 
 std::optional<InputFile::Opened> InputFile::Open(const QString &name) {

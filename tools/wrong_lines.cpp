@@ -1,9 +1,8 @@
 #include "tools/wrong_lines.h"
 
 #include "tools/refusal.h"
+#include "tools/system.h"
 #include "tools/text.h"
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -22,7 +21,7 @@ void WrongLines::Remark(long long number, std::size_t file, long long numberInFi
         place += u" (the file \"%1\", line %2)"_s
                      .arg(Excerpt(options_.batchFiles[static_cast<qsizetype>(file)]))
                      .arg(numberInFile);
-    std::fprintf(stderr, "orravane-report: %s: %s\n", OneLine(place).c_str(), message.c_str());
+    WriteToStandardError("orravane-report: " + OneLine(place) + ": " + message + '\n');
 }
 
 void WrongLines::RefuseTooMany() const {

@@ -8,7 +8,6 @@ import pty
 import random
 import re
 import shutil
-import signal
 import subprocess
 import sys
 import tempfile
@@ -20,7 +19,7 @@ BUILT = ROOT / "build/windows"
 RELEASE = BUILT / "release"
 PICTURES = BUILT / "pictures"
 LINUX_TOOL = ROOT / "build/release/tools/orravane-report"
-VERSION = re.search(r"VERSION ([0-9.]+)", (ROOT / "CMakeLists.txt").read_text()).group(1)
+VERSION = re.search(r"project\(orravane VERSION ([0-9.]+)", (ROOT / "CMakeLists.txt").read_text()).group(1)
 ARCHIVE = RELEASE / f"orravane-{VERSION}-windows.zip"
 SETUP = RELEASE / f"orravane-{VERSION}-windows-setup.exe"
 HOST = "www.orravane.example"
@@ -81,9 +80,9 @@ class Machine:
         more.setdefault("stderr", subprocess.DEVNULL)
         return self.run("wine", *command, check=check, **more)
 
-    def start(self, *command):
+    def start(self, *command, **more):
         return subprocess.Popen(["wine", *map(str, command)], env=self.env,
-                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **more)
 
     def opened_pages(self):
         return self.pages.read_text().split() if self.pages.exists() else []
@@ -98,10 +97,10 @@ class Machine:
         """The windows of this title, as (number, left, top, width, height)."""
         found = []
         for number in self.xdotool("search", "--onlyvisible", "--name", f"^{title}$").split():
-            place = self.xdotool("getwindowgeometry", "--shell", number)
-            values = dict(line.split("=") for line in place.split())
-            if len(values) >= 5:
-                found.append((number, *(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))))
+            place = self.run("xwininfo", "-id", number, capture_output=True, text=True).stdout
+            values = re.findall(r"(?:Absolute upper-left [XY]|Width|Height): +(-?\d+)", place)
+            if len(values) == 4:
+                found.append((number, *map(int, values)))
         return found
 
     def keys(self, *keys):
@@ -187,7 +186,6 @@ class ReportTool(unittest.TestCase):
         return ours
 
     def test_two_thousand_people_in_every_format(self):
-        formats = re.search(r"-f, --format[^\n]*|--format [^\n]*", self.linux("--help").stdout.decode())
         for arguments in (["--format", "json"], ["--format", "text"], ["--format", "rtf"],
                           ["--numbers", "--format", "json"], ["--numbers", "--format", "csv"],
                           ["--numbers", "--format", "tsv"]):
@@ -199,11 +197,39 @@ class ReportTool(unittest.TestCase):
                     self.assertNotIn(b"\r\n", done.stdout)
                 print(f"  {' '.join(arguments)}: {len(done.stdout)} bytes", flush=True)
 
+    def test_two_thousand_documents(self):
+        for form in ("html", "markdown"):
+            folders = self.folder / f"{form} von Windows", self.folder / f"{form} von Linux"
+            for tool, folder in ((self.tool, folders[0]), (self.linux, folders[1])):
+                done = tool("--batch", self.people, "--today", "2027-01-01", "--format", form,
+                            "--output-dir", folder)
+                self.assertEqual(done.returncode, 1, done.stderr[-300:])
+            names = files_below(folders[1])
+            self.assertGreater(len(names), 1000)
+            self.assertEqual(files_below(folders[0]), names)
+            different = [name for name in names if (folders[0] / name).read_bytes() !=
+                         (folders[1] / name).read_bytes()]
+            self.assertEqual(different, [])
+            print(f"  {form}: {len(names)} files", flush=True)
+            for folder in folders:
+                shutil.rmtree(folder)
+
+    def test_a_pdf_is_refused(self):
+        target = self.folder / "none.pdf"
+        done = self.tool("--first", "Clara", "--last", "Winter", "--date", "1985-03-29", "--format",
+                         "pdf", "--output", target)
+        self.assertNotEqual(done.returncode, 0)
+        self.assertEqual(done.stderr.count(b"\n"), 1, done.stderr)
+        print("  " + done.stderr.decode().strip(), flush=True)
+        self.assertFalse(target.exists())
+
     def test_one_person(self):
         person = ["--first", "Zoë", "--last", "Ångström 数", "--date", "1985-03-29",
                   "--today", "2027-01-01"]
-        for form in ("text", "json", "rtf"):
+        for form in ("text", "json", "rtf", "html", "markdown"):
             self.assert_same(*person, "--format", form)
+            self.assert_same(*person, "--format", form, "--topic", "Comprehensive Reading")
+        self.assert_same(*person, "--explain")
         self.assert_same("--book")
         self.assert_same("--list-topics")
         self.assert_same("--version")
@@ -227,7 +253,8 @@ class ReportTool(unittest.TestCase):
         self.assertEqual(done.returncode, 3, done.stderr)
         before = files_below(self.folder)
         few = self.folder / "few.jsonl"
-        few.write_bytes(b"".join(self.people.read_bytes().splitlines(True)[:40]))
+        few.write_text("".join(json.dumps({"first": "Clara", "last": name, "birthdate": "1985-03-29"})
+                               + "\n" for name in ["Winter", "Çelik", "van der Berg", "Moreau"] * 10))
         folders = self.folder / "von Windows", self.folder / "von Linux"
         for tool, folder in ((self.tool, folders[0]), (self.linux, folders[1])):
             done = tool("--batch", few, "--today", "2027-01-01", "--output-dir", folder)
@@ -244,7 +271,8 @@ class ReportTool(unittest.TestCase):
     def test_a_killed_run_leaves_nothing(self):
         target = self.folder / "killed.jsonl"
         run = machine.start(machine.portable / "orravane-report.exe", "--batch", "-", "--output",
-                            target)
+                            target, stdin=subprocess.PIPE)
+        self.addCleanup(run.stdin.close)
         wait_for("the temporary file", lambda: list(self.folder.glob(".orravane-*")))
         machine.wine("taskkill", "/f", "/im", "orravane-report.exe", check=False)
         run.wait(60)
@@ -271,7 +299,9 @@ class ReportTool(unittest.TestCase):
         except OSError:
             pass
         child.wait(60)
-        self.assertIn("é", shown.decode(errors="replace"), shown)
+        # The console says where it writes between the letters.
+        letters = re.sub(r"\x1b\[[?0-9;]*[A-Za-z]", "", shown.decode(errors="replace"))
+        self.assertIn("é", letters)
 
 
 class Window(unittest.TestCase):
@@ -332,10 +362,11 @@ class Window(unittest.TestCase):
         for number in (1, 2):
             self.click(315 + 205 + 42, 56 + 312 + 13)
             wait_for("the save dialog", lambda: machine.windows("Orravane"))
-            time.sleep(2)
+            time.sleep(4)
+            machine.type("C:\\users\\" + machine.home.name + "\\Documents\\ein Bericht.rtf")
             machine.keep(f"5-save-{number}")
-            machine.type("C:\\users\\" + machine.home.name + "\\Documents\\ein Bericht.rtf\n")
-            time.sleep(2)
+            machine.keys("Return")
+            time.sleep(3)
             machine.keep(f"6-saved-{number}")
             if number == 2:  # the question
                 first = target.read_bytes()

@@ -87,6 +87,24 @@ class Program:
         wait_for("the program's end", lambda: self.process.poll() is not None)
         return self.process.returncode
 
+    def close(self):
+        """Closes the window from the keyboard and gives the program's exit code. A window manager
+        that is still busy with the window's focus can let a key go by, so it is pressed again."""
+        pressed = 0.0
+
+        def ended():
+            nonlocal pressed
+            if self.process.poll() is not None:
+                return True
+            if time.monotonic() - pressed > 5:
+                pressed = time.monotonic()
+                self.desktop.keys("alt+F4")
+            return False
+
+        self.desktop.await_keyboard(self.window)
+        wait_for("the window to close", ended)
+        return self.process.returncode
+
     # Places
 
     def await_centred(self):

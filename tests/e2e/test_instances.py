@@ -190,8 +190,7 @@ class Instances(DesktopTest):
             os.kill(browser, 0)  # it is still there
 
             # So is the one that shows the page that says goodbye.
-            screen.keys("alt+F4")
-            self.assertEqual(second.await_end(), 0)
+            self.assertEqual(second.close(), 0)
             screen.await_pages([HOME_PAGE, THANK_YOU_PAGE])
             self.assert_runs(screen, "third")
             os.kill(browser, 0)

@@ -86,9 +86,7 @@ class UpdateQuestion(DesktopTest):
         return moment
 
     def end(self, program):
-        program.desktop.await_keyboard(program.window)
-        program.desktop.keys("alt+F4")
-        self.assertEqual(program.await_end(), 0)
+        self.assertEqual(program.close(), 0)
 
     def test_from_the_first_run_on(self):
         with Desktop("update-question", accessible=True) as screen:

@@ -29,6 +29,12 @@ long MemoryInUse() {
     return file.readAll().split(' ').value(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
+/// Drops what the offscreen display says of each dialog that it shows.
+void WithoutTheDisplaysRemarks(QtMsgType, const QMessageLogContext &, const QString &message) {
+    if (!message.startsWith(u"This plugin does not support"_s))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 struct Wish {
     quint32 seed;
     int events;
@@ -101,6 +107,7 @@ int main(int argc, char *argv[]) {
     const TemporaryHome home;
     if (!scale.isEmpty())
         qputenv("QT_SCALE_FACTOR", scale);
+    qInstallMessageHandler(WithoutTheDisplaysRemarks);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(-1); // every letter begins a new search in a list

@@ -76,6 +76,13 @@ const QStringList &Names() {
     return names;
 }
 
+/// A name of many letters, or of more than can be counted. One in between would take long: the
+/// Hidden Passion compares each letter with each.
+QString LongName(quint32 random) {
+    const quint32 length = random % 8 == 0 ? 33'000 + random / 8 % 7'000 : random / 8 % 1'000;
+    return QString(static_cast<qsizetype>(length), u'q');
+}
+
 template <typename List> decltype(auto) Any(List &&list, quint32 random) {
     return list[static_cast<qsizetype>(random % static_cast<quint32>(std::size(list)))];
 }
@@ -270,7 +277,7 @@ void Session::Perform(const Event &event) {
         break;
     case Kind::Key:
         Key(Any(keys, second), third % 5 == 0 ? Qt::ShiftModifier : Qt::NoModifier, {},
-            third % 16 == 3);
+            third % 6 == 3);
         break;
     case Kind::Letter:
         Letter(Any(std::u16string_view(u"PSPSFH"), second));
@@ -281,9 +288,7 @@ void Session::Perform(const Event &event) {
         break;
     case Kind::EnterName:
         if (TurnToInputPage())
-            EnterName(second % 3,
-                      third % 40 == 0 ? QString(static_cast<qsizetype>(fourth % 40'000), u'q')
-                                      : Any(Names(), third),
+            EnterName(second % 3, third % 40 == 0 ? LongName(fourth) : Any(Names(), third),
                       fourth % 4 == 0);
         break;
     case Kind::PickDate:
@@ -420,9 +425,10 @@ void Session::Key(int key, Qt::KeyboardModifiers modifiers, const QString &text,
     if (written.isEmpty() &&
         (key == Qt::Key_Plus || key == Qt::Key_Minus || key == Qt::Key_Asterisk))
         written = QString(QChar(static_cast<char16_t>(key)));
-    NoteKey(key, modifiers, written, repeated);
+    Note({.what = What::KeyDown, .here = true});
     if (qt_sendShortcutOverrideEvent(focus, 0, key, modifiers, written, repeated))
         return; // it was a shortcut
+    NoteKey(key, modifiers, written, repeated);
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         if (form_.focusWidget() != nullptr)
             focus = form_.focusWidget();
@@ -695,6 +701,13 @@ void Session::KeepEssenceFinite() {
     while (const auto which =
                Model::NameWithoutAnEnd(model_.PersonInTheBoxes(), modReadings::Clock::Year())) {
         const auto index = static_cast<std::size_t>(*which);
+        const int lastYear = dates_[2]->count() - 1;
+        if (model_.names[index].trimmed().isEmpty() && model_.dates[2] != lastYear) {
+            // A name of blanks is good for somebody who is not yet born.
+            model_.dates[2] = lastYear;
+            dates_[2]->setCurrentIndex(lastYear);
+            continue;
+        }
         model_.names[index] += u'E';
         names_[index]->setText(model_.names[index]);
     }
@@ -708,9 +721,16 @@ bool Session::eventFilter(QObject *watched, QEvent *event) {
         if (auto *dialog = qobject_cast<QDialog *>(watched); dialog != nullptr && dialog->isModal())
             // The dialog's own event loop runs this as soon as it waits for the user.
             QTimer::singleShot(0, dialog, [this, dialog] { Answer(*dialog); });
+        if (auto *menu = qobject_cast<QMenu *>(watched);
+            menu != nullptr && !menu->objectName().startsWith(u"mnu"_s))
+            // The one of a scroll bar waits for its end, too.
+            QTimer::singleShot(0, menu, [menu] {
+                if (menu->isVisible())
+                    QTest::keyClick(menu, Qt::Key_Escape);
+            });
         break;
     case QEvent::ShortcutOverride:
-        Note({.what = What::KeyDown, .here = IsHere(watched)});
+        Note({.what = What::KeyDown});
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -772,6 +792,8 @@ void Session::NoteMouse(QObject *watched, QEvent *event) {
     } else if (control == form_.Picture2->RTB->viewport()) {
         if (event->type() != QEvent::MouseButtonDblClick)
             Note({.what = What::PaneMouse});
+        if (mouse->button() == Qt::LeftButton)
+            markingReport_ = !release;
     } else if (control == form_.TV->viewport()) {
         NoteTreeMouse(event);
     }
@@ -812,14 +834,12 @@ void Session::NoteKey(int key, Qt::KeyboardModifiers modifiers, const QString &t
     const bool plain = (modifiers & ~Qt::KeypadModifier) == 0;
     const bool copies = modifiers == Qt::ControlModifier && key == Qt::Key_C;
     if (const int button = ButtonIndex(focus); button >= 0) {
-        Note({.what = What::KeyDown, .here = true});
         if ((IsEnter(key) || key == Qt::Key_Space) && !repeated)
             Note({.what = What::ButtonKey, .control = button});
     } else if (const int link = LinkIndex(focus); link >= 0) {
         if ((IsEnter(key) || key == Qt::Key_Space) && !repeated)
             Note({.what = What::LinkClicked, .control = link});
     } else if (focus == form_.TV) {
-        Note({.what = What::KeyDown, .here = true});
         if (IsEnter(key))
             Note({.what = What::NodeClicked, .text = form_.TV->currentItem()->text(0)});
         else if (copies)
@@ -831,12 +851,10 @@ void Session::NoteKey(int key, Qt::KeyboardModifiers modifiers, const QString &t
         if (copies && caret.hasSelection())
             model_.clipboard = caret.selection().toPlainText();
     } else if (const auto name = NameIndex(focus)) {
-        Note({.what = What::KeyDown, .here = true});
         if (IsEnter(key) && plain && !repeated)
             Note({.what = What::EnterOnInputPage});
         NoteKeyOnName(*name, key, modifiers, text);
     } else if (const auto date = DateIndex(focus)) {
-        Note({.what = What::KeyDown, .here = true});
         if (IsEnter(key) && plain && !repeated)
             Note({.what = What::EnterOnInputPage});
         else
@@ -1012,6 +1030,10 @@ void Session::CompareFocus() {
 void Session::CompareClipboard() {
     const QMimeData *content = QApplication::clipboard()->mimeData();
     const bool empty = content == nullptr || content->formats().isEmpty();
+    // While text is marked with the mouse beside the pane, the toolkit scrolls the pane by a timer,
+    // and takes each time for a move of the mouse.
+    if (markingReport_ && empty)
+        model_.clipboard.reset();
     Check("the clipboard is empty", empty, !model_.clipboard);
     if (!empty && model_.clipboard)
         Check("clipboard", content->text(), *model_.clipboard);

@@ -115,6 +115,7 @@ private:
     const std::array<DateList *, 3> dates_;
     QList<std::pair<QPointer<QWidget>, QRect>> places_; ///< of all controls, as they were
 
+    bool markingReport_ = false; ///< the left button went down on the report and did not come up
     QPoint mouse_{-5, -5};
     Qt::MouseButton held_ = Qt::NoButton;
     quint64 now_ = 1000; ///< the time of the events of the mouse, in milliseconds

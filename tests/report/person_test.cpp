@@ -77,8 +77,10 @@ TEST(CaptureOfAPerson, TakesNoOtherWhiteSpaceForABlank) {
 TEST(CaptureOfAPerson, OwesNothingToTheLocale) {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::Turkish, QLocale::Turkey));
+#ifndef Q_OS_WIN // there the toolkit has no such rules
     // What a capture by the locale's rules would make of it:
     EXPECT_EQ(QLocale().toUpper(Text(u"i")).toStdU16String(), u"\u0130");
+#endif
     EXPECT_EQ(NameOf(u"iris fidel"), u"IRIS FIDEL");
     QLocale::setDefault(QLocale(QLocale::Lithuanian));
     EXPECT_EQ(NameOf(u"i\u0307"), u"I\u0307"); // Lithuanian drops the dot
