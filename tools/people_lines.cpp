@@ -6,6 +6,7 @@
 
 #include <csv.h>
 #include <rapidjson/error/en.h>
+#include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
 #include <algorithm>
@@ -224,7 +225,9 @@ PersonLine ParseJson(const std::string &line) {
         throw Refusal(u"not a JSON object, and the first line is no CSV header; "_s +
                       neededColumns);
     ObjectOfPerson object;
-    rapidjson::StringStream stream(line.c_str());
+    // With its end, because RapidJSON looks for the rest of a character behind the end of a text
+    // that stops within one.
+    rapidjson::MemoryStream stream(line.data(), line.size());
     rapidjson::Reader reader;
     // Iteratively, because a line of a million brackets must not exhaust the stack. Numbers as
     // they stand, because a further one is carried without loss.

@@ -153,7 +153,9 @@ void Run(std::string_view bytes) {
     if (bytes.empty() || !IsSeparator(bytes.front()))
         return;
     const modReadings::FixedClock day{std::chrono::year(2026) / 11 / 21};
-    const auto given = bytes.front() == '?' ? std::nullopt : std::optional(bytes.front());
+    std::optional<char> given;
+    if (bytes.front() != '?')
+        given = bytes.front();
     std::vector<std::string> rows;
     for (const std::string_view piece : Pieces(bytes.substr(1), '\n'))
         if (piece.find_first_not_of(" \t") != std::string_view::npos)
@@ -183,7 +185,8 @@ void Run(std::string_view bytes) {
         }
         return count;
     };
-    const char separator = given ? *given : named('\t') > named(',') ? '\t' : ',';
+    const char found = named('\t') > named(',') ? '\t' : ',';
+    const char separator = given.value_or(found);
     const std::vector<std::string> columns = ColumnsOf(header, separator);
 
     PeopleLines lines = begun;

@@ -42,8 +42,8 @@ inline bool isThorough = true;
 inline void Require(bool holds, const char *what, std::string_view shown = {}) {
     if (holds)
         return;
-    std::fprintf(stderr, "DOES NOT HOLD: %s\n%.*s\n", what,
-                 static_cast<int>(std::min<std::size_t>(shown.size(), 2000)), shown.data());
+    const std::string beginning(shown.substr(0, 2000));
+    std::fprintf(stderr, "DOES NOT HOLD: %s\n%s\n", what, beginning.c_str());
     std::abort();
 }
 

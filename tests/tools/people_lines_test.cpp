@@ -186,6 +186,8 @@ TEST(PeopleLines, RefuseWhatIsNoObjectOfTheMembers) {
              {"{\"first\":\"A\xFF\"}", "not JSON"},
              {"{\"first\":\"A\xC3\"}", "not JSON"},
              {"{\"first\":\"A\xC0\xAF\"}", "not JSON"},
+             {"{\"first\":\"a line cut within a character \xE3", "not JSON"},
+             {"{\"first\":\"a line cut within a character \xF0", "not JSON"},
              {arrays, "not JSON"},
              {objects, "not JSON"},
              {R"({"first":"é😀",})", "at character 15"},
