@@ -21,7 +21,8 @@
 class StandardStreams {
 public:
     StandardStreams();
-    ~StandardStreams();
+    // On Windows it has something to do.
+    ~StandardStreams(); // NOLINT(performance-trivially-destructible)
     StandardStreams(const StandardStreams &) = delete;
     StandardStreams &operator=(const StandardStreams &) = delete;
 };
