@@ -156,14 +156,16 @@ QString AskForFile(const SaveDialogLook &look, QWidget *parent) {
 }
 
 QString WriteWhole(const QString &name, std::string_view content) {
+    const QFile::Permissions earlier = QFile::permissions(name); // none without a file
     QSaveFile file(name); // writes beside the file and takes its place at the end
     const auto size = static_cast<qint64>(content.size());
     // On a full disk a write can be cut short without failing, and a commit would then put
     // the stump in place; only a flush tells. And some file systems find out that there is no
     // room, or that the disk is broken, only when the bytes have to be on it, which a commit
     // asks for without heeding the answer.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
-        !file.flush())
+    // It takes over what the earlier file permits, but not where it fails to ask for that.
+    if (!file.open(QIODevice::WriteOnly) || (earlier && !file.setPermissions(earlier)) ||
+        file.write(content.data(), size) != size || !file.flush())
         return file.errorString();
     if (!IsOnDisk(file.handle()))
         return QString::fromLocal8Bit(std::strerror(errno));
