@@ -7,6 +7,11 @@ if(CLANG_TIDY)
 endif()
 if(clang_tidy_version MATCHES "version 14\\.")
   set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet --extra-arg=-Wno-unknown-warning-option)
+  if(NOT ORRAVANE_LINT_DEEP)
+    foreach(argument -Xclang -analyzer-config -Xclang mode=shallow)
+      list(APPEND CMAKE_CXX_CLANG_TIDY --extra-arg=${argument})
+    endforeach()
+  endif()
   # What the toolkit generates lies in the build folder and is not looked at. A
   # configuration without any check is an error, so it has one.
   file(WRITE ${PROJECT_BINARY_DIR}/.clang-tidy "Checks: '-*,readability-misleading-indentation'\n")
