@@ -668,7 +668,8 @@ void Session::AnswerSaveDialog(QDialog &dialog) {
         break;
     case 2: // is there already
         path = TemporaryHome::PathOf(u"earlier.rtf"_s);
-        if (QFile file(path); file.open(QIODevice::WriteOnly))
+        // But not over what the first half of a double click has just saved there.
+        if (QFile file(path); !file.exists() && file.open(QIODevice::WriteOnly))
             file.write("earlier");
         break;
     default:
@@ -686,11 +687,12 @@ void Session::AnswerSaveDialog(QDialog &dialog) {
     if (path.contains(u"report "_s))
         dialogs_.back().answer += u".txt"_s;
     const QPointer<QDialog> alive(&dialog);
+    const QByteArray before = ContentOf(path);
     name->setText(path);
     press(QDialogButtonBox::Save);
     if (alive && dialog.isVisible()) {
         press(QDialogButtonBox::Cancel);
-        if (path.contains(u"earlier"_s) && ContentOf(path) != "earlier")
+        if (path.contains(u"earlier"_s) && ContentOf(path) != before)
             Complain(u"a file was replaced without a Yes"_s);
     }
 }
