@@ -19,11 +19,9 @@ std::string_view FillOf(Paint paint) {
     case Paint::OnViolet:
         return " class=\"fo\" fill=\"#ffffff\"";
     case Paint::OnGold:
-        return " class=\"fd\" fill=\"#2b2333\"";
-    case Paint::Nothing:
         break;
     }
-    return " fill=\"none\"";
+    return " class=\"fd\" fill=\"#2b2333\"";
 }
 
 std::string_view StrokeOf(Paint paint) {
@@ -34,8 +32,6 @@ std::string_view StrokeOf(Paint paint) {
         return " class=\"sg\" stroke=\"#d9a400\"";
     case Paint::Ink:
         return " class=\"si\" stroke=\"#2b2333\"";
-    case Paint::Nothing:
-        return {};
     default:
         return " class=\"sm\" stroke=\"#8a7d97\"";
     }
@@ -56,16 +52,13 @@ Drawing::Drawing(HtmlWriter &html, int height, std::string_view title, std::stri
 
 Drawing::~Drawing() { html_ << "\n</g>\n</svg>\n"; }
 
-void Drawing::Box(int x, int y, int width, int height, int radius, Paint fill, Paint stroke) {
+void Drawing::Box(int x, int y, int width, int height, int radius, Paint fill) {
     html_ << "<rect x=\"" << x << "\" y=\"" << y << "\" width=\"" << width << "\" height=\""
-          << height << "\" rx=\"" << radius << '"'
-          << (stroke == Paint::Nothing ? FillOf(fill) : " fill=\"none\"") << StrokeOf(stroke)
-          << "/>";
+          << height << "\" rx=\"" << radius << '"' << FillOf(fill) << "/>";
 }
 
-void Drawing::Circle(int x, int y, int radius, Paint fill, Paint stroke) {
-    html_ << "<circle cx=\"" << x << "\" cy=\"" << y << "\" r=\"" << radius << '"'
-          << (stroke == Paint::Nothing ? FillOf(fill) : " fill=\"none\"") << StrokeOf(stroke)
+void Drawing::Circle(int x, int y, int radius, Paint fill) {
+    html_ << "<circle cx=\"" << x << "\" cy=\"" << y << "\" r=\"" << radius << '"' << FillOf(fill)
           << "/>";
 }
 

@@ -22,7 +22,6 @@ enum class Paint {
     Muted,    ///< text beside, axes
     OnViolet, ///< text on Violet
     OnGold,   ///< text on Gold
-    Nothing
 };
 
 enum class Align { Start, Middle, End };
@@ -35,9 +34,8 @@ public:
     Drawing(const Drawing &) = delete;
     Drawing &operator=(const Drawing &) = delete;
 
-    void Box(int x, int y, int width, int height, int radius, Paint fill,
-             Paint stroke = Paint::Nothing);
-    void Circle(int x, int y, int radius, Paint fill, Paint stroke = Paint::Nothing);
+    void Box(int x, int y, int width, int height, int radius, Paint fill);
+    void Circle(int x, int y, int radius, Paint fill);
     /// A circle of dots.
     void EmptyPlace(int x, int y, int radius);
     void Line(int x1, int y1, int x2, int y2, Paint stroke, int width = 1);

@@ -2,6 +2,7 @@
 
 #include "shell/style.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -89,6 +90,20 @@ void RichTextBox::mouseReleaseEvent(QMouseEvent *event) {
     emit mouseUp();
     if (viewport()->rect().contains(event->position().toPoint()))
         emit clicked();
+}
+
+void RichTextBox::timerEvent(QTimerEvent *event) {
+    const bool mouseIsElsewhere = QApplication::activeModalWidget() != nullptr ||
+                                  QApplication::activePopupWidget() != nullptr ||
+                                  !(QGuiApplication::mouseButtons() & Qt::LeftButton);
+    if (mouseIsElsewhere) {
+        // A release that only the toolkit hears of: it stops the timer.
+        const QPoint place = QCursor::pos();
+        QMouseEvent release(QEvent::MouseButtonRelease, viewport()->mapFromGlobal(QPointF(place)),
+                            place, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        Framed::mouseReleaseEvent(&release);
+    }
+    Framed::timerEvent(event);
 }
 
 BoxLook RichTextBox::BoxNow() const {

@@ -36,6 +36,10 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// While text is dragged beyond the edge, the toolkit scrolls by a timer and takes each time
+    /// for a move of the mouse. The release ends that. A dialog or a menu that has come up
+    /// meanwhile by the keyboard gets the release in the pane's place, so the drag ends with it.
+    void timerEvent(QTimerEvent *event) override;
 
 private:
     modReadings::Report report_;

@@ -201,6 +201,8 @@ class Program:
                               ("txtLastName", person.last)):
             self.click(control)
             if text:
+                # A dialog before may have had the keyboard until now.
+                self.desktop.await_keyboard(self.window)
                 self.desktop.type(text)
         # A list takes the entry whose beginning is typed.
         for text in (person.month, str(person.day), str(person.year)):

@@ -28,9 +28,11 @@ struct Answer {
     std::string row;
 };
 
-/// Answers `text` in rows of numbers of this format. Requires one quiet line of output, in which
-/// the line's number and the error come back.
-inline Answer Check(const std::string &text, PeopleLines lines, Format format) {
+/// Answers `text` in rows of numbers of this format; `tooLong` says that it is the beginning of a
+/// line that is. Requires one quiet line of output, in which the line's number and the error come
+/// back.
+inline Answer Check(const std::string &text, PeopleLines lines, Format format,
+                    bool tooLong = false) {
     Options options;
     options.numbers = true;
     options.format = format;
@@ -43,7 +45,7 @@ inline Answer Check(const std::string &text, PeopleLines lines, Format format) {
     constexpr long long number = 4711;
     const bool composed = format == Format::Json && text.size() % 2 == 0;
     const LineAnswer answer =
-        AnswerLine({text, false, number, 0, number}, lines, composed, *writer);
+        AnswerLine({text, tooLong, number, 0, number}, lines, composed, *writer);
     Require(!answer.remark || (answer.person && IsQuiet(*answer.remark)),
             "a remark is a quiet line about a person");
     const std::string &row = sink.bytes;
@@ -52,6 +54,7 @@ inline Answer Check(const std::string &text, PeopleLines lines, Format format) {
         return {};
     }
     Require(answer.person != answer.wrong.has_value(), "a line is a person or wrong");
+    Require(!tooLong || answer.wrong, "a line that is too long is wrong", row);
     Require(row.ends_with('\n'), "an answer is a line", row);
     const std::string_view line = std::string_view(row).substr(0, row.size() - 1);
     if (format == Format::Tsv)

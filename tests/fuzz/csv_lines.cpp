@@ -228,6 +228,15 @@ void Run(std::string_view bytes) {
     for (std::size_t index = 0; isThorough && index < rows.size() && index < 3; ++index) {
         const Format format = index == 0 ? Format::Csv : index == 1 ? Format::Tsv : Format::Json;
         PeopleLines fresh = begun;
+        batch_answer::Check(rows[index], fresh, format, true);
+        if (results[index].kind == Result::Kind::Rest) {
+            // Read behind the rows before it, where it has no answer of its own.
+            PeopleLines before = begun;
+            for (std::size_t row = 0; row < index; ++row)
+                ResultOf(before, rows[row]);
+            const batch_answer::Answer none = batch_answer::Check(rows[index], before, format);
+            Require(!none.person && none.row.empty(), "the rest of a row has no answer", bytes);
+        }
         const batch_answer::Answer answer = batch_answer::Check(rows[index], fresh, format);
         if (!answer.person || format != Format::Csv)
             continue;

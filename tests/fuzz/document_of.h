@@ -16,7 +16,7 @@
 
 /// The document, or nothing for a person whom the report tool refuses.
 inline std::optional<modReadings::Document> DocumentOf(std::string_view bytes) {
-    std::vector<std::string_view> parts = Pieces(bytes.substr(0, 400), '|');
+    std::vector<std::string_view> parts = Pieces(bytes.substr(0, 2000), '|');
     parts.resize(7);
     const auto text = [&](std::size_t index) {
         return QStringView(AnyUnits(parts[index])).toString();

@@ -198,6 +198,8 @@ void Run(std::string_view bytes) {
             }
         }
         CheckLine(line, lines);
+        if (isThorough && answered == 0)
+            batch_answer::Check(line, lines, Format::Csv, true);
         if (isThorough && ++answered <= 3)
             batch_answer::Check(line, lines,
                                 answered == 1   ? Format::Json

@@ -1,7 +1,8 @@
 // The lines of a file, plain or gzip, whatever pieces it comes in. The first byte of an input
 // says how: bit 0, it is packed with gzip first, as two members; bit 1, it comes through a socket
 // in pieces of the size that the second byte says. 4 to 7 say besides that the byte FF stands for
-// 100,000 letters, so that lines can be too long.
+// 100,000 letters, so that lines can be too long. 8 to 11 stand for what cannot be read: a folder,
+// a file that is not there, one that breaks off, a name of any bytes below a file.
 
 #include "tools/line_reader.h"
 #include "tests/fuzz/fuzz.h"
@@ -130,11 +131,44 @@ private:
     int before_ = -1;
 };
 
+/// What cannot be read is refused with a message, when it is opened or at its first line.
+void CheckUnreadable(unsigned which, std::string_view name) {
+    QString file;
+    switch (which) {
+    case 0:
+        file = QStringLiteral("/");
+        break;
+    case 1:
+        file = QStringLiteral("/nonexistent/people");
+        break;
+    case 2:
+        file = QStringLiteral("/proc/self/mem"); // opens, and has nothing at its beginning
+        break;
+    default:
+        file = QStringLiteral("/dev/null/") + QStringView(AnyUnits(name)).toString();
+        break;
+    }
+    try {
+        LineReader reader(file);
+        std::string line;
+        reader.Next(line);
+        Require(false, "what cannot be read is refused", name);
+    } catch (const Refusal &refusal) {
+        Require(refusal.Code() == ExitCode::CannotReadOrWrite &&
+                    refusal.Line().startsWith(u"--batch: "),
+                "what cannot be read is refused as such", name);
+    }
+}
+
 void Run(std::string_view bytes) {
     if (bytes.size() < 2)
         return;
     const auto how = static_cast<unsigned char>(bytes[0]);
     const auto size = static_cast<unsigned char>(bytes[1]);
+    if (how / 4U == 2U) {
+        CheckUnreadable(how % 4U, bytes.substr(2, 200));
+        return;
+    }
     std::string text(bytes.substr(2, 4096));
     if (how / 4U == 1U) {
         std::string longer;

@@ -114,19 +114,22 @@ int main(int argc, char *argv[]) {
     App::Identify();
 
     QCommandLineParser parser;
-    parser.addOptions({{u"seed"_s, u"The first session."_s, u"number"_s, u"1"_s},
-                       {u"events"_s, u"How many events in all."_s, u"number"_s, u"1000"_s},
-                       {u"session"_s, u"Events of a session at most."_s, u"number"_s, u"2000"_s},
-                       {u"only"_s, u"The events to play, of one session."_s, u"list"_s},
-                       {u"clicks"_s, u"Clicks and nothing else."_s},
-                       {u"endless"_s, u"Nobody closes the window."_s},
-                       {u"marks"_s, u"How many times to tell the memory."_s, u"number"_s, u"0"_s},
-                       {u"describe"_s, u"Says what is done."_s}});
+    parser.addOptions(
+        {{u"seed"_s, u"The first session."_s, u"number"_s, u"1"_s},
+         {u"events"_s, u"How many events in all."_s, u"number"_s, u"1000"_s},
+         {u"length"_s,
+          u"Events of a session at most. Not \"session\", which the toolkit takes for itself."_s,
+          u"number"_s, u"2000"_s},
+         {u"only"_s, u"The events to play, of one session."_s, u"list"_s},
+         {u"clicks"_s, u"Clicks and nothing else."_s},
+         {u"endless"_s, u"Nobody closes the window."_s},
+         {u"marks"_s, u"How many times to tell the memory."_s, u"number"_s, u"0"_s},
+         {u"describe"_s, u"Says what is done."_s}});
     parser.process(application);
-    Wish wish{parser.value(u"seed"_s).toUInt(),   parser.value(u"events"_s).toInt(),
-              parser.value(u"session"_s).toInt(), {},
-              parser.isSet(u"clicks"_s),          parser.isSet(u"endless"_s),
-              parser.isSet(u"describe"_s),        parser.value(u"marks"_s).toInt()};
+    Wish wish{parser.value(u"seed"_s).toUInt(),  parser.value(u"events"_s).toInt(),
+              parser.value(u"length"_s).toInt(), {},
+              parser.isSet(u"clicks"_s),         parser.isSet(u"endless"_s),
+              parser.isSet(u"describe"_s),       parser.value(u"marks"_s).toInt()};
     for (const QString &index : parser.value(u"only"_s).split(u',', Qt::SkipEmptyParts))
         wish.only << index.toInt();
     return PlayAll(wish);

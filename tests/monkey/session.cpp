@@ -686,11 +686,12 @@ void Session::AnswerSaveDialog(QDialog &dialog) {
     if (path.contains(u"report "_s))
         dialogs_.back().answer += u".txt"_s;
     const QPointer<QDialog> alive(&dialog);
+    const QByteArray before = ContentOf(path);
     name->setText(path);
     press(QDialogButtonBox::Save);
     if (alive && dialog.isVisible()) {
         press(QDialogButtonBox::Cancel);
-        if (path.contains(u"earlier"_s) && ContentOf(path) != "earlier")
+        if (path.contains(u"earlier"_s) && ContentOf(path) != before)
             Complain(u"a file was replaced without a Yes"_s);
     }
 }

@@ -5,6 +5,9 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QWindow>
+
+#include <optional>
 
 // The report pane: how a report stands in it, that it wipes the clipboard, and printing.
 
@@ -107,6 +110,8 @@ class ReportPaneTest : public WindowTest {
         QCOMPARE(RTB.verticalScrollBar()->value(), 0); // the view is where reading starts
         QVERIFY(RTB.isReadOnly());
     }
+
+    ulong time_ = 10'000; // of the last mouse event
 
 private slots:
     void init() {
@@ -269,6 +274,77 @@ private slots:
         Mouse(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
         Mouse(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton, QPoint(-30, 10));
         QCOMPARE(clicks, 1);
+    }
+
+    void ADragWhoseEndIsLostLeavesTheClipboardAlone() {
+        // While text is dragged beyond the edge, the pane scrolls by a timer, and each time counts
+        // as a move of the mouse. A dialog that comes up by the keyboard, or a menu, gets the
+        // release in the pane's place; then the drag is over all the same.
+        ClickNode(u"Comprehensive Reading"_s);
+        QWindow *window = form.windowHandle();
+        const auto mouse = [&](QEvent::Type type, QPoint point, Qt::MouseButtons held) {
+            const QPoint place = RTB.viewport()->mapTo(&form, point);
+            const Qt::MouseButton button =
+                type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+            QCursor::setPos(form.mapToGlobal(place));
+            qt_handleMouseEvent(window, place, window->mapToGlobal(place), held, button, type, {},
+                                static_cast<int>(++time_));
+            QApplication::processEvents();
+        };
+        const QPoint inside(60, 60);
+        const QPoint below(60, RTB.viewport()->height() + 40);
+        const auto drag = [&] {
+            RTB.verticalScrollBar()->setValue(0);
+            mouse(QEvent::MouseButtonPress, inside, Qt::LeftButton);
+            mouse(QEvent::MouseMove, below, Qt::LeftButton);
+            FillClipboard();
+            QTRY_VERIFY(RTB.verticalScrollBar()->value() > 0); // it scrolls by itself
+            QVERIFY(ClipboardIsEmpty());
+        };
+        const auto isLeftAlone = [&] {
+            FillClipboard();
+            QTest::qWait(150); // the timer takes 100 ms at first, then less
+            return !ClipboardIsEmpty();
+        };
+
+        // As usual: the release ends it.
+        drag();
+        mouse(QEvent::MouseButtonRelease, below, Qt::NoButton);
+        QVERIFY(isLeftAlone());
+
+        // A dialog comes up and gets the release, or the button is still held when it goes.
+        for (const bool released : {true, false}) {
+            drag();
+            std::optional<bool> quiet;
+            dialogs.Plan([&](QDialog &dialog) {
+                quiet = isLeftAlone();
+                if (released)
+                    mouse(QEvent::MouseButtonRelease, below, Qt::NoButton);
+                dialog.reject();
+            });
+            QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
+            QTRY_VERIFY(quiet.has_value() && !form.cmdSave->isDown());
+            QVERIFY(*quiet);
+            QVERIFY(isLeftAlone());
+            Activate();
+            if (!released)
+                mouse(QEvent::MouseButtonRelease, below, Qt::NoButton);
+            QVERIFY(isLeftAlone());
+        }
+
+        // A menu gets it.
+        drag();
+        QTest::keyClick(&form, Qt::Key_H, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        mouse(QEvent::MouseButtonRelease, below, Qt::NoButton);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+        QVERIFY(isLeftAlone());
+
+        // And marking by the mouse works as before.
+        drag();
+        mouse(QEvent::MouseButtonRelease, below, Qt::NoButton);
+        QVERIFY(RTB.textCursor().hasSelection());
     }
 
     void WhateverAnotherProgramPutThereIsWiped() {
