@@ -21,23 +21,22 @@ enum class Paint {
     Ink,      ///< text
     Muted,    ///< text beside, axes
     OnViolet, ///< text on Violet
-    OnGold,   ///< text on Gold
-    Nothing
+    OnGold    ///< text on Gold
 };
 
 enum class Align { Start, Middle, End };
 
 class Drawing {
 public:
-    /// Begins a drawing of this height. The elements with these ids name and describe it.
-    Drawing(HtmlWriter &html, int height, std::string_view title, std::string_view words);
+    /// Begins a drawing of this height. The elements `id`-title and `id`-words name and describe
+    /// it.
+    Drawing(HtmlWriter &html, int height, std::string_view id);
     ~Drawing();
     Drawing(const Drawing &) = delete;
     Drawing &operator=(const Drawing &) = delete;
 
-    void Box(int x, int y, int width, int height, int radius, Paint fill,
-             Paint stroke = Paint::Nothing);
-    void Circle(int x, int y, int radius, Paint fill, Paint stroke = Paint::Nothing);
+    void Box(int x, int y, int width, int height, int radius, Paint fill);
+    void Circle(int x, int y, int radius, Paint fill);
     /// A circle of dots.
     void EmptyPlace(int x, int y, int radius);
     void Line(int x1, int y1, int x2, int y2, Paint stroke, int width = 1);

@@ -12,7 +12,7 @@ namespace {
 std::string Written(std::u16string_view text) {
     HtmlWriter html;
     html << text;
-    return html.Take();
+    return std::string(html.Written());
 }
 
 std::string HtmlFor(std::u16string first, std::u16string last) {
@@ -52,7 +52,7 @@ TEST(HtmlWriter, ReplacesWhatNoHtmlMayHold) {
 TEST(HtmlWriter, PutsMarkupBetweenLines) {
     HtmlWriter html;
     html.Lines(u"One & two.\r\nA second line that is longer than a block.\r\n", "|");
-    EXPECT_EQ(html.Take(), "One &amp; two.|A second line that is longer than a block.|");
+    EXPECT_EQ(html.Written(), "One &amp; two.|A second line that is longer than a block.|");
 }
 
 TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
