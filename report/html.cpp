@@ -191,7 +191,13 @@ std::string ToHtml(const Document &document) {
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<meta name=\"color-scheme\" content=\"light dark\">\n<title>"
          << shortName << " \u2013 " << readingTitle << ", " << document.readFor
-         << "</title>\n<style>\n"
+         << "</title>\n<meta name=\"author\" content=\"Orravane\">\n"
+            "<meta name=\"generator\" content=\"Orravane\">\n"
+            "<meta name=\"description\" content=\"A numerology report for "
+         << shortName << ", born " << document.born << ", read for " << document.readFor
+         << ".\">\n<meta name=\"keywords\" content=\"numerology, Pythagorean letter chart, "
+            "Life Path, Destiny, Soul Urge, Inner Dreams, Pinnacles, Personal Year, Essence\">\n"
+            "<style>\n"
          << documentStyle << "@page {\n  @top-left { content: \"";
     WriteCssString(html, shortName);
     html << "\"; }\n  @top-right { content: \"";

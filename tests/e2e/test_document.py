@@ -128,6 +128,8 @@ class Document(DesktopTest):
             facts = dict(re.findall(r"^(.+?): +(.*)$", screen.run("pdfinfo", str(pdf)).decode(),
                                     re.MULTILINE))
             self.assertIn("maria elena fernandez", facts["Title"])
+            self.assertIn("A numerology report for maria elena", facts["Subject"])
+            self.assertEqual(facts["Author"], "Orravane")
             self.assertEqual(facts["Encrypted"], "no")
             self.assertGreater(int(facts["Pages"]), 10)
             content = pdf.read_bytes()

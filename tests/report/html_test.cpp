@@ -63,6 +63,16 @@ TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
               std::string::npos);
 }
 
+// They become the properties of a PDF.
+TEST(Html, SaysInItsHeadWhatItIs) {
+    const std::string html = HtmlFor(u"\"Ann\"", u"Lee");
+    EXPECT_NE(
+        html.find("<meta name=\"description\" content=\"A numerology report for &quot;Ann&quot; "
+                  "Lee, born March 7, 1990, read for November 16, 2026.\">"),
+        std::string::npos);
+    EXPECT_NE(html.find("<meta name=\"author\" content=\"Orravane\">"), std::string::npos);
+}
+
 // What could end the style, and what could end the text within it. A blank ends each number.
 TEST(Html, WritesTheNameAtTheTopOfThePagesByNumbers) {
     const std::string html = HtmlFor(u"Ann</style>\"\\\xD83D", u"Lee\U0001F600");
