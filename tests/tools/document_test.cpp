@@ -1,6 +1,5 @@
 // Documents from the built program, with the real engine of the PDFs or a stand-in for it.
 
-#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
 #include "tests/tools/program.h"
 
