@@ -76,11 +76,14 @@ bool TopicTreeView::viewportEvent(QEvent *event) {
 }
 
 QItemSelectionModel::SelectionFlags TopicTreeView::selectionCommand(const QModelIndex &index,
-                                                                    const QEvent *) const {
+                                                                    const QEvent *event) const {
     // One node is always selected: neither a click beside the nodes nor one with Ctrl takes
-    // the selection away.
-    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
-                           : QItemSelectionModel::NoUpdate;
+    // the selection away. A press selects, and its release nothing more: a key may meanwhile
+    // have brought another node to where the mouse is.
+    const bool isRelease = event != nullptr && event->type() == QEvent::MouseButtonRelease;
+    return index.isValid() && !isRelease
+               ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+               : QItemSelectionModel::NoUpdate;
 }
 
 BoxLook TopicTreeView::BoxNow() const { return {hasFocus() ? Colors::gold : Colors::violet, 1, 0}; }

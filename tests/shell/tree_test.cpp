@@ -384,6 +384,20 @@ private slots:
         QVERIFY(IsSelected(u"Help"_s));
     }
 
+    void TheReleaseOfAPressBesideTheNodesSelectsNothing() {
+        EnterSomebody();
+        TV.collapseAll();
+        ClickNode(u"Numerology"_s);
+        const QRect last = TV.visualItemRect(Node(u"Help"_s));
+        const QPoint below(last.center().x(), last.bottom() + 30);
+        QVERIFY(TV.itemAt(below) == nullptr);
+        QTest::mousePress(TV.viewport(), Qt::LeftButton, {}, below);
+        QTest::keyClick(&TV, Qt::Key_Right); // opens the branch
+        QVERIFY(TV.itemAt(below) != nullptr);
+        QTest::mouseRelease(TV.viewport(), Qt::LeftButton, {}, below);
+        QVERIFY(IsSelected(u"Numerology"_s));
+    }
+
     void AClickOnATopicOpensAndClosesNoBranch() {
         EnterSomebody();
         ClickNode(u"Essence"_s);
