@@ -4,10 +4,12 @@
 #
 #     ./run --version && docs/make-pictures.sh
 #
-# Needs xvfb, openbox, xdotool and imagemagick, and the release build.
+# usage: docs/make-pictures.sh [BUILD]    build/release by default
+#
+# Needs xvfb, openbox, xdotool and imagemagick, and a release build.
 set -eu
 cd "$(dirname "$0")/.."
-program=$PWD/build/release/shell/orravane
+build=$PWD/${1:-build/release}
 pictures=$PWD/docs/pictures
 
 home=$(mktemp -d)
@@ -26,9 +28,12 @@ PATH=$home/bin:$PATH
 openbox >/dev/null 2>&1 &
 until xdotool get_desktop >/dev/null 2>&1; do sleep 0.1; done
 
-"$program" &
-window=$(xdotool search --sync --onlyvisible --name '^Orravane v1.0$' | head -n 1)
-xdotool windowactivate --sync "$window"
+# open PROGRAM TITLE: starts a program and gives its window the keyboard.
+open() {
+    "$1" &
+    window=$(xdotool search --sync --onlyvisible --name "^$2\$" | head -n 1)
+    xdotool windowactivate --sync "$window"
+}
 
 # key KEY...: presses keys, and gives the window a moment to paint.
 key() {
@@ -42,14 +47,20 @@ picture() {
     import -frame -window "$window" -strip "$pictures/$1.png"
 }
 
-xdotool type --delay 30 "clara"
-key Tab
-xdotool type --delay 30 "jane"
-key Tab
-xdotool type --delay 30 "winter"
-key Tab M a r
-key Tab 2 9
-key Tab 1 9 8 5
+# enter FIRST MIDDLE LAST: types the names and picks 29 March 1985.
+enter() {
+    xdotool type --delay 30 "$1"
+    key Tab
+    xdotool type --delay 30 "$2"
+    key Tab
+    xdotool type --delay 30 "$3"
+    key Tab M a r
+    key Tab 2 9
+    key Tab 1 9 8 5
+}
+
+open "$build/shell/orravane" 'Orravane v1.0'
+enter clara jane winter
 picture input
 
 key alt+p
@@ -65,12 +76,24 @@ picture help
 key alt+f x
 wait $! 2>/dev/null || true
 
+open "$build/document/orravane-document" 'Orravane Document'
+enter Clara Jane Winter
+key Tab N o v
+key Tab 2 1
+key Tab 2 0 2 6 # the day of the sample document
+picture document-window
+key ctrl+q
+wait $! 2>/dev/null || true
+
 # Three pages of the sample document, where the engine that makes pages is there.
 if command -v weasyprint >/dev/null && command -v pdftoppm >/dev/null; then
     weasyprint --quiet docs/sample-report.html "$home/sample.pdf"
     pdftoppm -r 80 -png "$home/sample.pdf" "$home/page"
     montage "$home/page-01.png" "$home/page-05.png" "$home/page-09.png" -tile 3x1 \
         -geometry +12+12 -background '#8a7d97' -strip "$pictures/document.png"
+    # One of its drawings, with a margin: whether the frame fits is to be looked at.
+    pdftoppm -r 130 -f 5 -l 5 -x 98 -y 612 -W 876 -H 538 -png -singlefile "$home/sample.pdf" "$home/life"
+    convert "$home/life.png" -strip "$pictures/document-life.png"
 else
-    echo "No weasyprint and pdftoppm: docs/pictures/document.png stays as it is." >&2
+    echo "No weasyprint and pdftoppm: the pictures of the document stay as they are." >&2
 fi

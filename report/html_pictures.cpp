@@ -374,7 +374,7 @@ void Draw(HtmlWriter &html, const TimePicture &picture) {
 
 void Draw(HtmlWriter &html, const PlanesPicture &picture) {
     constexpr int row = 50;
-    constexpr std::size_t mostLettersShown = 24;
+    constexpr std::size_t mostLettersShown = 18; // what is behind them is the share
     Drawing drawing(html, static_cast<int>(picture.planes.size()) * row, picture.text.id);
     int y = 0;
     for (const PlanesPicture::Plane &plane : picture.planes) {

@@ -1,5 +1,6 @@
 """The pictures of README and user guide show the present window."""
 
+import os
 import pathlib
 import subprocess
 
@@ -30,13 +31,14 @@ class Pictures(DesktopTest):
                    for left, right in zip(zip(*[iter(one.rgb)] * 3), zip(*[iter(other.rgb)] * 3))
                    ) / (one.width * one.height)
 
-    def assert_current(self, program, name):
-        picture = self.documented(name, program.width, program.height)
+    def assert_current(self, screen, window, name):
+        geometry = screen.geometry(window)
+        picture = self.documented(name, *geometry[2:])
         try:
             wait_for(f"the window to look as in {name}.png",
-                     lambda: self.unlike(program.picture(), picture) < 0.002, 20)
+                     lambda: self.unlike(screen.screenshot(*geometry), picture) < 0.002, 20)
         except AssertionError:
-            program.keep(name)
+            screen.screenshot(*geometry).save(screen.artefact(f"{name}.png"))
             raise
 
     def test_pictures_are_current(self):
@@ -44,15 +46,29 @@ class Pictures(DesktopTest):
             program = screen.orravane(scale=1.5)  # as in the pictures
             program.enter(CLARA)
             screen.park_mouse()
-            self.assert_current(program, "input")
+            self.assert_current(screen, program.window, "input")
             screen.keys("alt+p")
             program.await_report()
             # The report begins with the month of today; the other pages know no date.
             screen.keys(*["Down"] * 6, "Return")
-            self.assert_current(program, "topic")
+            self.assert_current(screen, program.window, "topic")
             screen.keys("End", "Return")
-            self.assert_current(program, "help")
+            self.assert_current(screen, program.window, "help")
             self.assert_quiet(screen)
+
+    def test_picture_of_the_window_for_documents_is_current(self):
+        with Desktop("pictures-document") as screen:
+            screen.spawn([os.environ["ORRAVANE_DOCUMENT"]], log="document",
+                         env={"QT_SCALE_FACTOR": "1.5"})
+            window = screen.window("Orravane Document")
+            screen.await_keyboard(window)
+            for text in ("Clara", "Jane", "Winter", "Mar", "29", "1985", "Nov", "21"):
+                screen.type(text)
+                screen.keys("Tab")
+            screen.type("2026")
+            screen.park_mouse()
+            self.assert_current(screen, window, "document-window")
+            self.assert_quiet(screen, "document")
 
 
 if __name__ == "__main__":
