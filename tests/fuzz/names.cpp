@@ -263,9 +263,9 @@ void Run(std::string_view bytes) {
     RunAllCalculators();
     CheckRanges(bytes);
     CheckNumbers(static_cast<int>(days.front().year()), bytes);
-    const auto isNumber = [](const std::u16string &text) {
+    const auto isNumber = [](const std::u16string &slot) {
         try {
-            NumberFromText(text);
+            NumberFromText(slot);
             return true;
         } catch (const RuntimeFailure &) {
             return false;
