@@ -11,7 +11,7 @@
 #include "numbers/life_path_periods.h"
 #include "numbers/pinnacles.h"
 #include "numbers/planes.h"
-#include "report/rendering.h"
+#include "report/report.h"
 
 #include <algorithm>
 #include <charconv>
@@ -32,7 +32,9 @@ constexpr std::array<std::u16string_view, 4> ordinals{u"First", u"Second", u"Thi
 class OnAnEmptyStore {
 public:
     explicit OnAnEmptyStore(const UserProfile &person)
-        : store_(std::exchange(store, {})), profile_(std::exchange(profile, person)) {}
+        : store_(store), profile_(std::exchange(profile, person)) {
+        store = {}; // its texts keep their memory, as they do when empty ones come back
+    }
     ~OnAnEmptyStore() {
         store = std::move(store_);
         profile = std::move(profile_);
@@ -45,21 +47,31 @@ private:
     UserProfile profile_;
 };
 
-std::u16string Number(long long number) {
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
+// Texts are put together of pieces: texts, and numbers in decimal.
 
-void AppendNumber(std::u16string &text, int number) {
+std::size_t MostUnitsOf(std::u16string_view text) { return text.size(); }
+std::size_t MostUnitsOf(int) { return 11; }
+
+void AppendPiece(std::u16string &text, std::u16string_view piece) { text += piece; }
+/// A literal, whose length the compiler knows.
+template <std::size_t size>
+void AppendPiece(std::u16string &text, const char16_t (&literal)[size]) {
+    text.append(literal, size - 1);
+}
+void AppendPiece(std::u16string &text, int number) {
     char digits[12];
     const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
-    text.append(digits, end);
+    std::for_each(digits, end, [&](char digit) { text += static_cast<char16_t>(digit); });
 }
 
-/// One text of pieces.
+template <typename... Pieces> void Append(std::u16string &text, const Pieces &...pieces) {
+    (AppendPiece(text, pieces), ...);
+}
+
 template <typename... Pieces> std::u16string Joined(const Pieces &...pieces) {
     std::u16string text;
-    (text.append(pieces), ...);
+    text.reserve((MostUnitsOf(pieces) + ...));
+    Append(text, pieces...);
     return text;
 }
 
@@ -141,38 +153,29 @@ void AppendSections(std::vector<DocumentPart> &parts, std::u16string_view text, 
     finish();
 }
 
-/// The parts of a topic, from the runs of its rendering. They are the runs without the line
-/// breaks that end them.
-std::vector<DocumentPart> PartsOf(const Topic &topic, Report &report) {
-    const auto blocks = topic.Blocks();
-    const std::size_t headings = report.size() - blocks.size();
-
+/// The parts of a topic from the slots that its report shows.
+std::vector<DocumentPart> PartsOf(const Topic &topic) {
     std::vector<DocumentPart> parts;
-    parts.reserve(blocks.size());
-    std::u16string label;
-    for (std::size_t index = 0; index < blocks.size(); ++index) {
-        const Block &block = blocks[index];
-        std::u16string &text = report[headings + index].text;
-        text.resize(text.size() - static_cast<std::size_t>(block.breaks) * lineBreak.size());
+    parts.reserve(topic.Blocks().size());
+    std::u16string_view label;
+    for (const Block &block : topic.Blocks()) {
+        const std::u16string &text = store.*block.slot;
         if (block.IsLabel()) {
-            label = std::move(text);
+            label = text;
             continue;
         }
         if (HasTitles(block.slot)) {
             AppendSections(parts, text, block.isAbout);
             continue;
         }
-        if (!block.before.empty()) {
+        if (!block.before.empty())
             label = block.before;
-            text.erase(0, block.before.size());
-        }
         if (label.empty() && text.empty())
             continue;
         DocumentPart &part = parts.emplace_back();
-        part.label = std::move(label);
-        part.text = std::move(text);
+        part.label = std::exchange(label, {});
+        part.text = text;
         part.explains = block.isAbout;
-        label.clear();
     }
     return parts;
 }
@@ -195,38 +198,38 @@ void ReferToEarlierParts(std::vector<DocumentPart> &parts) {
 
 /// The day, month or year of which a topic speaks.
 std::u16string SpeaksOf(const Topic &topic, std::chrono::year_month_day day, int16 age) {
-    std::u16string year = Number(static_cast<int>(day.year()));
+    const auto year = static_cast<int>(day.year());
     if (topic.calculate == CalcPersonalYear)
-        return year;
+        return Joined(year);
     if (topic.calculate == CalcPersonalMonth)
         return Joined(englishMonths[static_cast<unsigned>(day.month()) - 1], u" ", year);
     if (topic.calculate == CalcPersonalDay)
         return LongDate(day);
     if (topic.calculate == CalcEssence)
-        return age < 0 ? year : Joined(year, u", age ", Number(age));
+        return age < 0 ? Joined(year) : Joined(year, u", age ", age);
     return {};
 }
 
 DocumentTopic TopicFor(Calculator calculate, std::chrono::year_month_day day, int16 age) {
     const Topic &topic = TopicOf(calculate);
-    Report report = RunAndRenderTopic(topic);
+    Attempt(calculate);
 
     DocumentTopic made;
     made.caption = topic.caption;
     made.id = PlaceOf(topic);
-    const std::u16string_view heading = report.front().text;
-    made.heading = TrimBlanks(heading.substr(0, heading.find(lineBreak)));
-    Attempt([&] { made.number = TrimBlanks(HeadingNumberText(topic)); });
+    const std::u16string number = HeadingNumberText(topic);
+    made.number = TrimBlanks(number);
+    made.heading = Joined(topic.heading, number);
+    made.heading.resize(TrimBlanks(made.heading).size()); // blanks stand at its end alone
     made.speaksOf = SpeaksOf(topic, day, age);
-    made.parts = PartsOf(topic, report);
+    made.parts = PartsOf(topic);
     std::size_t count = 0;
     for (DocumentPart &part : made.parts) {
-        if (part.label.empty()) {
-            ++count; // nothing leads there
-            continue;
-        }
+        ++count;
+        if (part.label.empty())
+            continue; // nothing leads there
         part.id.reserve(made.id.size() + 4);
-        part.id.append(made.id).append(1, '-').append(std::to_string(++count));
+        part.id.append(made.id).append(1, '-').append(std::to_string(count));
     }
     ReferToEarlierParts(made.parts);
     return made;
@@ -242,7 +245,8 @@ std::vector<DocumentPart *> PhasesOf(DocumentTopic &topic) {
 }
 
 DocumentTopic &TopicIn(Document &document, Calculator calculate) {
-    return *std::ranges::find(document.topics, TopicOf(calculate).caption, &DocumentTopic::caption);
+    return document.topics[static_cast<std::size_t>(std::ranges::find(passOrder, calculate) -
+                                                    passOrder.begin())];
 }
 
 // ---- The table at a glance ----
@@ -320,31 +324,30 @@ std::vector<NumberGroup> Glance(Document &document) {
 
 std::u16string InWords(const Ages &ages) {
     if (ages.IsOpen())
-        return Joined(u"from age ", Number(ages.from), u" on");
-    return Joined(u"from age ", Number(ages.from), u" to ", Number(ages.to));
+        return Joined(u"from age ", ages.from, u" on");
+    return Joined(u"from age ", ages.from, u" to ", ages.to);
 }
 
-/// Appends `count` items as "4", "4 and 6" or "4, 6 and 8"; `append` appends the item at an
-/// index.
-template <typename Append>
-void Enumerate(std::u16string &text, std::size_t count, const Append &append) {
-    for (std::size_t index = 0; index < count; ++index) {
-        if (index > 0)
-            text += index + 1 == count ? u" and " : u", ";
-        append(index);
+/// Appends items as "4", "4 and 6" or "4, 6 and 8"; `append` appends one of them.
+template <typename Items, typename AppendItem>
+void Enumerate(std::u16string &text, const Items &items, const AppendItem &append) {
+    std::size_t rest = std::size(items);
+    for (const auto &item : items) {
+        append(item);
+        --rest;
+        if (rest != 0)
+            text += rest == 1 ? u" and " : u", ";
     }
 }
 
-std::u16string Enumerated(std::span<const std::u16string> items) {
-    std::u16string text;
-    Enumerate(text, items.size(), [&](std::size_t index) { text += items[index]; });
-    return text;
-}
-
-std::u16string Times(std::size_t count) {
+/// Appends "once", "twice" or "7 times".
+void AppendTimes(std::u16string &text, std::size_t count) {
     if (count == 1)
-        return u"once";
-    return count == 2 ? u"twice" : Number(static_cast<long long>(count)) + u" times";
+        text += u"once";
+    else if (count == 2)
+        text += u"twice";
+    else
+        Append(text, static_cast<int>(count), u" times");
 }
 
 /// A character of a name as the beginning of a sentence.
@@ -354,54 +357,52 @@ std::u16string Shown(char16_t character) {
     return character == u' ' ? u"A blank" : u"A character without a value";
 }
 
-/// The letters of a name that count, each with its value.
-std::u16string LettersInWords(const NameSheet &sheet, NamePart part) {
-    std::u16string text;
+/// Appends what `name` is called, and its letters that count, each with its value.
+void AppendLetters(std::u16string &text, std::u16string_view name, const NameSheet &sheet,
+                   NamePart part) {
+    Append(text, name, u": ");
+    bool none = true;
     for (const NameLetter &letter : sheet.letters) {
         if (letter.part != part || letter.kind == LetterKind::NotCounted)
             continue;
-        if (!text.empty())
-            text += u", ";
-        text += letter.character;
-        text += u' ';
-        AppendNumber(text, letter.value);
+        Append(text, none ? u"" : u", ", std::u16string_view(&letter.character, 1), u" ",
+               letter.value);
+        none = false;
     }
-    return text.empty() ? u"none that counts" : text;
+    text += none ? u"none that counts. " : u". ";
 }
 
-std::u16string SumInWords(std::u16string_view letters, std::u16string_view number,
-                          const NameSum &sum) {
-    return Joined(letters, u" add up to ", InWords(sum), u": ", number, u" ",
-                  DecimalText(sum.number), u". ");
+void AppendSum(std::u16string &text, std::u16string_view letters, std::u16string_view number,
+               const NameSum &sum) {
+    Append(text, letters, u" add up to ", InWords(sum), u": ", number, u" ", sum.number, u". ");
 }
 
 NamePicture PictureOfName() {
     NamePicture picture;
     picture.sheet = ReadNameSheet();
     const NameSheet &sheet = picture.sheet;
-    const auto has = [&](LetterKind kind) {
-        return std::ranges::find(sheet.letters, kind, &NameLetter::kind) != sheet.letters.end();
+    const auto count = [&](LetterKind kind) {
+        return static_cast<int>(std::ranges::count(sheet.letters, kind, &NameLetter::kind));
     };
+    const bool yIsVowel = count(LetterKind::YAsVowel) != 0;
 
     std::u16string &words = picture.text.words;
-    words = Joined(u"First name: ", LettersInWords(sheet, NamePart::First), u". ");
+    words.reserve(250 + 5 * sheet.letters.size());
+    AppendLetters(words, u"First name", sheet, NamePart::First);
     if (!profile.MiddleName.empty())
-        words += Joined(u"Middle name: ", LettersInWords(sheet, NamePart::Middle), u". ");
-    words += Joined(u"Last name: ", LettersInWords(sheet, NamePart::Last), u". ");
-    const auto uncounted =
-        std::ranges::count(sheet.letters, LetterKind::NotCounted, &NameLetter::kind);
-    if (uncounted != 0)
-        words += Joined(Number(uncounted), uncounted == 1 ? u" character has no value. "
-                                                          : u" characters have no value. ");
-    words += SumInWords(u"All letters", u"Destiny", sheet.destiny);
-    words += SumInWords(has(LetterKind::YAsVowel) ? u"The letters Y, for want of a vowel,"
-                                                  : u"The vowels",
-                        u"Soul Urge", sheet.soulUrge);
-    words += SumInWords(u"The consonants", u"Inner Dreams", sheet.innerDreams);
+        AppendLetters(words, u"Middle name", sheet, NamePart::Middle);
+    AppendLetters(words, u"Last name", sheet, NamePart::Last);
+    if (const int uncounted = count(LetterKind::NotCounted); uncounted != 0)
+        Append(words, uncounted,
+               uncounted == 1 ? u" character has no value. " : u" characters have no value. ");
+    AppendSum(words, u"All letters", u"Destiny", sheet.destiny);
+    AppendSum(words, yIsVowel ? u"The letters Y, for want of a vowel," : u"The vowels",
+              u"Soul Urge", sheet.soulUrge);
+    AppendSum(words, u"The consonants", u"Inner Dreams", sheet.innerDreams);
 
     picture.text.id = "name-picture";
     picture.text.title = u"The name in letters and numbers";
-    picture.text.legend = has(LetterKind::YAsVowel)
+    picture.text.legend = yIsVowel
                               ? u"Above a vowel and below a consonant stands its value; what is "
                                 u"pale has no value. All "
                                 u"letters make the Destiny, the vowels the Soul Urge, the "
@@ -422,27 +423,35 @@ ValuesPicture PictureOfValues() {
     picture.leader = MostFrequentCharacter(name);
     picture.leaderValue = ChartValue(picture.leader.character);
 
+    std::vector<int> present;
+    std::vector<int> missing;
+    for (int value = 1; value <= 9; ++value)
+        (picture.letters[static_cast<std::size_t>(value)].empty() ? missing : present)
+            .push_back(value);
+
     std::u16string &words = picture.text.words;
-    std::vector<std::u16string> present;
-    std::vector<std::u16string> missing;
-    for (std::size_t value = 1; value <= 9; ++value) {
-        const std::u16string number = Number(static_cast<long long>(value));
-        if (picture.letters[value].empty())
-            missing.push_back(number);
-        else
-            present.push_back(number + u": " + Times(picture.letters[value].size()));
+    words.reserve(400);
+    if (!present.empty()) {
+        words += u"The values of the name are ";
+        Enumerate(words, present, [&](int value) {
+            Append(words, value, u": ");
+            AppendTimes(words, picture.letters[static_cast<std::size_t>(value)].size());
+        });
+        words += u". ";
     }
-    if (!present.empty())
-        words = Joined(u"The values of the name are ", Enumerated(present), u". ");
     words += missing.empty()       ? u"No value is missing."
-             : missing.size() == 1 ? Joined(u"The value ", missing[0], u" is missing.")
-                                   : Joined(u"The values ", Enumerated(missing), u" are missing.");
-    words += Joined(u" ", Shown(picture.leader.character), u" comes most often, ",
-                    Times(static_cast<std::size_t>(picture.leader.count)));
-    words += picture.leaderValue != 0
-                 ? Joined(u", and its value is the Hidden Passion Number, ",
-                          DecimalText(picture.leaderValue), u".")
-                 : std::u16string(u"; it has no value, and so there is no Hidden Passion Number.");
+             : missing.size() == 1 ? u"The value "
+                                   : u"The values ";
+    Enumerate(words, missing, [&](int value) { Append(words, value); });
+    if (!missing.empty())
+        words += missing.size() == 1 ? u" is missing." : u" are missing.";
+    Append(words, u" ", Shown(picture.leader.character), u" comes most often, ");
+    AppendTimes(words, static_cast<std::size_t>(picture.leader.count));
+    if (picture.leaderValue != 0)
+        Append(words, u", and its value is the Hidden Passion Number, ", picture.leaderValue, u".");
+    else
+        words += u"; it has no value, and so there is no Hidden Passion Number.";
+
     picture.text.id = "values-picture";
     picture.text.title = u"The values 1 to 9 in the name";
     picture.text.legend =
@@ -452,18 +461,13 @@ ValuesPicture PictureOfValues() {
     return picture;
 }
 
-std::u16string SpansInWords(std::u16string_view what, std::span<const LifeSpan> spans) {
-    std::vector<std::u16string> items;
-    items.reserve(spans.size());
-    for (const LifeSpan &span : spans)
-        items.push_back(Joined(DecimalText(span.number), u" ", InWords(span.ages),
-                               span.inForce ? u" (in force today)" : u""));
-    return Joined(what, Enumerated(items), u". ");
-}
-
-/// "age 41", "before the year of birth".
-std::u16string AgeInWords(int16 age) {
-    return age < 0 ? std::u16string(u"before the year of birth") : u"age " + DecimalText(age);
+void AppendSpans(std::u16string &text, std::u16string_view what, std::span<const LifeSpan> spans) {
+    text += what;
+    Enumerate(text, spans, [&](const LifeSpan &span) {
+        Append(text, span.number, u" ", InWords(span.ages),
+               span.inForce ? u" (in force today)" : u"");
+    });
+    text += u". ";
 }
 
 LifePicture PictureOfLife(Document &document) {
@@ -506,18 +510,21 @@ LifePicture PictureOfLife(Document &document) {
     }
 
     std::u16string &words = picture.text.words;
-    words = Joined(u"Today: ", AgeInWords(picture.age), u". ");
-    words += SpansInWords(u"Life Path Periods: ", picture.periods);
-    words += SpansInWords(u"Pinnacles: ", picture.pinnacles);
+    words.reserve(500);
+    if (picture.age < 0)
+        words += u"Today: before the year of birth. ";
+    else
+        Append(words, u"Today: age ", picture.age, u". ");
+    AppendSpans(words, u"Life Path Periods: ", picture.periods);
+    AppendSpans(words, u"Pinnacles: ", picture.pinnacles);
     const auto inForce = std::ranges::count_if(picture.pinnacles, &LifeSpan::inForce);
     if (inForce == 0)
         words += u"No pinnacle is in force today. ";
     else if (inForce > 1)
-        words += Joined(Number(inForce), u" pinnacles are in force today. ");
-    std::vector<std::u16string> challenges;
-    for (const int16 challenge : picture.challenges)
-        challenges.push_back(DecimalText(challenge));
-    words += Joined(u"Challenges: ", Enumerated(challenges), u".");
+        Append(words, static_cast<int>(inForce), u" pinnacles are in force today. ");
+    words += u"Challenges: ";
+    Enumerate(words, picture.challenges, [&](int16 challenge) { Append(words, challenge); });
+    words += u'.';
 
     picture.text.id = "life-picture";
     picture.text.title = u"Periods, pinnacles and challenges of the life";
@@ -558,29 +565,22 @@ TimePicture PictureOfTime(const UserProfile &person, std::chrono::year_month_day
 
     const auto open = std::ranges::find_if(
         picture.years, [](const TimePicture::Year &year) { return !year.essence.has_value(); });
-    const auto essences = static_cast<std::size_t>(open - picture.years.begin());
+    const std::span withEssence(picture.years.begin(), open);
     std::u16string &words = picture.text.words;
-    const auto append = [&words](std::u16string_view before, int year, int16 number) {
-        words += before;
-        AppendNumber(words, year);
-        words += u": ";
-        AppendNumber(words, number);
-    };
     words.reserve(700);
-    words = u"Personal Year: ";
-    Enumerate(words, picture.years.size(), [&](std::size_t index) {
-        append({}, picture.years[index].year, picture.years[index].personalYear);
+    words += u"Personal Year: ";
+    Enumerate(words, picture.years, [&](const TimePicture::Year &year) {
+        Append(words, year.year, u": ", year.personalYear);
     });
-    words += essences == 0 ? u". Essence: none" : u". Essence: ";
-    Enumerate(words, essences, [&](std::size_t index) {
-        append({}, picture.years[index].year, *picture.years[index].essence);
+    words += withEssence.empty() ? u". Essence: none" : u". Essence: ";
+    Enumerate(words, withEssence, [&](const TimePicture::Year &year) {
+        Append(words, year.year, u": ", *year.essence);
     });
-    if (essences < picture.years.size())
+    if (withEssence.size() < picture.years.size())
         words += u", and open from then on, since a name has no letter that counts for it";
     words += u". Personal Month: ";
-    Enumerate(words, picture.months.size(), [&](std::size_t index) {
-        words += picture.months[index].name;
-        append(u" ", picture.months[index].year, picture.months[index].personalMonth);
+    Enumerate(words, picture.months, [&](const TimePicture::Month &month) {
+        Append(words, month.name, u" ", month.year, u": ", month.personalMonth);
     });
     words += u'.';
 
@@ -599,7 +599,7 @@ PlanesPicture PictureOfPlanes() {
                             store.IntuitivePercent};
     const std::array ratings{&store.MentalRating, &store.PhysicalRating, &store.EmotionalRating,
                              &store.IntuitiveRating};
-    std::vector<std::u16string> items;
+    picture.planes.reserve(planes.size());
     for (std::size_t index = 0; index < planes.size(); ++index) {
         PlanesPicture::Plane &plane = picture.planes.emplace_back();
         plane.name = planes[index].name;
@@ -609,13 +609,19 @@ PlanesPicture PictureOfPlanes() {
         std::ranges::copy_if(name, std::back_inserter(plane.letters), [&](char16_t character) {
             return planes[index].letters.find(character) != std::u16string_view::npos;
         });
-        items.push_back(Joined(plane.name, u" ", DecimalText(plane.share), u" percent (",
-                               plane.rating.empty() ? u"no rating" : plane.rating, u")"));
     }
-    picture.text.words = Joined(Enumerated(items), u". ");
-    picture.text.words += store.PlanesNumber.empty()
-                              ? std::u16string(u"No plane has more than each of the others.")
-                              : Joined(u"The largest share is ", store.PlanesNumber, u".");
+
+    std::u16string &words = picture.text.words;
+    words.reserve(250);
+    Enumerate(words, picture.planes, [&](const PlanesPicture::Plane &plane) {
+        Append(words, plane.name, u" ", plane.share, u" percent (",
+               plane.rating.empty() ? u"no rating" : plane.rating, u")");
+    });
+    if (store.PlanesNumber.empty())
+        words += u". No plane has more than each of the others.";
+    else
+        Append(words, u". The largest share is ", store.PlanesNumber, u".");
+
     picture.text.id = "planes-picture";
     picture.text.title = u"The four planes of expression";
     picture.text.legend =
@@ -650,8 +656,8 @@ std::u16string NoteOnToday(const Document &document) {
     std::u16string note = Joined(u"This is the reading for ", document.readFor, u". ");
     if (document.age < 0)
         return note + u"It is made before the year of birth.";
-    note += Joined(u"The age is ", DecimalText(document.age),
-                   u", counted in calendar years whatever the month of birth is.");
+    Append(note, u"The age is ", document.age,
+           u", counted in calendar years whatever the month of birth is.");
     if (std::ranges::none_of(document.life.pinnacles, &LifeSpan::inForce))
         note += u" No pinnacle is in force at this age.";
     return note;
@@ -673,7 +679,7 @@ std::u16string FullName(const GivenName &given) {
 } // namespace
 
 std::u16string LongDate(std::u16string_view month, int day, int year) {
-    return Joined(month, u" ", Number(day), u", ", Number(year));
+    return Joined(month, u" ", day, u", ", year);
 }
 
 std::u16string LongDate(std::chrono::year_month_day date) {
@@ -683,15 +689,15 @@ std::u16string LongDate(std::chrono::year_month_day date) {
 }
 
 std::u16string InWords(const NameSum &sum) {
-    std::u16string text = DecimalText(sum.raw);
+    std::u16string text = Joined(sum.raw);
     for (const Trace::Step &step : sum.steps) {
         if (step.kind == Trace::StepKind::MasterStays) {
             text += u", which stays";
             continue;
         }
         for (std::size_t index = 0; index < step.terms.size(); ++index)
-            text += Joined(index == 0 ? u", " : u" + ", DecimalText(step.terms[index]));
-        text += Joined(u" = ", DecimalText(step.result));
+            Append(text, index == 0 ? u", " : u" + ", step.terms[index]);
+        Append(text, u" = ", step.result);
     }
     return text;
 }

@@ -148,10 +148,10 @@ void WriteToday(HtmlWriter &html, const Document &document) {
 
 template <typename Picture> void WritePicture(HtmlWriter &html, const Picture &picture) {
     const PictureText &text = picture.text;
-    html << "<figure id=\"" << text.id << "\">\n<figcaption><h3 id=\"" << TitleId(text) << "\">"
+    html << "<figure id=\"" << text.id << "\">\n<figcaption><h3 id=\"" << text.id << "-title\">"
          << text.title << "</h3>\n<p>" << text.legend << "</p></figcaption>\n";
     Draw(html, picture);
-    html << "<p class=\"words\" id=\"" << WordsId(text) << "\"><b>In words.</b> " << text.words
+    html << "<p class=\"words\" id=\"" << text.id << "-words\"><b>In words.</b> " << text.words
          << "</p>\n</figure>\n";
 }
 
@@ -185,12 +185,19 @@ void WriteTopic(HtmlWriter &html, const DocumentTopic &topic) {
 
 std::string ToHtml(const Document &document) {
     const std::u16string shortName = ShortName(document.name);
-    HtmlWriter html;
+    static HtmlWriter html; // keeps its memory from one document to the next
+    html.Clear();
     html << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<meta name=\"color-scheme\" content=\"light dark\">\n<title>"
          << shortName << " \u2013 " << readingTitle << ", " << document.readFor
-         << "</title>\n<style>\n"
+         << "</title>\n<meta name=\"author\" content=\"Orravane\">\n"
+            "<meta name=\"generator\" content=\"Orravane\">\n"
+            "<meta name=\"description\" content=\"A numerology report for "
+         << shortName << ", born " << document.born << ", read for " << document.readFor
+         << ".\">\n<meta name=\"keywords\" content=\"numerology, Pythagorean letter chart, "
+            "Life Path, Destiny, Soul Urge, Inner Dreams, Pinnacles, Personal Year, Essence\">\n"
+            "<style>\n"
          << documentStyle << "@page {\n  @top-left { content: \"";
     WriteCssString(html, shortName);
     html << "\"; }\n  @top-right { content: \"";
@@ -217,7 +224,7 @@ std::string ToHtml(const Document &document) {
         WriteTopic(html, topic);
     html << "</section>\n</main>\n<footer>" << readingTitle << " for <bdi>" << shortName
          << "</bdi>, " << document.readFor << ".</footer>\n</div>\n</body>\n</html>\n";
-    return html.Take();
+    return std::string(html.Written());
 }
 
 } // namespace modReadings

@@ -161,9 +161,6 @@ void DrawMark(Drawing &drawing, int x, int y, int number, bool essence) {
 
 } // namespace
 
-std::string TitleId(const PictureText &text) { return std::string(text.id) + "-title"; }
-std::string WordsId(const PictureText &text) { return std::string(text.id) + "-words"; }
-
 void Draw(HtmlWriter &html, const NamePicture &picture) {
     const auto &all = picture.sheet.letters;
     const std::span<const NameLetter> letters =
@@ -184,7 +181,7 @@ void Draw(HtmlWriter &html, const NamePicture &picture) {
         height += DrawPart(nullptr, part, 0, size);
     const bool more = letters.size() < all.size();
     height += more ? 30 : 0;
-    Drawing drawing(html, height + 104, TitleId(picture.text), WordsId(picture.text));
+    Drawing drawing(html, height + 104, picture.text.id);
     int y = 0;
     for (const auto &part : parts)
         y += DrawPart(&drawing, part, y, size);
@@ -210,7 +207,7 @@ void Draw(HtmlWriter &html, const ValuesPicture &picture) {
     const bool tiles = highest <= mostTiles;
     const int base = 26 + static_cast<int>(std::min(highest, mostTiles)) * tile;
 
-    Drawing drawing(html, base + 66, TitleId(picture.text), WordsId(picture.text));
+    Drawing drawing(html, base + 66, picture.text.id);
     for (std::size_t value = 1; value <= 9; ++value) {
         const std::u16string &letters = picture.letters[value];
         const int middle = 3 + static_cast<int>(value - 1) * column + column / 2;
@@ -265,7 +262,7 @@ void Draw(HtmlWriter &html, const LifePicture &picture) {
     constexpr int lane = 32;
     constexpr int axisY = pinnaclesTop + 4 * lane + 6;
 
-    Drawing drawing(html, axisY + 98, TitleId(picture.text), WordsId(picture.text));
+    Drawing drawing(html, axisY + 98, picture.text.id);
     for (int age = 0; age <= axis.end; age += 10) {
         drawing.Line(axis.X(age), axisY, axis.X(age), axisY + 5, Paint::Muted);
         if (axis.end <= 100 || age % 20 == 0)
@@ -320,7 +317,7 @@ void Draw(HtmlWriter &html, const TimePicture &picture) {
     constexpr int monthsTop = base + 62;
     constexpr int monthsBase = monthsTop + 9 * step;
 
-    Drawing drawing(html, monthsBase + 46, TitleId(picture.text), WordsId(picture.text));
+    Drawing drawing(html, monthsBase + 46, picture.text.id);
 
     DrawMark(drawing, 12, 12, 9, false);
     drawing.Text(28, 17, 14, Paint::Ink, Align::Start, "Personal Year");
@@ -378,8 +375,7 @@ void Draw(HtmlWriter &html, const TimePicture &picture) {
 void Draw(HtmlWriter &html, const PlanesPicture &picture) {
     constexpr int row = 50;
     constexpr std::size_t mostLettersShown = 24;
-    Drawing drawing(html, static_cast<int>(picture.planes.size()) * row, TitleId(picture.text),
-                    WordsId(picture.text));
+    Drawing drawing(html, static_cast<int>(picture.planes.size()) * row, picture.text.id);
     int y = 0;
     for (const PlanesPicture::Plane &plane : picture.planes) {
         drawing.Text(0, y + 16, 16, Paint::Ink, Align::Start, plane.name, plane.dominates);

@@ -7,9 +7,8 @@
 
 namespace modReadings {
 
-/// The ids of the title and of the words of a picture, which its drawing refers to.
-std::string TitleId(const PictureText &text);
-std::string WordsId(const PictureText &text);
+// Each drawing refers to its title and its words by their ids: that of the picture with "-title"
+// and with "-words" behind it.
 
 void Draw(HtmlWriter &html, const NamePicture &picture);
 void Draw(HtmlWriter &html, const ValuesPicture &picture);

@@ -3,54 +3,58 @@
 #include "report/utf8.h"
 
 #include <algorithm>
-#include <charconv>
+#include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
-#include <utility>
 
 namespace modReadings {
 
 namespace {
 
-// Nearly all of a report is ASCII that stands for itself, and is narrowed sixteen units at a time,
-// in the vectors that GCC and clang have for every processor.
-constexpr std::size_t blockSize = 16;
-using Units [[gnu::vector_size(blockSize)]] = std::uint16_t;
-using Bytes [[gnu::vector_size(blockSize / 2)]] = std::uint8_t;
+/// Whether a character of ASCII stands for itself.
+constexpr auto standsForItself = [] {
+    std::array<bool, 128> table{};
+    for (std::size_t unit = 0; unit < table.size(); ++unit)
+        table[unit] = unit >= 0x20 && unit <= 0x7E && unit != '&' && unit != '<' && unit != '>' &&
+                      unit != '"';
+    return table;
+}();
 
 constexpr bool StandsForItself(char16_t unit) {
-    return unit >= 0x20 && unit <= 0x7E && unit != u'&' && unit != u'<' && unit != u'>' &&
-           unit != u'"';
+    return unit < standsForItself.size() && standsForItself[unit];
 }
 
-/// The same for a vector: a lane is 0 where the unit stands for itself.
-auto Others(const Units &units) {
-    // As whole numbers: clang 14 ends itself over a vector that is compared with a char16_t.
-    constexpr int ampersand = u'&';
-    constexpr int less = u'<';
-    constexpr int greater = u'>';
-    constexpr int quotationMark = u'"';
-    return (units < 0x20) | (units > 0x7E) | (units == ampersand) | (units == less) |
-           (units == greater) | (units == quotationMark);
-}
+// Nearly all of a report stands for itself. It is narrowed sixteen units at a time, in the
+// vectors that GCC and clang have for every processor.
+constexpr std::size_t blockSize = 16;
+using Units [[gnu::vector_size(blockSize)]] = std::uint16_t;
+using Bytes [[gnu::vector_size(blockSize)]] = std::int8_t;
 
-/// Writes a block as bytes. Gives false, having written nothing, where one of its units does
-/// not stand for itself.
+/// Writes a block of `text` as bytes, and returns whether all of it stands for itself. What is
+/// written has no meaning otherwise.
 bool NarrowBlock(const char16_t *text, char *out) {
-    Units first;
-    Units second;
-    std::memcpy(&first, text, sizeof first);
-    std::memcpy(&second, text + blockSize / 2, sizeof second);
-    const auto others = Others(first) | Others(second);
-    std::uint64_t halves[2];
-    static_assert(sizeof halves == sizeof others);
-    std::memcpy(halves, &others, sizeof halves);
-    if ((halves[0] | halves[1]) != 0)
-        return false;
-    const Bytes bytes[2] = {__builtin_convertvector(first, Bytes),
-                            __builtin_convertvector(second, Bytes)};
-    std::memcpy(out, bytes, sizeof bytes);
-    return true;
+    using BothUnits [[gnu::vector_size(2 * blockSize)]] = std::uint16_t;
+    BothUnits both;
+    std::memcpy(&both, text, sizeof both);
+    const Bytes bytes = __builtin_convertvector(both, Bytes);
+    std::memcpy(out, &bytes, sizeof bytes);
+
+    Units halves[2];
+    std::memcpy(halves, text, sizeof halves);
+    const Units beyondAscii = (halves[0] | halves[1]) & 0xFF80;
+    // As numbers: clang 14 ends itself over a vector that is compared with a character. One more
+    // than 0x7F is negative.
+    constexpr int ampersand = '&';
+    constexpr int less = '<';
+    constexpr int greater = '>';
+    constexpr int quotationMark = '"';
+    const Bytes others = (bytes + 1 < 0x21) | (bytes == ampersand) | (bytes == less) |
+                         (bytes == greater) | (bytes == quotationMark) |
+                         std::bit_cast<Bytes>(beyondAscii);
+    std::uint64_t lanes[2];
+    std::memcpy(lanes, &others, sizeof lanes);
+    return (lanes[0] | lanes[1]) == 0;
 }
 
 } // namespace
@@ -58,19 +62,6 @@ bool NarrowBlock(const char16_t *text, char *out) {
 void HtmlWriter::Grow(std::size_t more) {
     constexpr std::size_t first = std::size_t{160} * 1024; // more than most documents have
     out_.resize(std::max({first, 2 * out_.size(), used_ + more}));
-}
-
-std::string HtmlWriter::Take() {
-    out_.resize(used_);
-    return std::move(out_);
-}
-
-HtmlWriter &HtmlWriter::operator<<(int number) {
-    constexpr std::size_t most = 12;
-    Reserve(most);
-    char *const begin = out_.data() + used_;
-    used_ += static_cast<std::size_t>(std::to_chars(begin, begin + most, number).ptr - begin);
-    return *this;
 }
 
 void HtmlWriter::PutCharacter(char32_t character, std::string_view newLine) {
@@ -102,26 +93,20 @@ void HtmlWriter::PutCharacter(char32_t character, std::string_view newLine) {
     PutUtf8(character, [this](char byte) { *this << byte; });
 }
 
-void HtmlWriter::Put(std::u16string_view text, std::string_view newLine) {
+void HtmlWriter::PutText(std::u16string_view text, std::string_view newLine) {
     std::size_t at = 0;
     while (at < text.size()) {
         Reserve(text.size() - at);
-        while (text.size() - at >= blockSize &&
-               NarrowBlock(text.data() + at, out_.data() + used_)) {
+        char *out = out_.data() + used_;
+        while (text.size() - at >= blockSize && NarrowBlock(text.data() + at, out)) {
             at += blockSize;
-            used_ += blockSize;
+            out += blockSize;
         }
-        const std::size_t end = std::min(text.size(), at + blockSize);
-        while (at < end) {
-            if (StandsForItself(text[at])) {
-                // there is room for all that is left
-                out_[used_++] = static_cast<char>(text[at++]);
-                continue;
-            }
-            const char32_t character = TakeCharacter(text, at);
-            PutCharacter(character, newLine);
-            Reserve(text.size() - at);
-        }
+        while (at < text.size() && StandsForItself(text[at]))
+            *out++ = static_cast<char>(text[at++]);
+        used_ = static_cast<std::size_t>(out - out_.data());
+        if (at < text.size())
+            PutCharacter(TakeCharacter(text, at), newLine);
     }
 }
 

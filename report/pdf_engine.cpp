@@ -16,30 +16,34 @@ namespace {
 
 /// What the process runs. It reads documents from its standard input, the length in bytes and
 /// the size of the pages on a line before each, and answers each with its length likewise, and
-/// "pdf" or "trouble" before it. It ends where its input does.
+/// "pdf" or "trouble" before it. It ends where its input does, or when it is asked to, and takes
+/// its temporary files with it.
 constexpr auto script = R"(
-import sys
+import signal, sys, tempfile
 sys.path[:] = filter(None, sys.path)  # no module of the current folder
 source, target = sys.stdin.buffer, sys.stdout.buffer
 sys.stdout = sys.stderr  # only answers go there
+signal.signal(signal.SIGINT, signal.SIG_IGN)  # it is for the program that asks
+signal.signal(signal.SIGTERM, lambda *_: sys.exit())
 
 from weasyprint import CSS, HTML
 
 def load_nothing(url, *_, **__):
     raise ValueError("nothing is loaded: " + url)
 
-while line := source.readline():
-    length, paper = line.decode().split()
-    html = source.read(int(length)).decode()
-    try:
-        pages = CSS(string="@page { size: %s }" % paper)
-        document = HTML(string=html, url_fetcher=load_nothing)
-        kind, answer = b"pdf", document.write_pdf(stylesheets=[pages])
-    except Exception as error:
-        kind, answer = b"trouble", f"{type(error).__name__}: {error}".encode()
-    target.write(b"%s %d\n" % (kind, len(answer)))
-    target.write(answer)
-    target.flush()
+with tempfile.TemporaryDirectory(prefix="orravane-") as tempfile.tempdir:
+    while line := source.readline():
+        length, paper = line.decode().split()
+        html = source.read(int(length)).decode()
+        try:
+            pages = CSS(string="@page { size: %s }" % paper)
+            document = HTML(string=html, url_fetcher=load_nothing)
+            kind, answer = b"pdf", document.write_pdf(stylesheets=[pages])
+        except Exception as error:
+            kind, answer = b"trouble", f"{type(error).__name__}: {error}".encode()
+        target.write(b"%s %d\n" % (kind, len(answer)))
+        target.write(answer)
+        target.flush()
 )"_L1;
 
 /// The command that runs a program for the Python in which WeasyPrint is installed: the one
@@ -72,7 +76,7 @@ PdfEngine::PdfEngine(QObject *parent) : QObject(parent) {
         environment.insert(u"SOURCE_DATE_EPOCH"_s, u"0"_s);
     process_.setProcessEnvironment(environment);
 #ifdef Q_OS_LINUX
-    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
 #endif
     connect(&process_, &QProcess::readyReadStandardOutput, this, &PdfEngine::TakeOutput);
     connect(&process_, &QProcess::finished, this, &PdfEngine::HasEnded);
@@ -120,8 +124,12 @@ void PdfEngine::Cancel() {
     atWork_ = false;
     if (process_.state() == QProcess::NotRunning)
         return;
-    process_.kill();
-    process_.waitForFinished();
+    constexpr int patience = 2000; // in milliseconds
+    process_.terminate();
+    if (!process_.waitForFinished(patience)) {
+        process_.kill();
+        process_.waitForFinished();
+    }
 }
 
 PdfAnswer PdfEngine::Make(const std::string &html, Paper paper) {

@@ -12,7 +12,7 @@ namespace {
 void AppendTopic(Report &report, const Topic &topic, int closingBreaks) {
     // Only the Birthday heading can fail, while BirthDay is no number: then the whole
     // heading is missing and the rest follows without it.
-    Attempt([&] { BoldHeading(report, std::u16string(topic.heading) + HeadingNumberText(topic)); });
+    Attempt([&] { BoldHeading(report, topic.heading, HeadingNumberText(topic)); });
 
     const auto blocks = topic.Blocks();
     for (const Block &block : blocks) {

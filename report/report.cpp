@@ -11,8 +11,8 @@ void AppendBlock(Report &report, std::u16string_view before, std::u16string_view
         block.append(lineBreak);
 }
 
-void BoldHeading(Report &report, std::u16string_view text) {
-    AppendBlock(report, text, 2);
+void BoldHeading(Report &report, std::u16string_view before, std::u16string_view text) {
+    AppendBlock(report, before, text, 2);
     report.back().bold = true;
 }
 

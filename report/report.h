@@ -43,8 +43,11 @@ inline void AppendBlock(Report &report, std::u16string_view text, int breaks = 0
     AppendBlock(report, {}, text, breaks);
 }
 
+/// Appends `before`, `text` and two line breaks to `report`, as one bold run.
+void BoldHeading(Report &report, std::u16string_view before, std::u16string_view text);
+
 /// Appends `text` and two line breaks to `report`, as one bold run.
-void BoldHeading(Report &report, std::u16string_view text);
+inline void BoldHeading(Report &report, std::u16string_view text) { BoldHeading(report, {}, text); }
 
 /// The texts of all runs, joined.
 std::u16string TextOf(const Report &report);

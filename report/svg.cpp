@@ -37,74 +37,80 @@ std::string_view StrokeOf(Paint paint) {
     }
 }
 
+/// Nothing for the usual one.
+std::string_view AnchorOf(Align align) {
+    switch (align) {
+    case Align::Start:
+        return " text-anchor=\"start\"";
+    case Align::End:
+        return " text-anchor=\"end\"";
+    case Align::Middle:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
-Drawing::Drawing(HtmlWriter &html, int height, std::string_view title, std::string_view words)
-    : html_(html) {
+Drawing::Drawing(HtmlWriter &html, int height, std::string_view id) : html_(html) {
     // Most texts are centred and in ink.
-    html_ << "<svg role=\"img\" aria-labelledby=\"" << title << "\" aria-describedby=\"" << words
-          << "\" viewBox=\"0 0 " << drawingWidth << ' ' << height << "\" width=\"" << drawingWidth
-          << "\" height=\"" << height
-          << "\">\n<g text-anchor=\"middle\" font-family=\"Charter,'Bitstream Charter',"
-             "'Iowan Old Style',P052,Palatino,Georgia,'DejaVu Serif',serif\""
-          << FillOf(Paint::Ink) << ">\n";
+    html_.Write("<svg role=\"img\" aria-labelledby=\"", id, "-title\" aria-describedby=\"", id,
+                "-words\" viewBox=\"0 0 ", drawingWidth, ' ', height, "\" width=\"", drawingWidth,
+                "\" height=\"", height,
+                "\">\n<g text-anchor=\"middle\" font-family=\"Charter,'Bitstream Charter',"
+                "'Iowan Old Style',P052,Palatino,Georgia,'DejaVu Serif',serif\"",
+                FillOf(Paint::Ink), ">\n");
 }
 
 Drawing::~Drawing() { html_ << "\n</g>\n</svg>\n"; }
 
 void Drawing::Box(int x, int y, int width, int height, int radius, Paint fill) {
-    html_ << "<rect x=\"" << x << "\" y=\"" << y << "\" width=\"" << width << "\" height=\""
-          << height << "\" rx=\"" << radius << '"' << FillOf(fill) << "/>";
+    html_.Write("<rect x=\"", x, "\" y=\"", y, "\" width=\"", width, "\" height=\"", height,
+                "\" rx=\"", radius, '"', FillOf(fill), "/>");
 }
 
 void Drawing::Circle(int x, int y, int radius, Paint fill) {
-    html_ << "<circle cx=\"" << x << "\" cy=\"" << y << "\" r=\"" << radius << '"' << FillOf(fill)
-          << "/>";
+    html_.Write("<circle cx=\"", x, "\" cy=\"", y, "\" r=\"", radius, '"', FillOf(fill), "/>");
 }
 
 void Drawing::EmptyPlace(int x, int y, int radius) {
-    html_ << "<circle cx=\"" << x << "\" cy=\"" << y << "\" r=\"" << radius
-          << "\" fill=\"none\" stroke-dasharray=\"2 3\"" << StrokeOf(Paint::Muted) << "/>";
+    html_.Write("<circle cx=\"", x, "\" cy=\"", y, "\" r=\"", radius,
+                "\" fill=\"none\" stroke-dasharray=\"2 3\"", StrokeOf(Paint::Muted), "/>");
 }
 
 void Drawing::Line(int x1, int y1, int x2, int y2, Paint stroke, int width) {
-    html_ << "<path d=\"M" << x1 << ' ' << y1 << 'L' << x2 << ' ' << y2 << '"' << StrokeOf(stroke);
+    html_.Write("<path d=\"M", x1, ' ', y1, 'L', x2, ' ', y2, '"', StrokeOf(stroke));
     if (width != 1)
-        html_ << " stroke-width=\"" << width << '"';
+        html_.Write(" stroke-width=\"", width, '"');
     html_ << "/>";
 }
 
 void Drawing::Shape(std::initializer_list<int> corners, Paint fill) {
     html_ << "<path d=\"M";
-    const char *between = "";
+    std::string_view between;
     for (const int coordinate : corners) {
-        html_ << std::string_view(between) << coordinate;
+        html_.Write(between, coordinate);
         between = " ";
     }
-    html_ << "Z\"" << FillOf(fill) << "/>";
+    html_.Write("Z\"", FillOf(fill), "/>");
 }
 
 void Drawing::BeginPath(Paint stroke, int width) {
-    html_ << "<path fill=\"none\" stroke-width=\"" << width << '"' << StrokeOf(stroke) << " d=\"";
+    html_.Write("<path fill=\"none\" stroke-width=\"", width, '"', StrokeOf(stroke), " d=\"");
     gap_ = true;
 }
 
 void Drawing::Point(int x, int y) {
-    html_ << (gap_ ? 'M' : 'L') << x << ' ' << y;
+    html_.Write(gap_ ? 'M' : 'L', x, ' ', y);
     gap_ = false;
 }
 
 void Drawing::EndPath() { html_ << "\"/>"; }
 
 void Drawing::BeginText(int x, int y, int size, Paint fill, Align align, bool bold) {
-    html_ << "<text x=\"" << x << "\" y=\"" << y << "\" font-size=\"" << size << '"';
-    if (align != Align::Middle)
-        html_ << (align == Align::Start ? " text-anchor=\"start\"" : " text-anchor=\"end\"");
-    if (bold)
-        html_ << " font-weight=\"bold\"";
-    if (fill != Paint::Ink)
-        html_ << FillOf(fill);
-    html_ << '>';
+    html_.Write("<text x=\"", x, "\" y=\"", y, "\" font-size=\"", size, '"', AnchorOf(align),
+                std::string_view(bold ? " font-weight=\"bold\"" : ""),
+                fill == Paint::Ink ? std::string_view() : FillOf(fill), '>');
 }
 
 } // namespace modReadings

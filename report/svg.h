@@ -21,15 +21,16 @@ enum class Paint {
     Ink,      ///< text
     Muted,    ///< text beside, axes
     OnViolet, ///< text on Violet
-    OnGold,   ///< text on Gold
+    OnGold    ///< text on Gold
 };
 
 enum class Align { Start, Middle, End };
 
 class Drawing {
 public:
-    /// Begins a drawing of this height. The elements with these ids name and describe it.
-    Drawing(HtmlWriter &html, int height, std::string_view title, std::string_view words);
+    /// Begins a drawing of this height. The elements `id`-title and `id`-words name and describe
+    /// it.
+    Drawing(HtmlWriter &html, int height, std::string_view id);
     ~Drawing();
     Drawing(const Drawing &) = delete;
     Drawing &operator=(const Drawing &) = delete;

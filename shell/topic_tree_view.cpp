@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +62,17 @@ void TopicTreeView::keyPressEvent(QKeyEvent *event) {
         return;
     }
     Framed::keyPressEvent(event);
+}
+
+bool TopicTreeView::viewportEvent(QEvent *event) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+        // A dialog that came up while a button was held has got its release. The view would
+        // wait for it still, and take no notice of the next click.
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->buttons() == mouse->button() && state() == DragSelectingState)
+            setState(NoState);
+    }
+    return Framed::viewportEvent(event);
 }
 
 QItemSelectionModel::SelectionFlags TopicTreeView::selectionCommand(const QModelIndex &index,

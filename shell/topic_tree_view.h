@@ -30,6 +30,7 @@ protected:
     void drawBranches(QPainter *painter, const QRect &rect,
                       const QModelIndex &index) const override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
 

@@ -72,4 +72,7 @@ private:
 
 } // namespace
 
-ExitCode RunBatch(const Options &options) { return Batch(options).Run(); }
+ExitCode RunBatch(const Options &options) {
+    WorkIfStartedFor(options);
+    return Batch(options).Run();
+}

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <deque>
 #include <exception>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -88,13 +89,15 @@ private:
 /// The slots of all workers, in memory that they and the parent share.
 class Slots {
 public:
-    explicit Slots(std::size_t workers) : memory_(workers * slotsOfAWorker * slotSize) {}
+    explicit Slots(char *memory) : memory_(memory) {}
+    static std::size_t SizeFor(std::size_t workers) { return workers * slotsOfAWorker * slotSize; }
+
     char *Of(std::size_t worker, std::size_t slot) const {
-        return memory_.Data() + (worker * slotsOfAWorker + slot) * slotSize;
+        return memory_ + (worker * slotsOfAWorker + slot) * slotSize;
     }
 
 private:
-    SharedMemory memory_;
+    char *memory_;
 };
 
 struct Bytes : ByteSink {
@@ -105,9 +108,9 @@ struct Bytes : ByteSink {
 /// What one of the processes does.
 class Worker {
 public:
-    Worker(const Options &options, Output *output, const Slots &memory, std::size_t worker,
-           ParentChannel &parent)
-        : options_(options), output_(output), memory_(memory), worker_(worker), parent_(parent) {}
+    Worker(const Options &options, Output *output, const WorkerSeat &seat)
+        : options_(options), output_(output), memory_(seat.memory), worker_(seat.worker),
+          parent_(seat.parent) {}
 
     [[noreturn]] void Run() {
         std::deque<WorkerMessage> waiting;
@@ -199,9 +202,9 @@ private:
 
     const Options &options_;
     Output *const output_;
-    const Slots &memory_;
+    const Slots memory_;
     const std::size_t worker_;
-    ParentChannel &parent_;
+    const ParentChannel parent_;
     PeopleLines lines_;
     std::string header_;
     bool begun_ = false;
@@ -216,11 +219,10 @@ public:
     Dispatcher(const Options &options, BatchInput &input, Output *output,
                const std::function<void()> &begin, Progress &progress, WrongLines &wrong)
         : options_(options), input_(input), begin_(begin), progress_(progress), wrong_(wrong),
-          slots_(static_cast<std::size_t>(options.jobs)),
           free_(static_cast<std::size_t>(options.jobs), {1, 0}),
-          workers_(free_.size(), [&](std::size_t worker, ParentChannel &parent) {
-              Worker(options, output, slots_, worker, parent).Run();
-          }) {}
+          memory_(Slots::SizeFor(free_.size())), slots_(memory_.Data()),
+          workers_(free_.size(), memory_, output != nullptr ? output->Descriptor() : -1,
+                   [&](const WorkerSeat &seat) { Worker(options, output, seat).Run(); }) {}
 
     /// Returns how many people were read.
     long long Run() {
@@ -379,8 +381,9 @@ private:
     const std::function<void()> &begin_;
     Progress &progress_;
     WrongLines &wrong_;
-    const Slots slots_;
     std::vector<std::vector<std::uint32_t>> free_; ///< the slots of each worker
+    SharedMemory memory_;
+    const Slots slots_;
     WorkerProcesses workers_;
     std::deque<Piece> pieces_; ///< in the order of the lines
     BatchLine line_;           ///< the line that comes next
@@ -394,6 +397,16 @@ private:
 };
 
 } // namespace
+
+void WorkIfStartedFor(const Options &options) {
+    const auto seat = WorkerProcesses::SeatOfThisProcess();
+    if (!seat)
+        return;
+    std::optional<Output> output;
+    if (options.outputDir.isEmpty())
+        output.emplace(options.output, Output::Kind::OfParent);
+    Worker(options, output ? &*output : nullptr, *seat).Run();
+}
 
 long long AnswerInProcesses(const Options &options, BatchInput &input, Output *output,
                             const std::function<void()> &begin, Progress &progress,

@@ -21,3 +21,7 @@
 long long AnswerInProcesses(const Options &options, BatchInput &input, Output *output,
                             const std::function<void()> &begin, Progress &progress,
                             WrongLines &wrong);
+
+/// In a process that such a batch was started in anew, does what its parent says, and does not
+/// return. Does nothing in any other.
+void WorkIfStartedFor(const Options &options);

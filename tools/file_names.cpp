@@ -7,9 +7,10 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
+using modReadings::UserProfile;
 
 namespace {
 
@@ -47,12 +48,6 @@ QString Safe(const QString &text, qsizetype most) {
     return safe;
 }
 
-/// What stands for a part of a name, which it captures.
-const QRegularExpression &Placeholder() {
-    static const QRegularExpression placeholder(u"\\{(first|middle|last|line)\\}"_s);
-    return placeholder;
-}
-
 /// Whether some system takes `name` for a device, whatever ending it has.
 bool IsDevice(const QString &name) {
     static const QRegularExpression device(u"\\A(CON|PRN|AUX|NUL|(COM|LPT)[0-9\u00B9\u00B2\u00B3])"
@@ -70,62 +65,62 @@ QString SafeStart(const QString &name) {
 
 } // namespace
 
-FileNames::FileNames(QString pattern) : pattern_(std::move(pattern)) {
-    const auto refusal = [this](const QString &what) {
-        return Refusal(
-            u"--name-template: \"%1\" is not allowed; %2"_s.arg(Excerpt(pattern_), what));
+FileNames::FileNames(const QString &pattern) {
+    const auto refusal = [&pattern](const QString &what) {
+        return Refusal(u"--name-template: \"%1\" is not allowed; %2"_s.arg(Excerpt(pattern), what));
     };
-    if (pattern_.toUtf8().size() > mostBytesOfPattern)
+    if (pattern.toUtf8().size() > mostBytesOfPattern)
         throw refusal(u"it is longer than %1 bytes"_s.arg(mostBytesOfPattern));
-    if (Safe(pattern_, mostBytes) != pattern_) // what it would change cannot stand there
+    if (Safe(pattern, mostBytes) != pattern) // what it would change cannot stand there
         throw refusal(u"it has a character that cannot stand in the name of a file"_s);
-    const QString literal = QString(pattern_).remove(Placeholder());
+    const QRegularExpression placeholder(u"\\{(first|middle|last|line)\\}"_s);
+    const QString literal = QString(pattern).remove(placeholder);
     if (literal.contains(u'{') || literal.contains(u'}'))
         throw refusal(u"in braces stand first, middle, last or line"_s);
-    const qsizetype numbers = pattern_.count(u"{line}"_s);
-    if (literal.toUtf8().size() + numbers * longestNumber + 1 + longestEnding > mostBytes)
+    literalBytes_ = literal.toUtf8().size();
+    lines_ = pattern.count(u"{line}"_s);
+    if (literalBytes_ + lines_ * longestNumber + 1 + longestEnding > mostBytes)
         throw refusal(
             u"it has {line} so often that a name could be longer than %1 bytes"_s.arg(mostBytes));
     // Within the name, or beside a digit or another part, two lines could give one name.
     const QString line = u"{line}"_s;
-    const QStringView rest = QStringView(pattern_);
+    const QStringView rest = QStringView(pattern);
     const auto setApart = [](QChar beside) {
         return !IsDigit(beside) && beside != u'{' && beside != u'}';
     };
-    const bool first =
-        pattern_.startsWith(line) && (pattern_ == line || setApart(rest[line.size()]));
-    const bool last = pattern_.endsWith(line) &&
-                      (pattern_ == line || setApart(rest[rest.size() - line.size() - 1]));
+    const bool first = pattern.startsWith(line) && (pattern == line || setApart(rest[line.size()]));
+    const bool last = pattern.endsWith(line) &&
+                      (pattern == line || setApart(rest[rest.size() - line.size() - 1]));
     if (!first && !last)
         throw refusal(u"it begins or ends with {line}, set apart by a character such as a dash, so "
                       "that no two people get one file"_s);
+
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch &match : placeholder.globalMatch(pattern)) {
+        const QStringView word = match.capturedView(1);
+        pieces_.push_back({pattern.sliced(end, match.capturedStart() - end),
+                           word == "first"_L1    ? &UserProfile::FirstName
+                           : word == "middle"_L1 ? &UserProfile::MiddleName
+                           : word == "last"_L1   ? &UserProfile::LastName
+                                                 : nullptr});
+        end = match.capturedEnd();
+    }
+    end_ = pattern.sliced(end);
 }
 
-QString FileNames::Of(const modReadings::UserProfile &person, long long line,
-                      const QString &ending) const {
-    const QRegularExpression &part = Placeholder();
+QString FileNames::Of(const UserProfile &person, long long line, const QString &ending) const {
     const QString number = u"%1"_s.arg(line, 6, 10, '0'_L1);
-    const qsizetype lines = pattern_.count(u"{line}"_s);
-    const qsizetype names = pattern_.count(part) - lines;
-    const qsizetype literal = QString(pattern_).remove(part).toUtf8().size();
-    const qsizetype room = mostBytes - 1 - ending.toUtf8().size() - literal - lines * number.size();
+    const qsizetype names = std::ssize(pieces_) - lines_;
+    const qsizetype room =
+        mostBytes - 1 - ending.toUtf8().size() - literalBytes_ - lines_ * number.size();
     QString name;
-    qsizetype end = 0;
-    for (const QRegularExpressionMatch &match : part.globalMatch(pattern_)) {
-        name += QStringView(pattern_).sliced(end, match.capturedStart() - end);
-        end = match.capturedEnd();
-        const QStringView word = match.capturedView(1);
-        if (word == "line"_L1) {
-            name += number;
-            continue;
-        }
-        const std::u16string &value = word == "first"_L1    ? person.FirstName
-                                      : word == "middle"_L1 ? person.MiddleName
-                                                            : person.LastName;
-        name += Safe(QStringView(value).toString(), room / names);
+    for (const Piece &piece : pieces_) {
+        name += piece.before;
+        name += piece.part == nullptr
+                    ? number
+                    : Safe(QStringView(person.*piece.part).toString(), room / names);
     }
-    name += QStringView(pattern_).sliced(end);
-    return SafeStart(name) + ending;
+    return SafeStart(name + end_) + ending;
 }
 
 QString SafeFileName(const QString &wanted, const QString &ending) {

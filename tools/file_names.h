@@ -6,6 +6,9 @@
 
 #include <QString>
 
+#include <string>
+#include <vector>
+
 /// A template such as "{last}-{first}-{line}" and the names made of it. No two lines get the
 /// same name, and every name is a plain one that all usual file systems can hold.
 class FileNames {
@@ -15,7 +18,7 @@ public:
     /// never meet in one name. Its other characters stand for themselves; none of them is a
     /// separator of folders or otherwise no character for a name. Throws Refusal for any other
     /// template.
-    explicit FileNames(QString pattern = QStringLiteral("person-{line}"));
+    explicit FileNames(const QString &pattern = QStringLiteral("person-{line}"));
 
     /// The name for a person on this line, with `ending` such as ".txt". At most 255 bytes in
     /// UTF-8; the names of a person are cut where it would be more. A character that is no
@@ -25,7 +28,15 @@ public:
     QString Of(const modReadings::UserProfile &person, long long line, const QString &ending) const;
 
 private:
-    QString pattern_;
+    /// A placeholder of the template and the text before it.
+    struct Piece {
+        QString before;
+        std::u16string modReadings::UserProfile::*part; ///< nullptr for the line
+    };
+    std::vector<Piece> pieces_;
+    QString end_;                ///< behind the last of them
+    qsizetype lines_ = 0;        ///< how many of them are the line
+    qsizetype literalBytes_ = 0; ///< what is no placeholder has, in UTF-8
 };
 
 /// A name for a file, made of `wanted` and `ending` by the same rules.

@@ -7,14 +7,31 @@
 
 using namespace Qt::StringLiterals;
 
-Output::Output(const QString &path, Kind kind)
-    : Output(kind, kind != Kind::Named                ? u"--output-dir: "_s + Excerpt(path)
-                   : path.isEmpty() || path == "-"_L1 ? u"standard output"_s
-                                                      : u"--output: "_s + Excerpt(path)) {
-    if (kind == Kind::Named)
+namespace {
+
+QString NameInMessages(const QString &path, Output::Kind kind) {
+    if (kind == Output::Kind::InFolder || kind == Output::Kind::NewInFolder)
+        return u"--output-dir: "_s + Excerpt(path);
+    if (path.isEmpty() || path == "-"_L1)
+        return u"standard output"_s;
+    return u"--output: "_s + Excerpt(path);
+}
+
+} // namespace
+
+Output::Output(const QString &path, Kind kind) : Output(kind, NameInMessages(path, kind)) {
+    switch (kind) {
+    case Kind::Named:
         OpenNamed(NameOf(path));
-    else
+        break;
+    case Kind::OfParent:
+        OpenNamed({});
+        break;
+    case Kind::InFolder:
+    case Kind::NewInFolder:
         OpenBeside(NameOf(path));
+        break;
+    }
 }
 
 void Output::Fail(int error) const {

@@ -35,7 +35,9 @@ public:
         /// forced to the disk, since a batch makes many.
         InFolder,
         /// The same, but what stands there stays, and this file is given up.
-        NewInFolder
+        NewInFolder,
+        /// What a parent has opened as Named under this path and handed on as standard output.
+        OfParent
     };
 
     /// A file is written under another name beside its place and takes that place in
@@ -52,6 +54,9 @@ public:
 
     /// Puts the file in its place. Without this call no file appears.
     void Finish();
+
+    /// What is written to, as the C library numbers it.
+    int Descriptor() const { return descriptor_; }
 
     /// To be called in a child process on Unix: an unfinished file is the parent's, and stays
     /// when a signal ends the child.

@@ -1,13 +1,13 @@
 #pragma once
 
 // Processes that work for this one. All that depends on the system is in here: making them,
-// talking to them, ending them.
+// talking to them, ending them. One implementation for each kind of system.
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
-#include <vector>
 
 /// What parent and worker tell each other. What the fields mean is theirs to agree upon. It is
 /// small, so that the few that are under way never fill the channel.
@@ -18,8 +18,8 @@ struct WorkerMessage {
     std::uint64_t second = 0;
 };
 
-/// Memory that this process shares with the workers it makes afterwards. Pages that nobody
-/// touches take no space.
+/// Memory that this process shares with the workers it makes for it. Pages that nobody touches
+/// take no space.
 class SharedMemory {
 public:
     /// Throws Refusal with ExitCode::CannotReadOrWrite when there is none.
@@ -31,14 +31,17 @@ public:
     char *Data() const { return data_; }
 
 private:
+    friend class WorkerProcesses;
     char *data_ = nullptr;
     std::size_t size_;
+    void *handle_ = nullptr; ///< by which Windows hands it on
 };
 
 /// A worker's end of its channel.
 class ParentChannel {
 public:
-    explicit ParentChannel(int descriptor) : descriptor_(descriptor) {}
+    /// `end` is what the system names it by.
+    explicit ParentChannel(std::intptr_t end) : end_(end) {}
 
     void Send(const WorkerMessage &message) const;
 
@@ -49,17 +52,34 @@ public:
     std::optional<WorkerMessage> ReceiveIfThere() const;
 
 private:
-    int descriptor_;
+    std::intptr_t end_;
+};
+
+/// What a worker has from its parent.
+struct WorkerSeat {
+    std::size_t worker; ///< which of them it is, counted from 0
+    char *memory;       ///< what they all share
+    ParentChannel parent;
 };
 
 class WorkerProcesses {
 public:
     /// What a worker does; it goes on until the process is ended.
-    using Work = std::function<void(std::size_t worker, ParentChannel &parent)>;
+    using Work = std::function<void(const WorkerSeat &seat)>;
 
-    /// Makes `count` workers, copies of this process as it stands. Throws Refusal with
-    /// ExitCode::CannotReadOrWrite when one cannot be made.
-    WorkerProcesses(std::size_t count, const Work &work);
+    /// Makes `count` workers that share `memory`. Throws Refusal with ExitCode::CannotReadOrWrite
+    /// when one cannot be made.
+    ///
+    /// Unix: they are copies of this process as it stands, and do `work`.
+    ///
+    /// Windows, which makes no copies: each is this program, started again with the same
+    /// arguments, and has to take its seat by SeatOfThisProcess and do the same work. What is
+    /// open here as `output` is its standard output; none for -1. Its standard input is empty.
+    WorkerProcesses(std::size_t count, const SharedMemory &memory, int output, const Work &work);
+
+    /// What a process has that was started to be a worker. Nothing in any other, and always on
+    /// Unix. To be called once.
+    static std::optional<WorkerSeat> SeatOfThisProcess();
 
     /// Ends all workers. They end too when this process ends in any other way.
     ~WorkerProcesses();
@@ -77,15 +97,6 @@ public:
     Received Receive();
 
 private:
-    struct Worker {
-        int process;
-        int descriptor;
-    };
-
-    void Start(const Work &work);
-    void EndAll();
-    [[noreturn]] void HasDied(Worker &worker);
-
-    std::vector<Worker> workers_;
-    std::size_t next_ = 0; ///< whom to listen to first
+    class Made; ///< the processes, as the system has them
+    std::unique_ptr<Made> made_;
 };

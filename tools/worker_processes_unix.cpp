@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <vector>
 
 #include <poll.h>
 #include <sys/mman.h>
@@ -48,6 +49,8 @@ bool ReceiveAll(int descriptor, WorkerMessage &message, bool wait) {
 /// would take for ever.
 bool IsOtherEndGone() { return errno == EPIPE || errno == ECONNRESET; }
 
+int Descriptor(std::intptr_t end) { return static_cast<int>(end); }
+
 } // namespace
 
 SharedMemory::SharedMemory(std::size_t size) : size_(size) {
@@ -61,35 +64,55 @@ SharedMemory::SharedMemory(std::size_t size) : size_(size) {
 SharedMemory::~SharedMemory() { munmap(data_, size_); }
 
 void ParentChannel::Send(const WorkerMessage &message) const {
-    if (!SendAll(descriptor_, message))
+    if (!SendAll(Descriptor(end_), message))
         _exit(EXIT_FAILURE);
 }
 
 WorkerMessage ParentChannel::Receive() const {
     WorkerMessage message;
-    if (!ReceiveAll(descriptor_, message, true))
+    if (!ReceiveAll(Descriptor(end_), message, true))
         _exit(EXIT_SUCCESS);
     return message;
 }
 
 std::optional<WorkerMessage> ParentChannel::ReceiveIfThere() const {
     WorkerMessage message;
-    return ReceiveAll(descriptor_, message, false) ? std::optional(message) : std::nullopt;
+    return ReceiveAll(Descriptor(end_), message, false) ? std::optional(message) : std::nullopt;
 }
 
-WorkerProcesses::WorkerProcesses(std::size_t count, const Work &work) {
-    try {
-        for (std::size_t made = 0; made < count; ++made)
-            Start(work);
-    } catch (...) {
-        EndAll();
-        throw;
+class WorkerProcesses::Made {
+public:
+    Made(std::size_t count, char *memory, const Work &work) {
+        try {
+            for (std::size_t made = 0; made < count; ++made)
+                Start(memory, work);
+        } catch (...) {
+            EndAll();
+            throw;
+        }
     }
-}
+    ~Made() { EndAll(); }
+    Made(const Made &) = delete;
+    Made &operator=(const Made &) = delete;
 
-WorkerProcesses::~WorkerProcesses() { EndAll(); }
+    void Send(std::size_t worker, const WorkerMessage &message);
+    Received Receive();
 
-void WorkerProcesses::Start(const Work &work) {
+private:
+    struct Worker {
+        pid_t process;
+        int descriptor;
+    };
+
+    void Start(char *memory, const Work &work);
+    void EndAll();
+    [[noreturn]] void HasDied(Worker &worker);
+
+    std::vector<Worker> workers_;
+    std::size_t next_ = 0; ///< whom to listen to first
+};
+
+void WorkerProcesses::Made::Start(char *memory, const Work &work) {
     // Whole messages, as they were sent.
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0)
@@ -117,16 +140,15 @@ void WorkerProcesses::Start(const Work &work) {
     close(ends[0]);
     for (const Worker &other : workers_)
         close(other.descriptor);
-    ParentChannel channel(ends[1]);
     try {
-        work(workers_.size(), channel);
+        work({workers_.size(), memory, ParentChannel(ends[1])});
     } catch (...) {
         std::abort(); // the parent sees that it has died
     }
     _exit(EXIT_SUCCESS);
 }
 
-void WorkerProcesses::EndAll() {
+void WorkerProcesses::Made::EndAll() {
     for (const Worker &worker : workers_) {
         close(worker.descriptor);
         if (worker.process > 0)
@@ -138,7 +160,7 @@ void WorkerProcesses::EndAll() {
     workers_.clear();
 }
 
-void WorkerProcesses::HasDied(Worker &worker) {
+void WorkerProcesses::Made::HasDied(Worker &worker) {
     int status = 0;
     while (waitpid(worker.process, &status, 0) < 0 && errno == EINTR) {
     }
@@ -154,7 +176,7 @@ void WorkerProcesses::HasDied(Worker &worker) {
         ExitCode::CannotReadOrWrite);
 }
 
-void WorkerProcesses::Send(std::size_t worker, const WorkerMessage &message) {
+void WorkerProcesses::Made::Send(std::size_t worker, const WorkerMessage &message) {
     if (SendAll(workers_[worker].descriptor, message))
         return;
     if (!IsOtherEndGone())
@@ -162,7 +184,7 @@ void WorkerProcesses::Send(std::size_t worker, const WorkerMessage &message) {
     HasDied(workers_[worker]);
 }
 
-WorkerProcesses::Received WorkerProcesses::Receive() {
+WorkerProcesses::Received WorkerProcesses::Made::Receive() {
     std::vector<pollfd> ends;
     ends.reserve(workers_.size());
     for (const Worker &worker : workers_)
@@ -183,3 +205,17 @@ WorkerProcesses::Received WorkerProcesses::Receive() {
     }
     throw Failure(u"the processes cannot be waited for"_s);
 }
+
+WorkerProcesses::WorkerProcesses(std::size_t count, const SharedMemory &memory, int /*output*/,
+                                 const Work &work)
+    : made_(std::make_unique<Made>(count, memory.Data(), work)) {}
+
+WorkerProcesses::~WorkerProcesses() = default;
+
+std::optional<WorkerSeat> WorkerProcesses::SeatOfThisProcess() { return std::nullopt; }
+
+void WorkerProcesses::Send(std::size_t worker, const WorkerMessage &message) {
+    made_->Send(worker, message);
+}
+
+WorkerProcesses::Received WorkerProcesses::Receive() { return made_->Receive(); }

@@ -101,11 +101,12 @@ Section "Uninstall"
   Delete "$SMPROGRAMS\Orravane Document.lnk"
   DeleteRegKey SHCTX "${UNINSTALL_KEY}"
 
-  ; What the program has kept for this user: the day of the update question, and its lock.
+  ; What the program has kept for this user: the day of the update question, and its locks.
   SetShellVarContext current
   DeleteRegKey HKCU "Software\orravane\orravane"
   DeleteRegKey /ifempty HKCU "Software\orravane"
   Delete "$LOCALAPPDATA\orravane\orravane\instance.lock"
   RMDir "$LOCALAPPDATA\orravane\orravane"
   RMDir "$LOCALAPPDATA\orravane"
+  Delete "$TEMP\orravane-*.lock"
 SectionEnd

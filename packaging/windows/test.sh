@@ -11,7 +11,7 @@ cache=${ORRAVANE_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orravane-windows
 . packaging/debian-packages.sh
 . packaging/windows/toolkit.sh
 install_missing $build_packages $windows_packages googletest fonts-dejavu-core \
-    imagemagick openbox python3 unzip wine wine64 x11-utils xdotool xvfb
+    cups-daemon imagemagick locales openbox procps python3 wine wine64 x11-utils xclip xdotool xvfb
 [ -n "${ORRAVANE_BUILT:-}" ] || packaging/windows/build.sh build/windows/release
 
 # --- GoogleTest, once
@@ -23,8 +23,8 @@ if [ ! -f "$toolkit/lib/libgtest.a" ]; then
 fi
 configure build/windows/tests -DBUILD_TESTING=ON
 cmake --build build/windows/tests --target core_test numbers_test cycles_test derived_test report_test \
-    person_test
+    person_test report_output_test file_lock_test report_tool_parts_test worker_processes_test
 cmake --preset release >/dev/null
 cmake --build --preset release --target orravane-report
 
-TOOLKIT_BIN=$toolkit/bin exec python3 packaging/windows/try_under_wine.py
+exec python3 packaging/windows/try_under_wine.py

@@ -8,6 +8,7 @@ import pty
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -15,6 +16,8 @@ import time
 import unittest
 
 ROOT = pathlib.Path.cwd()
+sys.path.insert(0, str(ROOT / "tests/e2e"))
+import print_queue  # noqa: E402
 BUILT = ROOT / "build/windows"
 RELEASE = BUILT / "release"
 PICTURES = BUILT / "pictures"
@@ -35,11 +38,38 @@ def wait_for(what, ready, seconds=60):
     raise AssertionError(f"waited in vain for {what}")
 
 
+class Paper:
+    """A print server with one printer, which keeps what it is sent. Its paper is Letter, which is
+    not what is usual here. Wine prints PostScript."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        self.servers = []
+        print_queue.DESCRIPTION = print_queue.DESCRIPTION.replace("application/pdf",
+                                                                  "application/postscript")
+        self.queue = print_queue.PrintQueue(self, paper="Letter")
+        self.env = self.queue.env
+
+    def spawn(self, command, log, own_user):
+        with open(self.folder / log, "wb") as file:
+            self.servers.append(subprocess.Popen(command, stdout=file, stderr=file))
+
+    def log(self, name):
+        return (self.folder / name).read_text(errors="replace")
+
+    def close(self):
+        for server in self.servers:
+            server.terminate()
+            server.wait(60)
+
+
 class Machine:
     """A display of its own and a Windows of its own on it."""
 
     def __init__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orravane-wine-"))
+        self.folder.chmod(0o755)  # the print server gives up its rights
+        self.paper = Paper(self.folder)
         read, write = os.pipe()
         self.display = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0",
                                          "1280x1024x24"], pass_fds=[write],
@@ -48,7 +78,7 @@ class Machine:
         number = os.read(read, 16).decode().strip()
         self.env = dict(os.environ, DISPLAY=f":{number}", WINEPREFIX=str(self.folder / "prefix"),
                         WINEARCH="win64", WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree=;mshtml=",
-                        LC_ALL="C.UTF-8", HOME=str(self.folder))
+                        LC_ALL="C.UTF-8", HOME=str(self.folder), **self.paper.env)
         self.manager = subprocess.Popen(["openbox"], env=self.env, stderr=subprocess.DEVNULL)
         self.wine("wineboot", "-i")
         self.home = next((self.folder / "prefix/drive_c/users").glob("[!P]*"))
@@ -68,6 +98,7 @@ class Machine:
 
     def close(self):
         subprocess.run(["wineserver", "-k"], env=self.env, stderr=subprocess.DEVNULL)
+        self.paper.close()
         self.manager.terminate()
         self.display.terminate()
         shutil.rmtree(self.folder, ignore_errors=True)
@@ -80,9 +111,16 @@ class Machine:
         more.setdefault("stderr", subprocess.DEVNULL)
         return self.run("wine", *command, check=check, **more)
 
-    def start(self, *command, **more):
-        return subprocess.Popen(["wine", *map(str, command)], env=self.env,
+    def start(self, *command, env=None, **more):
+        return subprocess.Popen(["wine", *map(str, command)], env=self.env | (env or {}),
                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **more)
+
+    def processes(self, name):
+        """The processes of this program, as (number, command line)."""
+        listed = self.run("ps", "-eo", "pid=,args=", capture_output=True, text=True).stdout
+        found = [line.split(None, 1) for line in listed.splitlines()]
+        return [(int(number), line) for number, line in found
+                if name in line and str(self.folder) in line.replace("\\", "/")]
 
     def opened_pages(self):
         return self.pages.read_text().split() if self.pages.exists() else []
@@ -112,6 +150,17 @@ class Machine:
         self.xdotool("type", "--delay", 40, text)
         time.sleep(0.5)
 
+    def clipboard(self):
+        """What another program finds in it as text."""
+        return self.run("xclip", "-selection", "clipboard", "-out", capture_output=True,
+                        text=True).stdout
+
+    def put_into_clipboard(self, text):
+        """As another program does it, which then has to run as long as the text is there."""
+        self.run("xclip", "-selection", "clipboard", "-in", input=text, text=True,
+                 stdout=subprocess.DEVNULL, check=True)
+        time.sleep(1)
+
     def move(self, x, y):
         self.xdotool("mousemove", x, y)
         time.sleep(0.5)
@@ -137,20 +186,26 @@ def files_below(folder):
 
 class UnitTests(unittest.TestCase):
 
+    TESTS = ("core/core_test", "numbers/numbers_test", "numbers/cycles/cycles_test",
+             "numbers/derived/derived_test", "report/report_test", "report/person_test",
+             "report/report_output_test", "shell/file_lock_test", "tools/report_tool_parts_test",
+             "tools/worker_processes_test")
+
     def test_all_are_green(self):
-        tests = BUILT / "tests/tests"
-        libraries = ";".join("Z:" + str(folder).replace("/", "\\") for folder in (
-            machine.portable, os.environ["TOOLKIT_BIN"]))
-        env = dict(machine.env, WINEPATH=libraries)
-        for name in ("core/core_test", "numbers/numbers_test", "numbers/cycles/cycles_test",
-                     "numbers/derived/derived_test", "report/report_test", "report/person_test"):
+        folder = machine.folder / "unit tests"  # with the libraries beside them, as the programs
+        shutil.copytree(machine.portable, folder)
+        env = machine.env | {"ORRAVANE_TEST_PRINTER": "yes"}
+        for name in self.TESTS:
             with self.subTest(name):
-                done = subprocess.run(["wine", f"{tests / name}.exe"], env=env,
-                                      capture_output=True, text=True, timeout=600)
+                test = shutil.copy(BUILT / f"tests/tests/{name}.exe", folder)
+                done = subprocess.run(["wine", test], env=env, capture_output=True, text=True,
+                                      timeout=300)
                 self.assertEqual(done.returncode, 0, done.stdout[-3000:])
-                passed = re.search(r"\[  PASSED  \] (\d+) tests", done.stdout)
+                passed = re.search(r"\[  PASSED  \] (\d+) tests?", done.stdout)
                 self.assertGreater(int(passed.group(1)), 0)
                 print(f"  {name}: {passed.group(1)} tests", flush=True)
+        [document] = machine.paper.queue.printed()
+        self.assertEqual(machine.paper.queue.title(document), "A test")
 
 
 class ReportTool(unittest.TestCase):
@@ -280,10 +335,70 @@ class ReportTool(unittest.TestCase):
         self.assertFalse(target.exists())
 
     def test_jobs(self):
-        done = self.tool("--batch", self.people, "--jobs", "2")
-        self.assertEqual(done.returncode, 2)
-        self.assertEqual(done.stderr.count(b"\n"), 1)
-        self.assertIn(b"--jobs", done.stderr)
+        """Several processes give the bytes of one, to standard output, a file and a folder."""
+        person = ["--batch", self.people, "--today", "2027-01-01"]
+        for arguments in (["--format", "json"], ["--format", "text"], ["--explain"],
+                          ["--numbers", "--format", "csv"], ["--max-errors", "1"]):
+            theirs = self.linux(*person, *arguments)
+            for jobs in ("2", "5"):
+                ours = self.tool(*person, *arguments, "--jobs", jobs)
+                self.assertEqual(ours.returncode, theirs.returncode, ours.stderr[-500:])
+                self.assertEqual(ours.stdout == theirs.stdout, True, (arguments, jobs))
+                self.assertEqual(ours.stderr, theirs.stderr)
+        theirs = self.linux(*person)
+        target = self.folder / "jobs – Ω.jsonl"
+        ours = self.tool("--batch", "-", "--today", "2027-01-01", "--jobs", "3", "--output", target,
+                         input=self.people.read_bytes())
+        self.assertEqual((ours.returncode, ours.stderr), (1, theirs.stderr))
+        self.assertEqual(target.read_bytes() == theirs.stdout, True)
+        folders = self.folder / "jobs von Windows", self.folder / "jobs von Linux"
+        for tool, folder in ((self.tool, folders[0]), (self.linux, folders[1])):
+            tool(*person, "--format", "markdown", "--output-dir", folder, "--jobs", "3")
+        names = files_below(folders[1])
+        self.assertEqual(files_below(folders[0]), names)
+        self.assertEqual([name for name in names if (folders[0] / name).read_bytes() !=
+                          (folders[1] / name).read_bytes()], [])
+        for path in (target, *folders):
+            shutil.rmtree(path) if path.is_dir() else path.unlink()
+
+    def start_waiting_jobs(self, target):
+        """A batch of two processes that waits for more input."""
+        run = subprocess.Popen(["wine", machine.portable / "orravane-report.exe", "--batch", "-",
+                                "--jobs", "2", "--output", target], env=machine.env,
+                               stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.PIPE)
+        self.addCleanup(run.stderr.close)
+        all_three = wait_for("the processes", lambda: machine.processes("orravane-report.exe")
+                             if len(machine.processes("orravane-report.exe")) == 3 else None)
+        workers = [number for number, _ in all_three if number != run.pid]
+        self.assertEqual(len(workers), 2)
+        return run, workers
+
+    def test_jobs_end_with_their_parent(self):
+        target = self.folder / "killed jobs.jsonl"
+        run, _ = self.start_waiting_jobs(target)
+        run.kill()
+        run.stdin.close()
+        run.wait(60)
+        wait_for("the others to go", lambda: not machine.processes("orravane-report.exe"))
+        wait_for("the file to go", lambda: not list(self.folder.glob(".orravane-*")))
+        self.assertFalse(target.exists())
+
+    def test_jobs_tell_that_one_has_died(self):
+        target = self.folder / "dead job.jsonl"
+        run, workers = self.start_waiting_jobs(target)
+        os.kill(workers[0], signal.SIGKILL)
+        try:
+            run.stdin.write(self.people.read_bytes())
+            run.stdin.close()
+        except BrokenPipeError:
+            pass
+        self.assertEqual(run.wait(60), 3)
+        said = run.stderr.read().decode()
+        self.assertIn("--jobs: one of the processes has died (exit code ", said)
+        wait_for("all to go", lambda: not machine.processes("orravane-report.exe"))
+        self.assertFalse(target.exists())
+        self.assertEqual(list(self.folder.glob(".orravane-*")), [])
 
     def test_a_console_shows_utf_8(self):
         main, side = pty.openpty()
@@ -307,15 +422,31 @@ class ReportTool(unittest.TestCase):
 class Window(unittest.TestCase):
     """The whole story by mouse and keyboard. Places are in pixels of the page, below the menu."""
 
+    FIRST_NAME = 315 + 150, 56 + 100
+    LAST_NAME = 315 + 150, 56 + 164
+    PROCEED = SAVE = 315 + 205 + 42, 56 + 312 + 13  # each on its page
+    PRINT = 315 + 205 - 43, 56 + 312 + 13
+    PANE = 325 + 100, 70 + 100
+    HELP = 534, 26
+    ADDRESS = 523, 421
+
     def place_of(self, title="Orravane v1.0"):
         return wait_for(f"the window {title}", lambda: machine.windows(title))[-1]
 
     def setUp(self):
         machine.pages.unlink(missing_ok=True)
-        self.program = machine.start(machine.portable / "orravane.exe")
+        self.start()
+
+    def start(self, env=None):
+        self.program = machine.start(machine.portable / "orravane.exe", env=env)
         self.window, self.left, self.top, self.width, self.height = self.place_of()
         self.top += self.height - 440
         time.sleep(3)
+
+    def start_again(self, env=None):
+        self.tearDown()
+        wait_for("the window to go", lambda: not machine.windows("Orravane v1.0"))
+        self.start(env)
 
     def tearDown(self):
         machine.wine("taskkill", "/f", "/im", "orravane.exe", check=False)
@@ -331,6 +462,24 @@ class Window(unittest.TestCase):
                            "%[fx:mean]", "info:", capture_output=True, check=True)
         return float(done.stdout)
 
+    def type_person(self):
+        self.click(*self.FIRST_NAME)
+        machine.type("Clara")
+        machine.keys("Tab", "Tab")
+        machine.type("Winter")
+
+    def proceed(self):
+        self.click(*self.PROCEED)
+        time.sleep(2)
+
+    def save_as(self, name):
+        """Saves into the folder of documents, and returns the path."""
+        self.click(*self.SAVE)
+        wait_for("the save dialog", lambda: machine.windows("Orravane"))
+        time.sleep(4)
+        machine.type(f"C:\\users\\{machine.home.name}\\Documents\\{name}")
+        return machine.home / "Documents" / name
+
     def test_story(self):
         self.assertEqual(self.width, 626)
         machine.keep("1-start")
@@ -345,25 +494,16 @@ class Window(unittest.TestCase):
         machine.move(self.left + 300, self.top + 30)
         wait_for("the button to go out", lambda: self.brightness(566, 7, 44, 39) < plain + 0.02)
 
-        # A person, by keyboard, and Proceed.
-        self.click(315 + 150, 56 + 100)  # First Name
-        machine.type("Clara")
-        machine.keys("Tab", "Tab")
-        machine.type("Winter")
+        self.type_person()
         machine.keep("3-typed")
-        self.click(315 + 205 + 42, 56 + 312 + 13)
-        time.sleep(2)
+        self.proceed()
         machine.keep("4-report")
         paper = self.brightness(325, 70, 270, 280)
         self.assertGreater(paper, 0.6)
 
         # Save, by the common dialog, twice over the same file.
-        target = machine.home / "Documents" / "ein Bericht.rtf"
         for number in (1, 2):
-            self.click(315 + 205 + 42, 56 + 312 + 13)
-            wait_for("the save dialog", lambda: machine.windows("Orravane"))
-            time.sleep(4)
-            machine.type("C:\\users\\" + machine.home.name + "\\Documents\\ein Bericht.rtf")
+            target = self.save_as("ein Bericht.rtf")
             machine.keep(f"5-save-{number}")
             machine.keys("Return")
             time.sleep(3)
@@ -392,10 +532,7 @@ class Window(unittest.TestCase):
         # Killed, it leaves no lock behind.
         machine.wine("taskkill", "/f", "/im", "orravane.exe")
         self.program.wait(60)
-        self.program = machine.start(machine.portable / "orravane.exe")
-        self.window, self.left, self.top, self.width, self.height = self.place_of()
-        self.top += self.height - 440
-        time.sleep(3)
+        self.start()
         machine.keep("8-again")
         self.assertEqual(machine.windows("Orravane"), [])
 
@@ -409,6 +546,104 @@ class Window(unittest.TestCase):
         wait_for("the page", lambda: len(machine.opened_pages()) == 2)
         self.assertEqual(set(machine.opened_pages()),
                          {f"https://{HOST}/thankyou-for-using-orravane.php"})
+
+    def test_links(self):
+        """Opened by the shell, in the user's browser."""
+        for number, (place, page) in enumerate([(self.ADDRESS, "/"), (self.HELP, "/orravane-help/")]):
+            self.click(*place)
+            wait_for("the page", lambda: len(machine.opened_pages()) > number)
+            self.assertEqual(machine.opened_pages()[number:], [f"https://{HOST}{page}"])
+        machine.keys("alt+h", "v")  # Visit Us Online
+        wait_for("the page", lambda: len(machine.opened_pages()) == 3)
+        self.assertEqual(machine.opened_pages()[2], f"https://{HOST}/")
+
+    def test_a_name_without_an_ending_gets_the_default_one(self):
+        self.type_person()
+        self.proceed()
+        target = self.save_as("ohne Endung")
+        machine.keys("Return")
+        whole = target.with_name(target.name + ".txt")
+        wait_for("the file", whole.exists)
+        time.sleep(1)
+        self.assertFalse(target.exists())
+        self.assertTrue(whole.read_bytes().startswith(b"{\\rtf1"))
+        whole.unlink()
+
+    def test_clipboard(self):
+        """Text goes to other programs and comes from them; the pane empties it."""
+        self.type_person()
+        machine.keys("ctrl+a", "ctrl+c")
+        wait_for("the copy", lambda: machine.clipboard() == "Winter")
+        machine.put_into_clipboard("Ångström")
+        self.click(*self.FIRST_NAME)
+        machine.keys("ctrl+a", "ctrl+v", "ctrl+a", "ctrl+x")
+        wait_for("what was put in and cut out", lambda: machine.clipboard() == "Ångström")
+        machine.type("Clara")
+        self.proceed()
+        machine.put_into_clipboard("of another program")
+        self.assertEqual(machine.clipboard(), "of another program")
+        machine.move(self.left + self.PANE[0], self.top + self.PANE[1])
+        machine.move(self.left + self.PANE[0] + 3, self.top + self.PANE[1] + 3)
+        wait_for("the clipboard to be emptied", lambda: machine.clipboard() == "")
+
+    def test_print(self):
+        """To the default printer as its user has set it, without a dialog."""
+        self.type_person()
+        self.proceed()
+        before = len(machine.paper.queue.printed())
+        self.click(*self.PRINT)
+        wait_for("the page", lambda: len(machine.paper.queue.printed()) > before)
+        self.assertEqual(machine.windows("(?!Orravane v1.0).*Orravane.*"), [])
+        document = machine.paper.queue.printed()[-1]
+        self.assertEqual(machine.paper.queue.title(document), "Orravane")
+        page = document.read_bytes()
+        self.assertTrue(page.startswith(b"%!PS"))
+        self.assertIn(b"%%BeginFeature: *PageSize Letter", page)
+        self.assertIn(b"%%Pages: 1", page)
+        shutil.copy(document, PICTURES / "print.ps")
+
+    def test_months_in_another_language(self):
+        """Of the user's system; in a report they count as nothing, as anywhere else."""
+        locales = machine.folder / "locales"
+        locales.mkdir()
+        machine.run("localedef", "--no-archive", "-i", "de_DE", "-f", "UTF-8",
+                    locales / "de_DE.UTF-8", check=True)
+        self.tearDown()
+        subprocess.run(["wineserver", "-k"], env=machine.env, check=False)
+        german = {"LC_ALL": "de_DE.UTF-8", "LOCPATH": str(locales)}
+        try:
+            self.start(german)
+            self.click(315 + 150, 56 + 211)
+            time.sleep(1)
+            machine.keep("months-in-german")
+        finally:
+            self.tearDown()
+            subprocess.run(["wineserver", "-k"], env=machine.env, check=False)
+
+    def test_at_a_larger_scale(self):
+        """The same window half as large again, with artwork of its own."""
+        desktop = r"HKCU\Control Panel\Desktop"
+        machine.wine("reg", "add", desktop, "/v", "LogPixels", "/t", "REG_DWORD", "/d", "144", "/f")
+        try:
+            self.tearDown()
+            subprocess.run(["wineserver", "-k"], env=machine.env, check=False)
+            self.program = machine.start(machine.portable / "orravane.exe")
+            _, left, top, width, height = self.place_of()
+            time.sleep(3)
+            self.assertEqual(width, 626 * 3 // 2)
+            machine.keep("scale-150-start")
+            top += height - 660
+            machine.click(left + 465 * 3 // 2, top + 156 * 3 // 2)
+            machine.type("Clara")
+            machine.keys("Tab", "Tab")
+            machine.type("Winter")
+            machine.keys("alt+p")
+            time.sleep(2)
+            machine.keep("scale-150-report")
+        finally:
+            self.tearDown()
+            machine.wine("reg", "delete", desktop, "/v", "LogPixels", "/f")
+            subprocess.run(["wineserver", "-k"], env=machine.env, check=False)
 
 
 class Installer(unittest.TestCase):

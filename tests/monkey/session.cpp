@@ -666,10 +666,9 @@ void Session::AnswerSaveDialog(QDialog &dialog) {
     case 1:
         path = TemporaryHome::PathOf(u"no such folder/report.rtf"_s);
         break;
-    case 2: // is there already
-        path = TemporaryHome::PathOf(u"earlier.rtf"_s);
-        // But not over what the first half of a double click has just saved there.
-        if (QFile file(path); !file.exists() && file.open(QIODevice::WriteOnly))
+    case 2: // is there already; one of its own, as a double click asks twice
+        path = TemporaryHome::PathOf(u"earlier %1.rtf"_s.arg(++savings_));
+        if (QFile file(path); file.open(QIODevice::WriteOnly))
             file.write("earlier");
         break;
     default:

@@ -12,7 +12,7 @@ namespace {
 std::string Written(std::u16string_view text) {
     HtmlWriter html;
     html << text;
-    return html.Take();
+    return std::string(html.Written());
 }
 
 std::string HtmlFor(std::u16string first, std::u16string last) {
@@ -52,7 +52,7 @@ TEST(HtmlWriter, ReplacesWhatNoHtmlMayHold) {
 TEST(HtmlWriter, PutsMarkupBetweenLines) {
     HtmlWriter html;
     html.Lines(u"One & two.\r\nA second line that is longer than a block.\r\n", "|");
-    EXPECT_EQ(html.Take(), "One &amp; two.|A second line that is longer than a block.|");
+    EXPECT_EQ(html.Written(), "One &amp; two.|A second line that is longer than a block.|");
 }
 
 TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
@@ -61,6 +61,16 @@ TEST(Html, IsolatesTheNameAndKeepsItsMarksOfDirectionOutOfPlainText) {
     EXPECT_NE(html.find("<title>Ann Lee \u2013 Orravane Comprehensive Reading, November 16, "
                         "2026</title>"),
               std::string::npos);
+}
+
+// They become the properties of a PDF.
+TEST(Html, SaysInItsHeadWhatItIs) {
+    const std::string html = HtmlFor(u"\"Ann\"", u"Lee");
+    EXPECT_NE(
+        html.find("<meta name=\"description\" content=\"A numerology report for &quot;Ann&quot; "
+                  "Lee, born March 7, 1990, read for November 16, 2026.\">"),
+        std::string::npos);
+    EXPECT_NE(html.find("<meta name=\"author\" content=\"Orravane\">"), std::string::npos);
 }
 
 // What could end the style, and what could end the text within it. A blank ends each number.

@@ -362,6 +362,28 @@ private slots:
         QVERIFY(IsSelected(u"Help"_s));
     }
 
+    void AClickCountsAlsoWhereTheReleaseBeforeItWentToADialog() {
+        const auto middle = [&](const QString &caption) {
+            return QPointF(TV.visualItemRect(Node(caption)).center());
+        };
+        const auto drag = [&] {
+            QTest::mousePress(TV.viewport(), Qt::LeftButton, {},
+                              middle(u"Enter The Information"_s).toPoint());
+            const QPointF onReset = middle(u"Reset"_s);
+            QMouseEvent move(QEvent::MouseMove, onReset, TV.viewport()->mapToGlobal(onReset),
+                             Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(TV.viewport(), &move);
+            QVERIFY(IsSelected(u"Reset"_s));
+        };
+        drag();
+        ClickNode(u"Help"_s);
+        QVERIFY(IsSelected(u"Help"_s));
+        QCOMPARE(Page(), u"Picture3"_s);
+        drag();
+        QTest::mouseDClick(TV.viewport(), Qt::LeftButton, {}, middle(u"Help"_s).toPoint());
+        QVERIFY(IsSelected(u"Help"_s));
+    }
+
     void AClickOnATopicOpensAndClosesNoBranch() {
         EnterSomebody();
         ClickNode(u"Essence"_s);

@@ -2,8 +2,8 @@
 // when one dies it is told.
 
 #include "tests/tools/batch_answers.h"
-#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
+#include "tests/tools/program.h"
 
 #include <gtest/gtest.h>
 

@@ -203,9 +203,17 @@ TEST_F(Batch, IsRefusedWhereThereIsNoFileToRead) {
     Make("people", "");
     std::filesystem::create_directory(Path("folder"));
     const FileMap before = Files();
-    for (const auto &[name, reason] : {std::pair("missing\nä", "No such file"),
-                                       {"folder", "directory"},
-                                       {"people/below", "Not a directory"}}) {
+#ifdef Q_OS_WIN
+    constexpr std::pair<const char *, const char *> cases[] = {{"missing ä", "No such file"},
+                                                               {"missing\nä", "Invalid argument"},
+                                                               {"folder", "directory"},
+                                                               {"people/below", "No such file"}};
+#else
+    constexpr std::pair<const char *, const char *> cases[] = {{"missing\nä", "No such file"},
+                                                               {"folder", "directory"},
+                                                               {"people/below", "Not a directory"}};
+#endif
+    for (const auto &[name, reason] : cases) {
         for (Options options : {ToOneFile(), ToAFolder()}) {
             options.batchFiles = {QString::fromStdString(Path(name))};
             const std::string shown = OneLine(Excerpt(options.batchFiles.constFirst()));
@@ -363,14 +371,18 @@ TEST_F(Batch, IntoAFolderNamesTheFilesAsItIsTold) {
 TEST_F(Batch, IntoAFolderKeepsWhatIsThereWhenToldSo) {
     std::filesystem::create_directory(Path("people.d"));
     Make("people.d/person-000001.txt", "mine");
-    std::filesystem::create_symlink("nowhere", Path("people.d/person-000002.txt"));
+    std::error_code noLink; // not everybody may make one on Windows
+    std::filesystem::create_symlink("nowhere", Path("people.d/person-000002.txt"), noLink);
+    if (noLink)
+        Make("people.d/person-000002.txt", "mine too");
     std::filesystem::create_directory(Path("people.d/person-000003.txt"));
     Options options = ToAFolder();
     options.noClobber = true;
     const Answers answers = Run(std::string(annLine) + bobLine + annLine + bobLine, options);
     EXPECT_EQ(answers.code, ExitCode::Ok);
     EXPECT_EQ(Read(Path("people.d/person-000001.txt")), "mine");
-    EXPECT_TRUE(std::filesystem::is_symlink(Path("people.d/person-000002.txt")));
+    EXPECT_TRUE(noLink || std::filesystem::is_symlink(Path("people.d/person-000002.txt")));
+    EXPECT_TRUE(!noLink || Read(Path("people.d/person-000002.txt")) == "mine too");
     EXPECT_TRUE(std::filesystem::is_directory(Path("people.d/person-000003.txt")));
     EXPECT_EQ(Read(Path("people.d/person-000004.txt")),
               Alone({"Bob", {}, "Ray", "April", "8", "1991"}, Format::Text));

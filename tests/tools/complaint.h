@@ -1,9 +1,8 @@
 #pragma once
 
-// How orravane-report says no: a Refusal within its library, one line on standard error
-// that begins with the program's name from outside.
+// How orravane-report says no: a Refusal within its library, one line on standard error that begins
+// with the program's name from outside.
 
-#include "tests/tools/program.h"
 #include "tools/refusal.h"
 #include "tools/text.h"
 
@@ -46,23 +45,4 @@ inline void ExpectOneLine(const std::string &err, const std::vector<std::string>
     EXPECT_TRUE(err.starts_with("orravane-report: ")) << err;
     ASSERT_TRUE(err.ends_with('\n')) << err;
     ExpectLine(err.substr(0, err.size() - 1), parts);
-}
-
-/// Expects that the program refused its input: exit code 2, nothing written, one line.
-inline void ExpectRefused(const Finished &run, const std::vector<std::string> &parts) {
-    EXPECT_EQ(run.exitCode, 2) << "signal " << run.signal;
-    EXPECT_EQ(run.out, "");
-    ExpectOneLine(run.err, parts);
-}
-
-/// Expects that the program could not read or write: exit code 3, one line.
-inline void ExpectFailed(const Finished &run, const std::vector<std::string> &parts) {
-    EXPECT_EQ(run.exitCode, 3) << "signal " << run.signal;
-    ExpectOneLine(run.err, parts);
-}
-
-/// Expects success without a word.
-inline void ExpectGood(const Finished &run) {
-    EXPECT_EQ(run.exitCode, 0) << "signal " << run.signal;
-    EXPECT_EQ(run.err, "");
 }

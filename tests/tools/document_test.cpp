@@ -1,6 +1,5 @@
 // Documents from the built program, with the real engine of the PDFs or a stand-in for it.
 
-#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
 #include "tests/tools/program.h"
 
@@ -93,6 +92,31 @@ TEST_F(DocumentTest, AnInterruptEndsTheEngineToo) {
         usleep(10'000); // until the system has tidied it up
     EXPECT_NE(kill(engine, 0), 0);
     EXPECT_FALSE(std::filesystem::exists(Path("ann.pdf")));
+}
+
+TEST_F(DocumentTest, AFullOrClosedOutputIsReported) {
+    const Surroundings quick = StandIn("printf 'pdf 3\\nPDF'; exec cat >/dev/null");
+    for (const char *format : {"html", "markdown", "pdf"}) {
+        Surroundings full = quick;
+        full.outputFile = "/dev/full";
+        Surroundings closed = quick;
+        closed.noOutput = true;
+        const Arguments arguments = ann + Arguments{"-f", format};
+        ExpectFailed(RunProgram(arguments, {}, full), {"standard output: No space left on device"});
+        ExpectFailed(RunProgram(arguments, {}, closed), {"standard output: Bad file descriptor"});
+    }
+}
+
+// By the real engine, which needs a folder for its fonts.
+TEST_F(DocumentTest, AReaderThatGoesEndsTheProgramAndNothingIsLeftBehind) {
+    const std::string person =
+        "TMPDIR='" + Path("") + "' \"$0\" --first Ann --last Lee --date 1990-03-07 --format ";
+    const auto statusOf = [&](const std::string &format) {
+        return RunShell("{ " + person + format + "; echo $? >&2; } | :").err;
+    };
+    EXPECT_EQ(statusOf("html"), std::to_string(128 + SIGPIPE) + '\n');
+    EXPECT_EQ(statusOf("pdf"), "orravane-report: standard output: Broken pipe\n3\n");
+    EXPECT_EQ(Files(), FileMap());
 }
 
 TEST_F(DocumentTest, ABatchMakesAFileForEachPersonWithOneProcessAndWithMany) {

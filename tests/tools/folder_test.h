@@ -22,15 +22,20 @@ protected:
     }
 
     static std::string Read(const std::string &path) {
-        std::ifstream file(path, std::ios::binary);
+        std::ifstream file(Native(path), std::ios::binary);
         EXPECT_TRUE(file.is_open()) << path;
         return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    /// A path, which is UTF-8 everywhere in the tests, as the system has it.
+    static std::filesystem::path Native(const std::string &path) {
+        return std::u8string(path.begin(), path.end());
     }
 
     /// Makes a file in the folder and returns its path.
     std::string Make(const std::string &name, std::string_view bytes) const {
         const std::string path = Path(name);
-        std::ofstream file(path, std::ios::binary);
+        std::ofstream file(Native(path), std::ios::binary);
         file << bytes;
         EXPECT_TRUE(file.flush().good()) << path;
         return path;
@@ -41,13 +46,13 @@ protected:
     /// The files below `folder` by name, with their bytes. Folders end in a slash.
     static FileMap Files(const std::string &folder) {
         FileMap files;
-        for (const auto &entry : std::filesystem::recursive_directory_iterator(folder)) {
-            const std::string name =
-                std::filesystem::relative(entry.path(), folder).generic_string();
+        for (const auto &entry : std::filesystem::recursive_directory_iterator(Native(folder))) {
+            const auto name = entry.path().lexically_relative(Native(folder)).generic_u8string();
+            const auto path = entry.path().u8string();
             if (entry.is_directory())
-                files[name + '/'];
+                files[std::string(name.begin(), name.end()) + '/'];
             else
-                files[name] = Read(entry.path());
+                files[std::string(name.begin(), name.end())] = Read({path.begin(), path.end()});
         }
         return files;
     }

@@ -5,9 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
-
-#include <sys/stat.h>
 #include <zlib.h>
 
 namespace {
@@ -90,7 +87,8 @@ TEST_F(LineReaderTest, RefusesGzipThatIsCutOrDamaged) {
     for (int number = 0; number < 10'000; ++number)
         text += std::to_string(number) + '\n';
     const std::string whole = Packed(text);
-    for (const std::size_t size : {2UL, 5UL, whole.size() / 2, whole.size() - 1})
+    for (const std::size_t size :
+         {std::size_t{2}, std::size_t{5}, whole.size() / 2, whole.size() - 1})
         ExpectLine(RefusalOf([&] { LinesOf(whole.substr(0, size)); }, ExitCode::CannotReadOrWrite),
                    {"--batch: the file \"", "is gzip and ends before its end"});
     std::string damaged = whole;
@@ -101,29 +99,6 @@ TEST_F(LineReaderTest, RefusesGzipThatIsCutOrDamaged) {
     for (const std::string &bytes : {damaged, wrongSum, whole + "rubbish"})
         ExpectLine(RefusalOf([&] { LinesOf(bytes); }, ExitCode::CannotReadOrWrite),
                    {"--batch: the file \"", "is gzip and damaged ("});
-}
-
-// A pipe may hand out as little as a byte at a time, and the mark of gzip has two.
-TEST_F(LineReaderTest, ReadsWhatAPipeHandsOut) {
-    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
-    for (const std::string &bytes : {std::string("a\nbc\n"), Packed("a\nbc\n")}) {
-        std::thread writer([&] {
-            std::ofstream pipe(Path("pipe"));
-            for (const char byte : bytes) {
-                pipe << byte << std::flush;
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
-            }
-        });
-        LineReader reader(File("pipe"));
-        std::string line;
-        EXPECT_EQ(reader.Next(line), Found::Line);
-        EXPECT_EQ(line, "a");
-        EXPECT_EQ(reader.Next(line), Found::Line);
-        EXPECT_EQ(line, "bc");
-        EXPECT_EQ(reader.Next(line), Found::End);
-        EXPECT_EQ(reader.Size(), 0);
-        writer.join();
-    }
 }
 
 TEST_F(LineReaderTest, TellsHowFarItIs) {

@@ -1,8 +1,8 @@
 // The same bytes under every locale: the program speaks English and UTF-8 wherever it runs.
 
 #include "tests/tools/batch_answers.h"
-#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
+#include "tests/tools/program.h"
 
 #include <gtest/gtest.h>
 

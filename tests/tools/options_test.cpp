@@ -1,6 +1,7 @@
 #include "tools/options.h"
 
 #include "tests/support/expected_report.h"
+#include "tests/tools/arguments.h"
 #include "tests/tools/complaint.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Where the program's bytes go: a file that is written whole or not at all, or standard output.
 
-#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
+#include "tests/tools/program.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,8 @@
 
 #include "tests/tools/complaint.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -3,6 +3,8 @@
 #include "core/clock.h"
 #include "tests/tools/complaint.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 using modReadings::UserProfile;

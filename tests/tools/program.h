@@ -3,6 +3,9 @@
 // The built orravane-report as a child process of a test: its arguments and surroundings
 // going in, its bytes, its exit code and how it ended coming out.
 
+#include "tests/tools/arguments.h"
+#include "tests/tools/complaint.h"
+
 #include <QProcess>
 
 #include <map>
@@ -13,18 +16,6 @@
 
 #include <csignal>
 #include <sys/types.h>
-
-using Arguments = std::vector<std::string>;
-
-/// The words of both, one list behind the other.
-inline Arguments operator+(Arguments left, const Arguments &right) {
-    left.insert(left.end(), right.begin(), right.end());
-    return left;
-}
-
-/// One person on a given day.
-inline const Arguments ann{"--first", "Ann", "--last", "Lee",  "--month", "3",
-                           "--day",   "7",   "--year", "1990", "--today", "2026-11-16"};
 
 /// How a child ended and what it wrote.
 struct Finished {
@@ -92,3 +83,22 @@ Finished RunShell(const std::string &script);
 /// One run from start to end.
 Finished RunProgram(const Arguments &arguments, std::string_view input = {},
                     const Surroundings &surroundings = {});
+
+/// Expects that the program refused its input: exit code 2, nothing written, one line.
+inline void ExpectRefused(const Finished &run, const std::vector<std::string> &parts) {
+    EXPECT_EQ(run.exitCode, 2) << "signal " << run.signal;
+    EXPECT_EQ(run.out, "");
+    ExpectOneLine(run.err, parts);
+}
+
+/// Expects that the program could not read or write: exit code 3, one line.
+inline void ExpectFailed(const Finished &run, const std::vector<std::string> &parts) {
+    EXPECT_EQ(run.exitCode, 3) << "signal " << run.signal;
+    ExpectOneLine(run.err, parts);
+}
+
+/// Expects success without a word.
+inline void ExpectGood(const Finished &run) {
+    EXPECT_EQ(run.exitCode, 0) << "signal " << run.signal;
+    EXPECT_EQ(run.err, "");
+}

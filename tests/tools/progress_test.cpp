@@ -1,8 +1,8 @@
 // The bar on standard error: there for a person at a terminal, absent for everything else.
 
 #include "tests/tools/batch_answers.h"
-#include "tests/tools/complaint.h"
 #include "tests/tools/folder_test.h"
+#include "tests/tools/program.h"
 #include "tools/progress.h"
 
 #include <gtest/gtest.h>
