@@ -34,9 +34,9 @@ const OptionRow *RowOf(const QString &argument) {
     return row == table.end() ? nullptr : &*row;
 }
 
-/// Whether the word behind `argument`, which is the option `row` or none, is its value.
-bool TakesNextWord(const OptionRow *row, const QString &argument) {
-    return row != nullptr && !row->value.empty() && !argument.contains(u'=');
+/// Whether the word behind `argument`, which is the option `row`, is its value.
+bool TakesNextWord(const OptionRow &row, const QString &argument) {
+    return !row.value.empty() && !argument.contains(u'=');
 }
 
 /// The parser reads the command line; the table says which options there are.
@@ -101,7 +101,7 @@ private:
             const bool isLong = argument.startsWith("--"_L1);
             if (isOption && row == nullptr && (isLong || RowOf(argument.first(2)) == nullptr))
                 throw Unknown(argument.section(u'=', 0, 0));
-            if (!TakesNextWord(row, argument))
+            if (row == nullptr || !TakesNextWord(*row, argument))
                 continue;
             const QString give = u"give %1. %2"_s.arg(Text(row->value), Text(row->help));
             if (++index == arguments.size())
@@ -191,7 +191,7 @@ void RequireUtf8(int argc, const char *const *argv) {
                 name, Excerpt(QString::fromUtf8(bytes))));
         }
         const OptionRow *const next = option == nullptr ? RowOf(*argument) : nullptr;
-        option = TakesNextWord(next, *argument) ? next : nullptr;
+        option = next != nullptr && TakesNextWord(*next, *argument) ? next : nullptr;
     }
 }
 

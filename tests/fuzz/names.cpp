@@ -263,9 +263,9 @@ void Run(std::string_view bytes) {
     RunAllCalculators();
     CheckRanges(bytes);
     CheckNumbers(static_cast<int>(days.front().year()), bytes);
-    const auto isNumber = [](const std::u16string &text) {
+    const auto isNumber = [](const std::u16string &slot) {
         try {
-            NumberFromText(text);
+            NumberFromText(slot);
             return true;
         } catch (const RuntimeFailure &) {
             return false;
@@ -298,9 +298,10 @@ void Run(std::string_view bytes) {
         chosen = {modReadings::captions::comprehensiveReading};
     else
         chosen = all;
-    // Also of those whom the report tool refuses, as long as the dates are numbers.
+    // Also of those whom the report tool refuses, as long as the dates are numbers and a month can
+    // be shown: it is written as it stands, since the tool takes none but its own.
     Explanation explanation;
-    if (hasDay && isNumber(person.BirthYear))
+    if (hasDay && isNumber(person.BirthYear) && IsQuiet(Utf8(person.BirthMonth)))
         explanation = CheckExplanation(person, chosen);
 
     // The same person by way of the report tool, which refuses some.
@@ -319,7 +320,10 @@ void Run(std::string_view bytes) {
         if (bytes.size() / 4 % 2 == 0)
             reading.head = HeadOf(checked, days.front());
         CheckOutput(reading, bytes);
-        if (chosen.size() == explanation.topics.size())
+        const bool isTheSame = checked.BirthMonth == person.BirthMonth &&
+                               checked.BirthDay == person.BirthDay &&
+                               checked.BirthYear == person.BirthYear;
+        if (isTheSame && chosen.size() == explanation.topics.size())
             for (std::size_t topic = 0; topic < chosen.size(); ++topic)
                 Require(explanation.topics[topic].caption != chosen[topic] ||
                             explanation.topics[topic].number == reading.topics[topic].number,

@@ -117,6 +117,11 @@ QString Shown(bool yes) { return yes ? u"yes"_s : u"no"_s; }
 QString Shown(int number) { return QString::number(number); }
 QString Shown(const QStringList &texts) { return Shown(texts.join(u" | "_s)); }
 
+bool ClipboardIsEmpty() {
+    const QMimeData *content = QApplication::clipboard()->mimeData();
+    return content == nullptr || content->formats().isEmpty();
+}
+
 } // namespace
 
 Session::Session(bool endless)
@@ -719,6 +724,13 @@ void Session::KeepEssenceFinite() {
 bool Session::eventFilter(QObject *watched, QEvent *event) {
     switch (event->type()) {
     case QEvent::Show:
+        if (markingReport_ && (qobject_cast<QDialog *>(watched) != nullptr ||
+                               qobject_cast<QMenu *>(watched) != nullptr)) {
+            // It gets the release, and with that marking is over.
+            if (ClipboardIsEmpty())
+                Note({.what = What::PaneMouse});
+            markingReport_ = false;
+        }
         if (auto *dialog = qobject_cast<QDialog *>(watched); dialog != nullptr && dialog->isModal())
             // The dialog's own event loop runs this as soon as it waits for the user.
             QTimer::singleShot(0, dialog, [this, dialog] { Answer(*dialog); });
@@ -1030,7 +1042,7 @@ void Session::CompareFocus() {
 
 void Session::CompareClipboard() {
     const QMimeData *content = QApplication::clipboard()->mimeData();
-    const bool empty = content == nullptr || content->formats().isEmpty();
+    const bool empty = ClipboardIsEmpty();
     // While text is marked with the mouse beside the pane, the toolkit scrolls the pane by a timer,
     // and takes each time for a move of the mouse.
     if (markingReport_ && empty)
