@@ -6,6 +6,7 @@
 #include "report/saving.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
