@@ -10,12 +10,14 @@
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
 #   ROOT     the folder of the bare system; by default a temporary one, which is removed at
 #            the end. A folder that is given has to be missing or empty, and it stays.
-#   PICTURES where the pictures of the window go, FOLDER by default
+#   PICTURES where the pictures of the window go, build/package-pictures by default
 set -euo pipefail
 
 folder=$(realpath "${1:?which folder?}")
 mirror=${2:-${MIRROR:-http://deb.debian.org/debian}}
-pictures=$(realpath "${PICTURES:-$folder}")
+pictures=${PICTURES:-$(dirname "$0")/../build/package-pictures}
+mkdir -p "$pictures"
+pictures=$(realpath "$pictures")
 kept=${ROOT:-}
 root=$(realpath -m "${ROOT:-$(mktemp -d)}")
 
