@@ -104,6 +104,7 @@ function(orravane_artwork source)
   set(resource ${CMAKE_CURRENT_BINARY_DIR}/${arg_RESOURCE}.qrc)
   file(CONFIGURE OUTPUT ${resource} CONTENT "<RCC><qresource prefix=\"/\">\n${files}</qresource></RCC>\n" @ONLY)
   # A PNG does not get smaller by packing it once more.
-  qt_add_resources(made_source ${resource} OPTIONS --no-compress)
+  # The first format has no times in it, so the same drawings make the same program.
+  qt_add_resources(made_source ${resource} OPTIONS --no-compress --format-version 1)
   set(${source} ${made_source} PARENT_SCOPE)
 endfunction()

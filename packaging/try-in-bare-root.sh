@@ -10,12 +10,14 @@
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
 #   ROOT     the folder of the bare system; by default a temporary one, which is removed at
 #            the end. A folder that is given has to be missing or empty, and it stays.
-#   PICTURES where the pictures of the window go, FOLDER by default
+#   PICTURES where the pictures of the window go, build/package-pictures by default
 set -euo pipefail
 
 folder=$(realpath "${1:?which folder?}")
 mirror=${2:-${MIRROR:-http://deb.debian.org/debian}}
-pictures=$(realpath "${PICTURES:-$folder}")
+pictures=${PICTURES:-$(dirname "$0")/../build/package-pictures}
+mkdir -p "$pictures"
+pictures=$(realpath "$pictures")
 kept=${ROOT:-}
 root=$(realpath -m "${ROOT:-$(mktemp -d)}")
 
@@ -49,11 +51,10 @@ for package in orravane-report orravane; do
 done
 echo "$(in_root dpkg-query -W | wc -l) packages in the system"
 
-step "Every library is there, those of the plugins too"
+step "Every library is there, those of the plugin for the display too"
 plugins="/usr/lib/*/qt6/plugins"
 in_root sh -c "ldd /usr/bin/orravane /usr/bin/orravane-document /usr/bin/orravane-report \
-    $plugins/platforms/libqxcb.so \
-    $plugins/printsupport/libcupsprintersupport.so" \
+    $plugins/platforms/libqxcb.so" \
     >"$root/tmp/libraries" || fail "ldd: $(cat "$root/tmp/libraries")"
 if grep 'not found' "$root/tmp/libraries"; then
     fail "libraries are missing"

@@ -47,6 +47,15 @@ public:
         setAcceptMode(AcceptSave);
         setNameFilter(look.filter);
         setDefaultSuffix(look.suffix);
+#ifdef Q_OS_WIN
+        // The dialog of Windows prefers the ending of the filter to the one that is set. It knows
+        // none that has a wildcard in it.
+        if (!look.filter.contains(u"*."_s + look.suffix)) {
+            setNameFilter(QString(look.filter).replace(u')', u"*)"_s));
+            setOption(HideNameFilterDetails);
+            missingEnding_ = u'.' + look.suffix;
+        }
+#endif
         setFileMode(AnyFile);
         setOption(DontConfirmOverwrite); // accept() does that
         if (!look.name.isEmpty())
@@ -76,6 +85,8 @@ protected:
             QFileDialog::accept(); // goes into that folder
             return;
         }
+        if (!QFileInfo(name_).fileName().contains(u'.'))
+            name_ += missingEnding_;
         if (!name_.endsWith(neededEnding_, Qt::CaseInsensitive))
             name_ += neededEnding_;
         isAsking_ = true;
@@ -132,6 +143,7 @@ private:
     /// The window that messages stand in front of.
     QWidget *Front() { return IsOfTheDesktop() ? parentWidget() : this; }
 
+    QString missingEnding_;      ///< for a name without one, where the dialog may leave it so
     const QString neededEnding_; ///< of every name; may be empty
     QString name_;               ///< what was chosen last
     bool isAsking_ = false;      ///< there is a message or a question in front of the dialog

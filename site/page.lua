@@ -132,8 +132,9 @@ function Pandoc(document)
     Table = function(tab)
       tab.colspecs = tab.colspecs:map(function() return {pandoc.AlignDefault, nil} end)
       if #tab.colspecs > 4 then -- on a phone it scrolls by itself
-        return pandoc.Div(tab, pandoc.Attr('', {'scroll'}, {tabindex = '0', role = 'group',
-                                                           ['aria-label'] = 'Wide table'}))
+        -- In a fixed order, so that the same page has the same bytes.
+        return pandoc.Div(tab, pandoc.Attr('', {'scroll'}, {{'tabindex', '0'}, {'role', 'group'},
+                                                            {'aria-label', 'Wide table'}}))
       end
       return tab
     end,

@@ -16,6 +16,8 @@ cache=${ORRAVANE_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orravane-windows
 install_missing $windows_packages
 build_toolkit
 
+stamp=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
+export SOURCE_DATE_EPOCH="$stamp" # which programs and libraries have in them, and the installer
 build=build/windows/product
 configure "$build" "$@"
 cmake --build "$build" --target orravane orravane-document orravane-report
@@ -46,8 +48,6 @@ for licence in LGPL-3 GPL-3 GPL-2 LGPL-2.1 Apache-2.0; do
 done
 
 # --- The archive and the installer: the same files make the same bytes
-stamp=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp)
-export SOURCE_DATE_EPOCH="$stamp"
 find "$folder" -type d -exec chmod 755 {} +
 find "$folder" -type f -exec chmod 644 {} +
 find "$folder" -exec touch -h -d "@$stamp" {} +

@@ -2,7 +2,7 @@
 # test.sh
 # Builds for Windows and tries the result under Wine: the unit tests, the report tool against the
 # one of this machine, the window by mouse and keyboard on a private display, and the installer.
-# What Wine cannot show is in docs/windows.md. Takes a quarter of an hour; the first time also
+# What Wine cannot show is in docs/windows.md. Takes about ten minutes; the first time also
 # what build.sh takes. Pictures of the window are left in build/windows/pictures.
 set -eu
 cd "$(dirname "$0")/../.."

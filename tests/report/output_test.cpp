@@ -6,6 +6,7 @@
 #include "report/saving.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
@@ -48,7 +49,8 @@ TEST(WriteWhole, ReplacesAFileAndTellsWhyItCannot) {
 
 /// What all programs of the toolkit share.
 QVariantMap Shared() {
-    const QSettings settings(QSettings::UserScope, u"QtProject"_s);
+    QSettings settings(QSettings::UserScope, u"QtProject"_s);
+    settings.setFallbacksEnabled(false); // not what the machine has for all users
     QVariantMap all;
     for (const QStringList keys = settings.allKeys(); const QString &key : keys)
         all.insert(key, settings.value(key));
