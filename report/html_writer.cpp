@@ -43,14 +43,16 @@ bool NarrowBlock(const char16_t *text, char *out) {
     Units halves[2];
     std::memcpy(halves, text, sizeof halves);
     const Units beyondAscii = (halves[0] | halves[1]) & 0xFF80;
-    // As numbers: clang 14 ends itself over a vector that is compared with a character. One more
-    // than 0x7F is negative.
+    // As numbers: clang 14 ends itself over a vector that is compared with a character. All bytes
+    // beyond 0x7F are negative.
+    constexpr int firstPrinted = 0x20;
+    constexpr int lastOfAscii = 0x7F;
     constexpr int ampersand = '&';
     constexpr int less = '<';
     constexpr int greater = '>';
     constexpr int quotationMark = '"';
-    const Bytes others = (bytes + 1 < 0x21) | (bytes == ampersand) | (bytes == less) |
-                         (bytes == greater) | (bytes == quotationMark) |
+    const Bytes others = (bytes < firstPrinted) | (bytes == lastOfAscii) | (bytes == ampersand) |
+                         (bytes == less) | (bytes == greater) | (bytes == quotationMark) |
                          std::bit_cast<Bytes>(beyondAscii);
     std::uint64_t lanes[2];
     std::memcpy(lanes, &others, sizeof lanes);
