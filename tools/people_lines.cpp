@@ -234,11 +234,15 @@ PersonLine ParseJson(const std::string &line) {
     constexpr unsigned flags = rapidjson::kParseValidateEncodingFlag |
                                rapidjson::kParseIterativeFlag |
                                rapidjson::kParseNumbersAsStringsFlag;
-    if (!reader.Parse<flags>(stream, object))
-        throw Refusal(
-            u"not JSON: %1 (at character %2)"_s
-                .arg(QString::fromUtf8(rapidjson::GetParseError_En(reader.GetParseErrorCode())))
-                .arg(CharacterAt(line, reader.GetErrorOffset())));
+    if (!reader.Parse<flags>(stream, object)) {
+        const rapidjson::ParseErrorCode code = reader.GetParseErrorCode();
+        const auto place = CharacterAt(line, reader.GetErrorOffset());
+        if (code == rapidjson::kParseErrorNumberTooBig) // JSON it is
+            throw Refusal(u"a number beyond 10^308 cannot be read (at character %1)"_s.arg(place));
+        throw Refusal(u"not JSON: %1 (at character %2)"_s
+                          .arg(QString::fromUtf8(rapidjson::GetParseError_En(code)))
+                          .arg(place));
+    }
     if (!object.wrong.isEmpty())
         throw Refusal(object.wrong);
     return {std::move(object.person), object.Further()};

@@ -34,6 +34,28 @@ bool HasLoneSurrogate(const JsonValue &value) {
            });
 }
 
+/// Whether a number in `value` may be larger than the program reads, some 10^308: by the digits
+/// that it has, or by its exponent.
+bool HasHugeNumber(const JsonValue &value) {
+    if (value.kind == Kind::Number) {
+        constexpr std::size_t mostDigits = 290;
+        constexpr int largestExponent = 290;
+        const std::size_t letter = value.number.find_first_of("eE");
+        if (std::min(letter, value.number.size()) > mostDigits)
+            return true;
+        if (letter == std::string::npos || value.number[letter + 1] == '-')
+            return false;
+        const std::size_t begin = letter + (value.number[letter + 1] == '+' ? 2 : 1);
+        int exponent = 0;
+        const auto end = value.number.data() + value.number.size();
+        const auto [stop, error] = std::from_chars(value.number.data() + begin, end, exponent);
+        return error != std::errc() || exponent > largestExponent;
+    }
+    return std::ranges::any_of(value.items, HasHugeNumber) ||
+           std::ranges::any_of(value.members,
+                               [](const auto &member) { return HasHugeNumber(member.second); });
+}
+
 /// The whole number that a number of JSON is, worked out on its digits. Nothing where it is
 /// none or is larger than 10^15. `sure` is false where it has more digits than a number of the
 /// machine holds, and so may be taken for a whole one that it is very near to.
@@ -93,6 +115,7 @@ Expected ExpectedOf(std::string_view line) {
     if (line.find('\0') != std::string_view::npos || !value || value->kind != Kind::Object ||
         HasLoneSurrogate(*value))
         return expected;
+    expected.sure = !HasHugeNumber(*value);
     expected.further.kind = Kind::Object;
     std::vector<std::u16string_view> seen;
     for (const auto &[name, member] : value->members) {
@@ -108,7 +131,9 @@ Expected ExpectedOf(std::string_view line) {
         if (member.kind == Kind::Text) {
             text = Utf8(member.text);
         } else if (member.kind == Kind::Number) {
-            const auto whole = Whole(member.number, expected.sure);
+            bool sure = true;
+            const auto whole = Whole(member.number, sure);
+            expected.sure = expected.sure && sure;
             if (!whole)
                 return expected;
             text = *whole;

@@ -215,6 +215,7 @@ TEST(PeopleLines, RefuseWhatIsNoObjectOfTheMembers) {
              {R"({"month":3.5})", "month is neither"},
              {R"({"day":7.01})", "day is neither"},
              {R"({"day":1e300})", "day is neither"},
+             {R"({"note":1e400})", "a number beyond 10^308 cannot be read (at character 9)"},
              {R"({"year":[1990]})", "year is neither"}})
         ExpectLine(reader.Refused(line), {part});
     EXPECT_EQ(reader.Parse(object), "Ann|M|Lee|March|7|1990"); // and goes on
