@@ -69,7 +69,6 @@ void HtmlWriter::Grow(std::size_t more) {
 void HtmlWriter::PutCharacter(char32_t character, std::string_view newLine) {
     switch (character) {
     case U'\r':
-        return; // a line break ends in "\n"
     case U'\n':
         *this << newLine;
         return;
@@ -107,8 +106,11 @@ void HtmlWriter::PutText(std::u16string_view text, std::string_view newLine) {
         while (at < text.size() && StandsForItself(text[at]))
             *out++ = static_cast<char>(text[at++]);
         used_ = static_cast<std::size_t>(out - out_.data());
-        if (at < text.size())
-            PutCharacter(TakeCharacter(text, at), newLine);
+        if (at == text.size())
+            break;
+        if (text.substr(at).starts_with(u"\r\n"))
+            ++at; // both are one line break
+        PutCharacter(TakeCharacter(text, at), newLine);
     }
 }
 

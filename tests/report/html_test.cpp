@@ -40,7 +40,7 @@ TEST(HtmlWriter, WritesEveryCharacterOfUnicodeInUtf8) {
 }
 
 TEST(HtmlWriter, ReplacesWhatNoHtmlMayHold) {
-    EXPECT_EQ(Written(u"a\tb\r\nc\nd"), "a b c d");
+    EXPECT_EQ(Written(u"a\tb\r\nc\nd\re\r"), "a b c d e ");
     for (const int character : {0x00, 0x01, 0x0C, 0x1F, 0x7F, 0x80, 0x9F, 0xD800, 0xDBFF, 0xDC00,
                                 0xDFFF, 0xFDD0, 0xFDEF, 0xFFFE, 0xFFFF})
         EXPECT_EQ(Written(std::u16string(1, static_cast<char16_t>(character)) + u'x'), "\uFFFDx")
