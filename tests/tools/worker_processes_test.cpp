@@ -17,19 +17,22 @@ enum Kind : std::uint32_t { Echo, EchoTwice, Die };
 constexpr int codeOfTheDead = 7;
 constexpr std::size_t workers = 3;
 
+void Answer(const WorkerSeat &seat, WorkerMessage message) {
+    if (message.kind == Die)
+        std::_Exit(codeOfTheDead);
+    seat.memory[seat.worker] = static_cast<char>(message.slot);
+    message.second = seat.worker;
+    seat.parent.Send(message);
+    if (message.kind == EchoTwice)
+        seat.parent.Send(message);
+}
+
 /// What a worker of these tests does: it puts what it is told into the memory, and says it back.
 [[noreturn]] void Work(const WorkerSeat &seat) {
     for (;;) {
-        WorkerMessage message = seat.parent.Receive();
-        if (message.kind == Die)
-            std::_Exit(codeOfTheDead);
-        seat.memory[seat.worker] = static_cast<char>(message.slot);
-        message.second = seat.worker;
-        seat.parent.Send(message);
-        if (message.kind == EchoTwice)
-            seat.parent.Send(message);
-        if (const auto another = seat.parent.ReceiveIfThere())
-            seat.parent.Send(*another);
+        Answer(seat, seat.parent.Receive());
+        while (const auto another = seat.parent.ReceiveIfThere())
+            Answer(seat, *another);
     }
 }
 
