@@ -17,6 +17,15 @@ class Clipboard(DesktopTest):
             def await_empty(after):
                 wait_for(f"an empty clipboard after {after}", lambda: screen.clipboard() is None)
 
+            # A lit button gets the next move, wherever it leads, so each move is waited for.
+            def move_over(control):
+                """Moves the mouse onto a button, which lights up, and off it to the tree."""
+                plain = program.part(control)
+                program.move_to(control)
+                wait_for(f"{control} to light up", lambda: program.part(control) != plain)
+                program.move_to("TV")
+                wait_for(f"{control} to go dark", lambda: program.part(control) == plain)
+
             # A new report, without any move of the mouse. After Proceed the tree has the
             # focus, on the first topic.
             screen.copy_elsewhere("from another program")
@@ -29,12 +38,9 @@ class Clipboard(DesktopTest):
 
             # The mouse over the report, and nowhere else in the window.
             screen.copy_elsewhere("from another program")
-            plain = program.part("picSave")
-            for control in ("picExit", "TV", "picPrint", "TV", "picSave"):
-                program.move_to(control)
-            wait_for("the Save button to light up", lambda: program.part("picSave") != plain)
+            for control in ("picExit", "picPrint", "picSave"):
+                move_over(control)
             self.assertEqual(screen.clipboard(), "from another program")
-            program.move_to("TV")  # else this button would get the next move
             program.move_to("RTB")
             await_empty("a move")
 
@@ -48,11 +54,8 @@ class Clipboard(DesktopTest):
             program.read_topic("Essence", MARIA)
             copied = screen.clipboard()
             self.assertTrue(copied)
-            plain = program.part("picExit")
-            program.move_to("picExit")
-            wait_for("the Exit button to light up", lambda: program.part("picExit") != plain)
+            move_over("picExit")
             self.assertEqual(screen.clipboard(), copied)
-            program.move_to("TV")
             program.move_to("RTB")
             await_empty("a move")
             self.assert_quiet(screen)
