@@ -7,6 +7,8 @@
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
 #   ROOT     the folder of the bare system; by default a temporary one, which is removed at
 #            the end. A folder that is given has to be missing or empty, and it stays.
+#
+# What ./test says is left in build/test-in-bare-root.log.
 set -euo pipefail
 
 suite=${1:-bookworm}
@@ -24,7 +26,8 @@ step "./run"
 in_root sh -c 'cd ~/orravane && ./run' | tail -n 20
 
 step "./test"
-in_root sh -c 'cd ~/orravane && ORRAVANE_WERROR=ON ./test' | tail -n 40
+mkdir -p "$checkout/build"
+in_root sh -c 'cd ~/orravane && ORRAVANE_WERROR=ON ./test' | tee "$checkout/build/test-in-bare-root.log" | tail -n 40
 
 step "A plain build, as any CMake project"
 in_root sh -c 'cd ~/orravane && cmake -S . -B /tmp/plain >/dev/null && cmake --build /tmp/plain -j 2' |
