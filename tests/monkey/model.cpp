@@ -109,7 +109,8 @@ void Model::Apply(const Fact &fact) {
             complaints_ << u"no such entry of a menu: "_s + fact.text;
         break;
     case Fact::What::Closed:
-        opened << u"/thankyou-for-using-orravane.php"_s;
+        if (!closed) // the second half of a double click may ask and be answered once more
+            opened << u"/thankyou-for-using-orravane.php"_s;
         closed = true;
         break;
     }

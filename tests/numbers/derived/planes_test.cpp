@@ -218,14 +218,15 @@ TEST_F(Planes, FailBehindTheLabelsAndTheSharesBefore) {
 
     // More than 327 letters of one plane overflow. The shares are worked out one after the
     // other, so those before the plane are new.
-    for (const auto &[letter, share] : {std::pair{u'H', "MentalPercent"},
-                                        {u'W', "PhysicalPercent"},
-                                        {u'R', "EmotionalPercent"},
-                                        {u'F', "IntuitivePercent"}}) {
+    for (const auto &plane : {std::pair{u'H', "MentalPercent"},
+                              {u'W', "PhysicalPercent"},
+                              {u'R', "EmotionalPercent"},
+                              {u'F', "IntuitivePercent"}}) {
+        const char16_t letter = plane.first;
         EXPECT_EQ(WrittenBeforeFailure(
                       [&] { Calc(std::u16string(300, letter), half, std::u16string(28, letter)); }),
                   written);
-        written.insert(share);
+        written.insert(plane.second);
         Calc(std::u16string(300, letter), u"", std::u16string(27, letter)); // 32700
     }
     Calc(std::u16string(327, u'H') + std::u16string(327, u'W'), std::u16string(327, u'R'),
