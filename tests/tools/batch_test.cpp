@@ -298,7 +298,7 @@ TEST_F(Batch, IsRefusedOnceForAnInputOfAnotherKind) {
              {"first,last,birthdate," + std::string(1'000'000, 'x') + "\nAnn,Lee,1990-03-07,\n",
               "the header is longer than 1 MB"},
              {"[\n" + std::string(annLine) + "]\n", "JSON array"}}) {
-        ExpectLine(RefusalOf([&] { Run(input); }), {"--batch: line 1: ", part});
+        ExpectLine(RefusalOf([&, input = input] { Run(input); }), {"--batch: line 1: ", part});
         EXPECT_FALSE(std::filesystem::exists(Path("answers")));
     }
 }

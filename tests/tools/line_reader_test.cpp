@@ -118,8 +118,9 @@ TEST_F(LineReaderTest, TellsHowFarItIs) {
 TEST_F(LineReaderTest, RefusesWhatCannotBeOpened) {
     for (const auto &[name, reason] :
          {std::pair("missing", "No such file or directory"), std::pair(".", "Is a directory")})
-        ExpectLine(RefusalOf([&] { LineReader{File(name)}; }, ExitCode::CannotReadOrWrite),
-                   {"--batch: the file \"", "cannot be read (", reason});
+        ExpectLine(
+            RefusalOf([&, name = name] { LineReader{File(name)}; }, ExitCode::CannotReadOrWrite),
+            {"--batch: the file \"", "cannot be read (", reason});
 }
 
 } // namespace

@@ -15,8 +15,6 @@ using modReadings::UserProfile;
 
 namespace {
 
-const std::vector<std::u16string_view> none;
-
 /// The captions of topics with one number, and their columns.
 constexpr std::pair<std::u16string_view, const char *> oneNumber[]{
     {u"Personal Month", "personal_month"},

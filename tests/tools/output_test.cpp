@@ -51,7 +51,7 @@ TEST_F(OutputTest, TellsOptionAndFileThatCannotBeWritten) {
     for (const auto &[name, reason] : {std::pair("no/report", ": No such file or directory"),
                                        {"folder", ": "},
                                        {"file/report", ": "}}) {
-        EXPECT_TRUE(RefusalOf([&] { Output{File(name)}; }, ExitCode::CannotReadOrWrite)
+        EXPECT_TRUE(RefusalOf([&, name = name] { Output{File(name)}; }, ExitCode::CannotReadOrWrite)
                         .starts_with("--output: " + Shown(Path(name)) + reason));
     }
     EXPECT_TRUE(RefusalOf([&] { Output(File("no/report"), Output::Kind::InFolder); },

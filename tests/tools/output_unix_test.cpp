@@ -99,7 +99,7 @@ TEST_F(OutputOnUnix, RefusesAPlaceThatCannotBeLookedAt) {
     std::filesystem::create_symlink("loop", Path("loop"));
     for (const auto &[name, reason] : {std::pair("file/report", "Not a directory"),
                                        {"loop", "Too many levels of symbolic links"}})
-        ExpectLine(RefusalOf([&] { Output{File(name)}; }, ExitCode::CannotReadOrWrite),
+        ExpectLine(RefusalOf([&, name = name] { Output{File(name)}; }, ExitCode::CannotReadOrWrite),
                    {"--output: " + Shown(Path(name)) + ": " + reason});
     EXPECT_TRUE(std::filesystem::is_symlink(Path("loop")));
 }

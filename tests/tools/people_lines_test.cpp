@@ -84,7 +84,7 @@ TEST(PeopleLines, RefuseAHeaderThatCannotBeUsed) {
              {"first,last,month,day,year,\xFF", {"not UTF-8"}},
              {"first,last,month,day,year," + much + ',' + much,
               {'"' + std::string(37, 'x') + "..." + std::string(20, 'x') + '"'}}})
-        ExpectLine(RefusalOf([&] { PeopleLines().Begin(line); }), parts);
+        ExpectLine(RefusalOf([line = line] { PeopleLines().Begin(line); }), parts);
 }
 
 TEST(PeopleLines, TakeAHeaderInAnyCaseWithBlanksOrTabs) {
@@ -120,7 +120,7 @@ TEST(PeopleLines, RefuseTheBeginningOfAnInputOfAnotherKind) {
              {"[", "JSON array"},
              {" [ ", "JSON array"},
              {R"([{"first":"Ann"},)", "JSON array"}})
-        ExpectLine(RefusalOf([&] { PeopleLines().Begin(line); }), {part});
+        ExpectLine(RefusalOf([line = line] { PeopleLines().Begin(line); }), {part});
 }
 
 TEST(PeopleLines, ReadTheMembersOfAnObject) {
