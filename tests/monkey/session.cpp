@@ -504,6 +504,10 @@ void Session::EnterName(std::size_t which, const QString &name, bool paste) {
     } else {
         Type(name);
     }
+    // The toolkit keeps every edit of a line for undo, as long as the line lives. In a window that
+    // is never closed they are dropped, so that what still grows there is the program's.
+    if (endless_)
+        names_[which]->setText(names_[which]->text());
 }
 
 void Session::PickDate(std::size_t which, quint32 random) {
