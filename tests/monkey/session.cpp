@@ -471,6 +471,9 @@ void Session::Type(const QString &text) {
             continue;
         }
         Key(character.toUpper().unicode(), {}, QString(character));
+        // A blank may have pressed a button. What is typed after its dialog goes elsewhere.
+        if (!dialogs_.empty())
+            Conclude();
     }
 }
 
