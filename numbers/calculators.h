@@ -73,12 +73,13 @@ void CalcLifePathPeriods();
 /// everything else is as it was.
 void CalcPinnacles();
 
-/// Four challenges, 0 to 8, each with a line and a reading. A 9, which takes an unknown
-/// month name or another part that counts as 0, has neither and leaves both alone.
+/// Four challenges, 0 to 8, each with a line and a reading. A value above 8, which takes an
+/// unknown month name or a text that no list offers, has neither and leaves both alone.
 /// Fails on a character of day or year that is no digit, with only ScratchIndex written.
 void CalcChallenges();
 
-/// 0 to 9 from the letters in force at the present age; 0, before birth, has no reading.
+/// 0 to 9 from the letters in force at the present age. 0 has no reading; it comes before
+/// birth, and in the year of birth where no letter of the name counts.
 /// Fails on a birth year that is no number, or that makes an age over int16, before it
 /// writes anything. Does not return for a positive age and a name without a letter of its
 /// chart: the walk has no guard, on purpose.

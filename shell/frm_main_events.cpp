@@ -316,7 +316,12 @@ void frmMain::RTB_MouseDown() { ClearClipboard(); }
 void frmMain::RTB_MouseMove() { ClearClipboard(); }
 void frmMain::RTB_MouseUp() { ClearClipboard(); }
 
+// A screen reader can press what is covered or out of sight. Print and Save belong to the report
+// page, so elsewhere they do nothing.
+
 void frmMain::cmdPrint_Click() {
+    if (frontPage_ != Picture2)
+        return;
     QTextCursor caret = Picture2->RTB->textCursor();
     if (caret.hasSelection()) { // the whole document is printed, not what is selected
         caret.setPosition(caret.selectionStart());
@@ -328,6 +333,8 @@ void frmMain::cmdPrint_Click() {
 void frmMain::picPrint_Click() { cmdPrint_Click(); }
 
 void frmMain::cmdSave_Click() {
+    if (frontPage_ != Picture2)
+        return;
     const QFont &font = Picture2->RTB->font();
     const double points = font.pixelSize() * 72.0 / 96.0; // 72 points or 96 pixels to the inch
     SaveReport(Picture2->RTB->ShownReport(),

@@ -80,6 +80,11 @@ void RichTextBox::mousePressEvent(QMouseEvent *event) {
     emit mouseDown();
 }
 
+void RichTextBox::mouseDoubleClickEvent(QMouseEvent *event) { // the second press of two
+    Framed::mouseDoubleClickEvent(event);
+    emit mouseDown();
+}
+
 void RichTextBox::mouseMoveEvent(QMouseEvent *event) {
     Framed::mouseMoveEvent(event);
     emit mouseMoved();

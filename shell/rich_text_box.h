@@ -34,6 +34,7 @@ protected:
     BoxLook BoxNow() const override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     /// While text is dragged beyond the edge, the toolkit scrolls by a timer and takes each time

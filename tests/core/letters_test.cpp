@@ -12,7 +12,8 @@ static_assert(LetterValue(u"") == 0);
 static_assert(LetterValue(u"AB") == 0 && LetterValue(u"AA") == 0);
 static_assert(LetterValue(u"A ") == 0 && LetterValue(u" A") == 0);
 
-static_assert(LetterValue(u"A") == 1 && LetterValue(u"I") == 9 && LetterValue(u"Z") == 8);
+static_assert(LetterValue(u"A") == 1 && LetterValue(u"I") == 9 && LetterValue(u"R") == 9);
+static_assert(LetterValue(u"Z") == 8 && LetterValue(u"a") == 0);
 
 /// The chart runs through the alphabet in nines, so a letter's value follows from its place.
 consteval bool OnlyTheCapitalsHaveAValue() {

@@ -63,15 +63,20 @@ TEST_F(Calculators, WriteTheirOwnSlotsAndTheSameOnesAgain) {
 }
 
 TEST_F(Calculators, LeaveTheProfileAsItIs) {
-    Named(u"MARY ANN ", u"\u00C9X-1", u"LEE7");
-    Born(u" 31", u" February", u"2000 ");
-    const UserProfile before = profile;
-    for (const Calculator calculate : passOrder)
-        Attempt(calculate);
-    for (const auto slot :
-         {&UserProfile::FirstName, &UserProfile::MiddleName, &UserProfile::LastName,
-          &UserProfile::BirthMonth, &UserProfile::BirthDay, &UserProfile::BirthYear})
-        EXPECT_EQ(profile.*slot, before.*slot);
+    // Those that trim run with blanks. Those that walk the digits fail at them and run without.
+    for (const auto &[day, year] : {std::pair{u" 31", u"2000 "}, {u"31", u"2000"}}) {
+        Named(u"MARY ANN ", u"\u00C9X-1", u"LEE7");
+        Born(day, u" February", year);
+        const UserProfile before = profile;
+        for (const Calculator calculate : passOrder) {
+            const bool finished = Attempt(calculate);
+            EXPECT_TRUE(finished || day[0] == u' ');
+        }
+        for (const auto slot :
+             {&UserProfile::FirstName, &UserProfile::MiddleName, &UserProfile::LastName,
+              &UserProfile::BirthMonth, &UserProfile::BirthDay, &UserProfile::BirthYear})
+            EXPECT_EQ(profile.*slot, before.*slot);
+    }
 }
 
 TEST_F(Calculators, FailAtABirthDayOrYearThatTheyCannotRead) {

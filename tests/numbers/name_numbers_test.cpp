@@ -101,6 +101,22 @@ TEST_F(NameNumbers, OfNoLetterAre0WithoutAReading) {
     }
 }
 
+TEST_F(NameNumbers, OfConsonantsOrVowelsAloneKeepTheReadingOfThePersonBefore) {
+    Of(u"B", u"", u"");
+    EXPECT_EQ(store.SoulUrgeText, u""); // nobody was there before
+    EXPECT_TRUE(IsTextOf(store.SoulUrgeAbout, "SoulUrgeAbout"));
+    Of(u"OAK", u"", u"RIVER"); // 3 and 6
+    Of(u"B", u"", u"");        // no vowel and no Y
+    EXPECT_EQ(store.SoulUrgeNumber, 0);
+    EXPECT_TRUE(IsReadingOf(store.SoulUrgeText, 3, "SoulUrgeText"));
+    EXPECT_TRUE(IsReadingOf(store.InnerDreamsText, 2, "InnerDreamsText"));
+    store.InnerDreamsAbout.clear();
+    Of(u"A", u"", u"E"); // no consonant
+    EXPECT_EQ(store.InnerDreamsNumber, 0);
+    EXPECT_TRUE(IsReadingOf(store.InnerDreamsText, 2, "InnerDreamsText"));
+    EXPECT_TRUE(IsTextOf(store.InnerDreamsAbout, "InnerDreamsAbout"));
+}
+
 TEST_F(NameNumbers, ConsonantsAndVowelsMakeTheWholeAndYMayCountTwice) {
     std::mt19937 random(45);
     constexpr std::u16string_view characters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZYY -'7\u00C9a";

@@ -259,6 +259,20 @@ private slots:
         QCOMPARE(input.Label5->buddy(), input.txtLastName);
     }
 
+    void AssistiveToolsPrintAndSaveOnTheReportPageOnly() {
+        ProceedWithSomebody();
+        RTB.selectAll();
+        form.mnuAbout->trigger();
+        for (QAbstractButton *button : std::initializer_list<QAbstractButton *>{
+                 form.cmdPrint, form.cmdSave, form.Picture2->picPrint, form.Picture2->picSave}) {
+            QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+                QAccessibleActionInterface::pressAction());
+            QTRY_VERIFY(!button->isDown());
+            QApplication::processEvents(); // a dialog would be one that nobody planned
+        }
+        QVERIFY(RTB.textCursor().hasSelection()); // Print would have dropped it
+    }
+
     void EveryControlThatTakesTheFocusHasAName() {
         for (QWidget *control : form.centralWidget()->findChildren<QWidget *>()) {
             if ((control->focusPolicy() & Qt::TabFocus) == 0 || control->focusProxy() != nullptr ||

@@ -255,6 +255,7 @@ private slots:
         QVERIFY(empties(QEvent::MouseMove, Qt::NoButton, Qt::NoButton));
         for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
             QVERIFY(empties(QEvent::MouseButtonPress, button, button));
+            QVERIFY(empties(QEvent::MouseButtonDblClick, button, button)); // the second press
             QVERIFY(empties(QEvent::MouseMove, Qt::NoButton, button));
             // Beside the pane, where it is no click.
             QVERIFY(empties(QEvent::MouseButtonRelease, button, Qt::NoButton, QPoint(-30, 10)));

@@ -387,6 +387,19 @@ private slots:
 
     // --- The system's language
 
+    void WhoTouchesNoDateIsBornOnTheFirstOfJanuary1900() {
+        Run run;
+        QVERIFY(run.form.Form_Load());
+        run.form.Picture1->txtFirstName->setText(u"ANN"_s);
+        run.form.Picture1->txtLastName->setText(u"LEE"_s);
+        run.form.cmdNext_Click();
+        QCOMPARE(run.dialogs.Trouble(), QString()); // no message
+        QCOMPARE(modReadings::profile.BirthDay, u"1"s);
+        QCOMPARE(modReadings::profile.BirthMonth, u"January"s);
+        QCOMPARE(modReadings::profile.BirthYear, u"1900"s);
+        QCOMPARE(run.form.FrontPage(), run.form.Picture2);
+    }
+
     void TheMonthsAreThoseOfTheSystemsLanguage_data() {
         QTest::addColumn<QStringList>("variables");
         QTest::addColumn<QString>("months");

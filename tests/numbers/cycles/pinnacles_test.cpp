@@ -102,6 +102,12 @@ TEST_F(Pinnacles, MasterNumbersStayAsASumAndAsADigitSum) {
         EXPECT_EQ(Of(day, month, u"1990")[0], first);
 }
 
+TEST_F(Pinnacles, UnknownMonthLeavesTheDayAloneAndTheYearAlone) {
+    // 29 with digits 11; 2014; 11 + 7 = 18; 1985 with digits 23.
+    EXPECT_EQ(Of(u"29", u"d\u00E9cembre", u"1985"), (Four{11, 7, 9, 5}));
+    ExpectRowsOf({11, 7, 9, 5});
+}
+
 TEST_F(Pinnacles, AllDatesOfTheListsAndAll44Lines) {
     using longhand::KeepMaster;
     std::array<std::set<int>, 4> seen;

@@ -63,6 +63,19 @@ TEST_F(Realization, NumbersThatNoPairReaches) {
               (SlotNames{"LifePathNumber", "DestinyNumber"})); // by the test
 }
 
+TEST_F(Realization, OfANameOfDigitsIsTheRequest) {
+    Named(u"12", u"", u"34");
+    Born(u"29", u"December", u"1985");
+    CalcLifePath();
+    CalcDestiny();
+    CalcRealization();
+    EXPECT_EQ(store.LifePathNumber, 1); // 2 + 3 + 5 = 10
+    EXPECT_EQ(store.DestinyNumber, 0);
+    EXPECT_EQ(store.RealizationNumber, 0);
+    EXPECT_EQ(store.RealizationText, request);
+    EXPECT_EQ(store.RealizationAbout, u"");
+}
+
 TEST_F(Realization, RequestKeepsNumberAndAboutOfThePersonBefore) {
     EXPECT_EQ(Of(5, 0), 0);
     EXPECT_EQ(store.RealizationText, request);
