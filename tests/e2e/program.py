@@ -270,7 +270,7 @@ class Program:
     def await_clipboard(self, text):
         """Waits until the clipboard holds `text`; tells the difference where it does not."""
         try:
-            wait_for("the report on the clipboard", lambda: self.desktop.clipboard() == text, 20)
+            wait_for("the report on the clipboard", lambda: self.desktop.clipboard() == text)
         except AssertionError:
             test = unittest.TestCase()
             test.maxDiff = None
