@@ -13,9 +13,7 @@ set(repack ${OPTIPNG} -quiet -f0 -zc9 -zm8 -zs0)
 
 # Sets `zoom` to what rsvg-convert calls `scale`.
 macro(zoom_of scale)
-  math(EXPR whole "${scale} / 100")
-  math(EXPR hundredths "${scale} % 100")
-  set(zoom ${whole}.${hundredths})
+  string(REGEX REPLACE "(..)$" ".\\1" zoom ${scale})
 endmacro()
 
 # Sets `before` and `behind` to the edges of what begins at `start` and is `length` long, at

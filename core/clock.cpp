@@ -10,7 +10,7 @@ namespace {
 class SystemClock final : public Clock {
     std::chrono::year_month_day Now() const override {
         const std::time_t now = std::time(nullptr);
-        // localtime shares its result between threads; the program has one.
+        // localtime shares its result between threads; only one thread of a program asks.
         const std::tm local = *std::localtime(&now);
         return {std::chrono::year(local.tm_year + 1900),
                 std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),

@@ -66,6 +66,14 @@ constexpr int16 Fold(int16 value) {
     return folded;
 }
 
+/// The digit sum of `value`, which stays if it is 11 or 22 and is folded once otherwise. `value`
+/// itself may be 11 or 22 and is summed all the same: 22 gives 4, 29 gives 11. Throws
+/// RuntimeFailure for a negative value.
+constexpr int16 FoldSumKeepMaster(int16 value) {
+    const int16 sum = DigitSum(value);
+    return StaysMaster(sum) ? sum : Fold(sum);
+}
+
 /// Digit sum and exactly two folds, 0 to 9. Knows no master number: a sum of 11 gives
 /// 2, one of 22 gives 4. The empty text gives 0. Throws as DigitSum does.
 constexpr int16 ReduceDigitString(std::u16string_view text) { return Fold(Fold(DigitSum(text))); }

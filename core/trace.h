@@ -56,7 +56,9 @@ struct Trace {
         char16_t character;
         int16 value;  ///< what it counts: its chart value, or 1 where letters are counted; or 0
         bool counted; ///< whether it entered: it has a value, and the topic asks for such letters
-        int16 total;  ///< what the letters make up to this one: a sum, years, or how many
+        /// What the letters make up to this one: a sum, or years. For the Hidden Passion, how often
+        /// the character occurs in the whole name.
+        int16 total;
 
         friend bool operator==(const Letter &, const Letter &) = default;
     };
@@ -74,7 +76,8 @@ struct Trace {
     std::vector<Line> lines;
 
     /// Why the calculator was abandoned, as RuntimeFailure names it; empty where it came to its
-    /// end. All lines are those before the failure, and the slots behind it are old.
+    /// end. The lines are those from before the failure; what would have been written after it
+    /// keeps its old value.
     std::string failure;
 };
 

@@ -2,7 +2,7 @@
 
 // How the calculators and their arithmetic tell what they do; core/trace.h says what becomes of
 // it. While no TraceRecorder is alive each of these calls is one test of a pointer. They change
-// nothing of the calculation, and at compile time they are not there.
+// nothing of the calculation, and in a constant expression they do nothing.
 //
 // The arithmetic tells its steps by itself. A calculator gives each value that a reader should
 // see a name, by Traced around the expression that makes it:

@@ -8,6 +8,7 @@
 #include "report/saving.h"
 #include "shell/artwork.h"
 #include "shell/group.h"
+#include "shell/keys.h"
 #include "shell/name_box.h"
 #include "shell/page.h"
 #include "shell/style.h"
@@ -241,7 +242,7 @@ void DocumentWindow::paintEvent(QPaintEvent *) {
 
 void DocumentWindow::keyPressEvent(QKeyEvent *event) {
     // Keys come here when the control that has the focus makes no use of them.
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool enter = IsEnter(*event);
     const bool alone = !event->isAutoRepeat() && (event->modifiers() & ~Qt::KeypadModifier) == 0;
     if (alone && (event->key() == Qt::Key_Escape || (enter && cancel->hasFocus())))
         Cancel();

@@ -23,7 +23,7 @@ struct Ages {
 };
 
 /// The ages that a line names behind the word "age", such as 36 to 44 in "Second Pinnacle from
-/// age 36-44 is ". A line that names only one has no end.
+/// age 36-44 is ". A line that names only one has no end. The line has to have the word.
 constexpr Ages AgesNamedIn(std::u16string_view line) {
     constexpr std::u16string_view word = u"age ";
     std::size_t at = line.find(word) + word.size();

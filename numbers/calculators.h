@@ -102,10 +102,11 @@ void CalcSubconsciousSelf();
 /// total over int16, before it writes anything.
 void CalcRationalThought();
 
-/// The gap between Soul Urge and Inner Dreams, reduced to 0 to 9.
+/// The gap between Soul Urge and Inner Dreams, as they stand in the store, reduced to 0 to 9. 9 has
+/// no reading and leaves the text alone. Never fails.
 void CalcHPBridge();
 
-/// The gap between Life Path and Destiny, reduced to 0 to 9.
+/// The same of Life Path and Destiny.
 void CalcLEBridge();
 
 /// Life Path plus Destiny, reduced to 1 to 9 or 11. Refuses while either is 0, and

@@ -43,7 +43,7 @@ int16 LetterInForce(std::u16string_view untrimmed, int16 age, Chart chart) {
     do {
         for (const char16_t character : TrimBlanks(untrimmed)) {
             if (years > age)
-                continue;
+                break;
             const int16 lasts = chart(character);
             if (lasts != 0) {
                 years = Add(years, lasts);

@@ -17,12 +17,8 @@ void CalcLifePath() {
     // A single fold, on purpose: 1999 has the digit sum 28 and enters as 10.
     const int16 year = Traced(u"year of birth", Fold(DigitSum(profile.BirthYear)));
 
-    int16 number = Total(day, month, year);
-    if (!StaysMaster(number)) {
-        number = DigitSum(number);
-        if (!StaysMaster(number))
-            number = Fold(number);
-    }
+    const int16 total = Total(day, month, year);
+    const int16 number = StaysMaster(total) ? total : FoldSumKeepMaster(total);
 
     store.LifePathNumber = Traced(u"Life Path Number", number);
     store.LifePathDaySum = daySum; // of the day alone, not of the date

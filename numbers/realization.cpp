@@ -6,18 +6,6 @@
 
 namespace modReadings {
 
-namespace {
-
-/// The digit sum of `total`, which stays if it is 11 or 22 and is folded once otherwise.
-/// `total` itself may be 11 or 22 and is summed all the same, on purpose: 11 + 11 = 22
-/// gives 4, 22 + 7 = 29 gives 11.
-int16 ReduceMaturitySum(int16 total) {
-    const int16 sum = DigitSum(total);
-    return StaysMaster(sum) ? sum : Fold(sum);
-}
-
-} // namespace
-
 void CalcRealization() {
     // Both numbers have always been worked out by now; one is 0 for a name without a
     // letter. Number and About keep what they hold.
@@ -28,8 +16,9 @@ void CalcRealization() {
         TraceLeft(u"Realization Number", store.RealizationNumber);
         return;
     }
+    // The total itself is no master number, on purpose: 11 + 11 = 22 gives 4.
     store.RealizationNumber =
-        Traced(u"Realization Number", ReduceMaturitySum(Total(lifePath, destiny)));
+        Traced(u"Realization Number", FoldSumKeepMaster(Total(lifePath, destiny)));
     SelectReading(store.RealizationText, store.RealizationNumber, readings::realization.rows);
     store.RealizationAbout = readings::realization.about;
 }

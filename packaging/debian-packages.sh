@@ -1,5 +1,5 @@
-# The Debian 12 packages that building, testing and packaging need, and their installation.
-# Sourced by ./run, ./test and packaging/make-package.sh.
+# The Debian packages that building, testing and packaging need, and their installation. Sourced by
+# ./run, ./test and the scripts in packaging/.
 
 build_packages="
     ca-certificates cmake g++ ninja-build
@@ -22,16 +22,13 @@ test_packages="
     strace tidy weasyprint weston x11-utils x11-xserver-utils xclip xdotool xvfb
 "
 
-# What `--target readers` needs besides.
-reader_packages="libreoffice-writer-nogui pandoc unrtf"
-
 # install_missing PACKAGE...: installs those that are not there. Says nothing and takes no
 # time when all are.
 install_missing() {
     missing=""
     for package in "$@"; do
         case "$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null)" in
-        "install ok installed") ;;
+        *" ok installed") ;;
         *) missing="$missing $package" ;;
         esac
     done

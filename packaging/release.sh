@@ -35,7 +35,7 @@ git archive --prefix="orravane-$version/" HEAD | gzip -9n >"$folder/orravane-$ve
 # --- The web site, as it lies below the root of its server. With all that was made before.
 . packaging/debian-packages.sh
 install_missing $build_packages $site_packages
-cmake -S . -B build/site -G Ninja -DCMAKE_BUILD_TYPE=Release "$@" -DORRAVANE_SITE_DOWNLOADS="$folder" >/dev/null
+cmake --fresh -S . -B build/site -G Ninja -DCMAKE_BUILD_TYPE=Release "$@" -DORRAVANE_SITE_DOWNLOADS="$folder" >/dev/null
 cmake --build build/site --target site
 stage=$(mktemp -d)
 DESTDIR=$stage cmake --install build/site --component site >/dev/null

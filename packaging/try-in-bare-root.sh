@@ -1,12 +1,12 @@
 #!/bin/bash
 # try-in-bare-root.sh FOLDER [MIRROR]
-# Tries the Debian packages that lie in FOLDER in a bare Debian 12 that has nothing of the build machine:
-# installs them with their dependencies, the tool's first and alone, runs orravane-report and the
-# window as an ordinary user, takes pictures of the window, removes the packages and looks for
-# what they left. The
-# settings in the user's home stay, as with every package; they are listed and not counted.
+# Tries the Debian packages that lie in FOLDER in a bare Debian that has nothing of the build machine:
+# installs them with their dependencies, the tool's first and alone, runs all three programs as an
+# ordinary user, takes pictures of the windows, removes the packages and looks for what they left.
+# The settings in the user's home stay, as with every package; they are listed and not counted.
 #
 # Runs as root and needs debootstrap. What may be set in the environment:
+#   SUITE    bookworm, the default, or trixie
 #   MIRROR   the Debian mirror, http://deb.debian.org/debian by default
 #   ROOT     the folder of the bare system; by default a temporary one, which is removed at
 #            the end. A folder that is given has to be missing or empty, and it stays.
@@ -26,8 +26,9 @@ root=$(realpath -m "${ROOT:-$(mktemp -d)}")
 install() { in_root apt-get -qq -y --no-install-recommends install "$@" >/dev/null; }
 files() { (cd "$root" && find . -xdev \( -path ./proc -o -path ./dev -o -path ./tmp \) -prune -o -print | sort); }
 
-step "A bare Debian 12 from $mirror"
-enter_root bookworm "$mirror"
+suite=${SUITE:-bookworm}
+step "A bare $suite from $mirror"
+enter_root "$suite" "$mirror"
 files >"$root/tmp/files-before"
 
 step "Install the tool, with what it depends on and nothing it only recommends"
@@ -104,13 +105,20 @@ done
 xdotool key alt+f
 xdotool key x
 wait $program
+
+orravane-document 2>>/tmp/pictures/orravane.log &
+program=$!
+window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Orravane Document$' | head -n 1)
+xdotool windowfocus --sync "$window"
+import -window root /tmp/pictures/document-page.png
+kill $program
 WINDOW
 mkdir -m 777 "$root/tmp/pictures"
 as_user timeout 300 xvfb-run -a -s '-screen 0 800x600x24' sh /tmp/window.sh ||
     fail "the window: $(cat "$root/tmp/pictures/orravane.log")"
 cp "$root"/tmp/pictures/*.png "$pictures"
 cat "$root/tmp/pictures/orravane.log"
-for page in input report; do
+for page in input report document; do
     colours=$(in_root identify -format '%k' "/tmp/pictures/$page-page.png")
     echo "$pictures/$page-page.png: $colours colours"
     [ "$colours" -gt 200 ] || fail "the picture is nearly empty"
@@ -120,7 +128,7 @@ echo "Files of the user's that stay:"
 
 step "Its pages in man, and in apropos"
 in_root mandb -q
-for page in orravane orravane-report; do
+for page in orravane orravane-document orravane-report; do
     in_root man -P cat 1 $page | grep -q 'EXIT STATUS' || fail "man $page"
 done
 

@@ -1,16 +1,13 @@
 #include "report/saving.h"
 
 #include "report/borrowed_settings.h"
-#include "report/on_disk.h"
+#include "report/flush_to_disk.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QSaveFile>
 #include <QStandardPaths>
-
-#include <cerrno>
-#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -175,12 +172,13 @@ QString WriteWhole(const QString &name, std::string_view content) {
     // the stump in place; only a flush tells. And some file systems find out that there is no
     // room, or that the disk is broken, only when the bytes have to be on it, which a commit
     // asks for without heeding the answer.
-    // It takes over what the earlier file permits, but not where it fails to ask for that.
+    // QSaveFile takes over the permissions of the earlier file, but goes on where the system does
+    // not tell them; so they are set here too.
     if (!file.open(QIODevice::WriteOnly) || (earlier && !file.setPermissions(earlier)) ||
         file.write(content.data(), size) != size || !file.flush())
         return file.errorString();
-    if (!IsOnDisk(file.handle()))
-        return QString::fromLocal8Bit(std::strerror(errno));
+    if (const std::error_code error = FlushToDisk(file.handle()))
+        return QString::fromStdString(error.message());
     return file.commit() ? QString() : file.errorString();
 }
 

@@ -5,7 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <utility>
+#include <mutex>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +18,9 @@ struct HeldMessage {
     QString text;
 };
 
-/// A handler is a plain function and finds them here.
+/// A handler is a plain function and finds them here. It can be called by any of the toolkit's
+/// threads.
+std::mutex heldMutex;
 std::vector<HeldMessage> held;
 const char *speaker = "";
 
@@ -40,6 +42,7 @@ QString Reason() {
 
 /// Holds a message back. A fatal one is the toolkit's last: it ends the process.
 void Hold(QtMsgType type, const QMessageLogContext &context, const QString &text) {
+    const std::scoped_lock lock(heldMutex);
     if (type != QtFatalMsg) {
         held.push_back({type, context.category, text});
         return;
@@ -59,7 +62,12 @@ DisplayMessage::DisplayMessage(const char *program) : before_(qInstallMessageHan
 
 DisplayMessage::~DisplayMessage() {
     qInstallMessageHandler(before_);
-    for (const HeldMessage &message : std::exchange(held, {})) {
+    std::vector<HeldMessage> messages;
+    {
+        const std::scoped_lock lock(heldMutex);
+        messages.swap(held);
+    }
+    for (const HeldMessage &message : messages) {
         const QMessageLogContext context(nullptr, 0, nullptr, message.category.constData());
         before_(message.type, context, message.text);
     }

@@ -1,6 +1,5 @@
 #include "shell/frm_main.h"
 
-#include "shell/app.h"
 #include "shell/geometry.h"
 #include "shell/help_page.h"
 #include "shell/image_button.h"

@@ -64,10 +64,10 @@ public slots:
     /// the report on the Personal Month. Does nothing when the check fails.
     void cmdNext_Click();
     /// Prints the whole report on the default printer, with no dialog. Silent where there
-    /// is no printer.
+    /// is no printer. Does nothing unless the report page is in front.
     void cmdPrint_Click();
     /// Saves the report as RTF under a name asked for. Silent on Cancel and on a failure to
-    /// write.
+    /// write. Does nothing unless the report page is in front.
     void cmdSave_Click();
     void picProceed_Click();
     void picPrint_Click();
@@ -105,7 +105,7 @@ public slots:
     void lblHelp_Click(int Index);
 
     // The report pane. Each of these empties the whole clipboard, whoever put something
-    // there. That is required.
+    // there. (docs/peculiarities.md lists it.)
     void RTB_Change();
     void RTB_Click();
     void RTB_MouseDown();
@@ -144,7 +144,7 @@ private:
     /// focus is on that input.
     bool ValidateInputs();
     /// One of its checks: where `text` is empty, shows the message, moves the focus to
-    /// `control` and returns false.
+    /// `control`, on a covered page too, and returns false.
     bool RequireInput(const QString &text, const QString &message, QWidget *control);
     void ResetInputs();
     /// Writes the report into RTB, then shows its page.

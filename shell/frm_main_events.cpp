@@ -7,7 +7,6 @@
 #include "report/saving.h"
 #include "report/topic_tree.h"
 #include "shell/app.h"
-#include "shell/geometry.h"
 #include "shell/help_page.h"
 #include "shell/image_button.h"
 #include "shell/input_page.h"
@@ -142,7 +141,8 @@ bool frmMain::RequireInput(const QString &text, const QString &message, QWidget 
 }
 
 bool frmMain::ValidateInputs() {
-    // A list always has an entry selected, so the last three checks never fire. Required.
+    // A list always has an entry selected, so the last three checks never fire; they are there on
+    // purpose.
     return RequireInput(Picture1->txtFirstName->text(), tr("Please Enter Your First Name"),
                         Picture1->txtFirstName) &&
            RequireInput(Picture1->txtLastName->text(), tr("Please Enter Your Last Name"),

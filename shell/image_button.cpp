@@ -2,9 +2,9 @@
 
 #include "shell/drawing.h"
 #include "shell/image_list.h"
+#include "shell/keys.h"
 
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -87,7 +87,7 @@ bool ImageButton::event(QEvent *event) {
 }
 
 void ImageButton::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnter(*event)) {
         if (!event->isAutoRepeat())
             click();
         return;

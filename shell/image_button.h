@@ -18,6 +18,7 @@ public:
     /// Shows the image at `position`.
     void SetPicture(int position);
 
+    /// Whether all moves of the mouse come here.
     bool HasCapture() const;
     /// From now on all moves of the mouse come here, also those outside the button.
     void SetCapture();

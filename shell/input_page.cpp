@@ -2,9 +2,8 @@
 
 #include "shell/geometry.h"
 #include "shell/image_button.h"
+#include "shell/keys.h"
 #include "shell/name_box.h"
-
-#include <QKeyEvent>
 
 InputPage::InputPage(QWidget *parent) : Page(parent) {
     Frame1 = Placed(new Group(tr("Note: "), this), At("Frame1"));
@@ -64,8 +63,7 @@ void InputPage::SelectFirstDates() {
 
 void InputPage::keyPressEvent(QKeyEvent *event) {
     // Keys come here when the control that has the focus makes no use of them.
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || (event->modifiers() & ~Qt::KeypadModifier) != 0) {
+    if (!IsEnter(*event) || (event->modifiers() & ~Qt::KeypadModifier) != 0) {
         Page::keyPressEvent(event);
         return;
     }

@@ -1,9 +1,9 @@
 #include "shell/link_label.h"
 
 #include "shell/drawing.h"
+#include "shell/keys.h"
 
 #include <QAccessibleWidget>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -56,8 +56,7 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent *event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter &&
-        event->key() != Qt::Key_Space)
+    if (!IsEnter(*event) && event->key() != Qt::Key_Space)
         QLabel::keyPressEvent(event);
     else if (!event->isAutoRepeat()) // a key that is held down would open page after page
         emit clicked();

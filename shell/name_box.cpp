@@ -1,9 +1,8 @@
 #include "shell/name_box.h"
 
 #include "shell/drawing.h"
+#include "shell/keys.h"
 #include "shell/style.h"
-
-#include <QKeyEvent>
 
 #include <limits>
 
@@ -23,7 +22,7 @@ QString NameBox::Filtered(QString typed) {
 }
 
 void NameBox::keyPressEvent(QKeyEvent *event) {
-    if (composing_ && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+    if (composing_ && IsEnter(*event))
         return; // meant for the input method
     const QString typed = event->text();
     const QString text = typed.size() == 1 ? Filtered(typed) : typed;

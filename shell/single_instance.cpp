@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tells data folders apart. A home of its own has a program of its own.
+/// Tells data folders apart: with another data folder the program may run once more.
 QString Mark(const QString &dataFolder) {
     const QByteArray folder = QDir(dataFolder).absolutePath().toUtf8();
     const QByteArray hash = QCryptographicHash::hash(folder, QCryptographicHash::Sha256);

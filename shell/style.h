@@ -8,7 +8,6 @@
 #include <QFont>
 #include <QProxyStyle>
 #include <QString>
-#include <QStringList>
 
 /// The colours of the pages and of what is drawn on them.
 namespace Colors {

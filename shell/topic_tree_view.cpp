@@ -1,11 +1,10 @@
 #include "shell/topic_tree_view.h"
 
+#include "shell/keys.h"
 #include "shell/style.h"
 
 #include <QAccessible>
 #include <QHash>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
@@ -55,10 +54,10 @@ QTreeWidgetItem *TopicTreeView::Node(modReadings::NodePosition position) const {
 }
 
 void TopicTreeView::keyPressEvent(QKeyEvent *event) {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
-        currentItem() != nullptr) {
+    if (IsEnter(*event) && currentItem() != nullptr) {
         event->accept();
-        emit nodeClick(currentItem());
+        if (!event->isAutoRepeat()) // a missing name would bring up its message for ever
+            emit nodeClick(currentItem());
         return;
     }
     Framed::keyPressEvent(event);

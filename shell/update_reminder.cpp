@@ -2,6 +2,7 @@
 
 #include "core/clock.h"
 
+#include <QDateTime>
 #include <QSettings>
 
 #include <cmath>

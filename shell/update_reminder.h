@@ -2,8 +2,6 @@
 
 // The one value that outlives a run: when the update question was last settled.
 
-#include <QDateTime>
-
 class UpdateReminder {
 public:
     /// Whole days without an update question.

@@ -1,5 +1,7 @@
 #include "tools/output.h"
 
+#include "report/flush_to_disk.h"
+
 #include <QFile>
 
 #include <array>
@@ -190,8 +192,9 @@ void Output::Write(std::string_view bytes) {
 void Output::Finish() {
     if (temporary_.empty())
         return;
-    if (kind_ == Kind::Named && fsync(descriptor_) != 0 && errno != EINVAL && errno != EROFS)
-        Fail(errno);
+    if (kind_ == Kind::Named)
+        if (const std::error_code error = FlushToDisk(descriptor_))
+            Fail(error.value());
     owned_ = false;
     if (close(descriptor_) != 0) // some file systems report a full disk only here
         Fail(errno);

@@ -1,5 +1,7 @@
 #include "tools/output.h"
 
+#include "report/flush_to_disk.h"
+
 #include <QFileInfo>
 #include <QRandomGenerator>
 
@@ -127,8 +129,9 @@ void Output::Write(std::string_view bytes) {
 void Output::Finish() {
     if (place_.empty())
         return;
-    if (kind_ == Kind::Named && FlushFileBuffers(HandleOf(descriptor_)) == 0)
-        Fail(ErrorNow());
+    if (kind_ == Kind::Named)
+        if (const std::error_code error = FlushToDisk(descriptor_))
+            Fail(error.value());
     if (!SetDoomed(descriptor_, false))
         Fail(ErrorNow());
     owned_ = false;

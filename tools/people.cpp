@@ -73,17 +73,17 @@ PersonInput WithDateInParts(PersonInput input, const QString &name) {
 /// more characters than it can count.
 void RefuseTooLong(const UserProfile &person, const InputNames &names) {
     const std::u16string whole = person.FirstName + person.MiddleName + person.LastName;
-    try {
+    const bool fits = modReadings::Attempt([&] {
         modReadings::Length(whole);
         modReadings::NameLetterSum(whole);
         // The Rational Thought adds the day to the first name.
         modReadings::Add(modReadings::NameLetterSum(person.FirstName),
                          modReadings::NumberFromText(person.BirthDay));
-    } catch (const modReadings::RuntimeFailure &) {
+    });
+    if (!fits)
         throw Refusal(
             u"the name is too long, its letters add up to more than 32767 or it has more "
             "characters; shorten %1, %2 or %3"_s.arg(names.first, names.middle, names.last));
-    }
 }
 
 /// The walk of the Essence repeats a name until the person's age is reached and has no

@@ -1,4 +1,4 @@
-# `packaging/pack.sh BUILD` makes orravane_VERSION-1_ARCHITECTURE.deb in the build folder.
+# `packaging/pack.sh BUILD` makes the packages, orravane and orravane-report.
 
 # What Debian alone wants. It goes into the package and not into other installations.
 set(changelog ${CMAKE_CURRENT_BINARY_DIR}/changelog.Debian.gz)

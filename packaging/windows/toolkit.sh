@@ -50,7 +50,10 @@ build_toolkit() {
     csv_version=$(version_of libcsv-dev)
     made="qt6-base $qt_version libcsv $csv_version $(echo $toolkit_options)"
     [ "$(cat "$toolkit/made" 2>/dev/null)" != "$made" ] || return 0
+    # What was begun with other versions or options is of no use. What was interrupted goes on.
+    [ "$(cat "$cache/begun" 2>/dev/null)" = "$made" ] || rm -rf "$toolkit" "$cache/source" "$cache/build"
     rm -f "$toolkit/made"
+    echo "$made" >"$cache/begun"
 
     fetch_source qt6-base "$qt_version"
     echo "Building the toolkit into $cache; that takes about an hour on two cores, once." >&2
@@ -76,7 +79,7 @@ build_toolkit() {
 configure() {
     build=$1
     shift
-    cmake -S . -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_FIND_ROOT_PATH="$toolkit" \
+    cmake --fresh -S . -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_FIND_ROOT_PATH="$toolkit" \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=$host_cmake -DCMAKE_BUILD_TYPE=Release "$@" >/dev/null
 }
 

@@ -1,7 +1,7 @@
 // What stands behind a report that leaves the window, by the same tests on every system.
 
 #include "report/borrowed_settings.h"
-#include "report/on_disk.h"
+#include "report/flush_to_disk.h"
 #include "report/print_job.h"
 #include "report/saving.h"
 
@@ -22,13 +22,16 @@ namespace {
 
 // --- On disk
 
-TEST(OnDisk, IsTrueOfAFileThatWasWritten) {
+TEST(FlushToDisk, TellsWhetherAFileIsOnTheDisk) {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"file"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("text");
     file.flush();
-    EXPECT_TRUE(IsOnDisk(file.handle()));
+    const int descriptor = file.handle();
+    EXPECT_FALSE(FlushToDisk(descriptor));
+    file.close();
+    EXPECT_TRUE(FlushToDisk(descriptor)); // of nothing that is open it cannot be so
 }
 
 TEST(WriteWhole, ReplacesAFileAndTellsWhyItCannot) {

@@ -168,7 +168,9 @@ private slots:
         input.txtFirstName->setFocus();
         QVERIFY(dialogs.MessageOf([this] { QTest::keyClick(input.txtFirstName, Qt::Key_Return); })
                     .contains(u"First Name"_s));
-        for (QWidget *control : std::initializer_list<QWidget *>{input.txtFirstName, input.cboYear})
+        TV.setCurrentItem(Node(u"Essence"_s));
+        for (QWidget *control :
+             std::initializer_list<QWidget *>{input.txtFirstName, input.cboYear, &TV})
             for (int times = 0; times < 3; ++times) {
                 QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
                 QApplication::sendEvent(control, &repeated); // a message would be unplanned
