@@ -5,11 +5,8 @@
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
-
-/// Makes an engine in `folder`, which is then the whole of the path on which programs are found:
-/// a program whose interpreter is this script of the shell. The script finds its own programs on
-/// `path`.
+/// Makes an engine in `folder`, for a test that looks for programs there alone: a program whose
+/// interpreter is this script of the shell. The script finds its own programs on `path`.
 inline void MakeStandInEngine(const QString &folder, const QByteArray &script,
                               const QByteArray &path) {
     const QByteArray python = QDir(folder).filePath("python").toUtf8();
@@ -17,7 +14,8 @@ inline void MakeStandInEngine(const QString &folder, const QByteArray &script,
          {std::pair("python", "#!/bin/sh\nPATH='" + path + "'\n" + script + "\n"),
           {"weasyprint", "#!" + python + "\n"}}) {
         QFile file(QDir(folder).filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << file.fileName().toStdString();
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("%s cannot be written", qPrintable(file.fileName()));
         file.write(content);
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
