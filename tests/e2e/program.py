@@ -200,6 +200,8 @@ class Program:
         for control, text in (("txtFirstName", person.first), ("txtMiddleName", person.middle),
                               ("txtLastName", person.last)):
             self.click(control)
+            # A window manager that is busy holds back a click, but no keys.
+            wait_for(f"the focus in {control}", lambda: self.part(control).colours()[GOLD] > 100)
             if text:
                 # A dialog before may have had the keyboard until now.
                 self.desktop.await_keyboard(self.window)
