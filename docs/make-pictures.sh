@@ -6,7 +6,7 @@
 #
 # usage: docs/make-pictures.sh [BUILD]    build/release by default
 #
-# Needs xvfb, openbox, xdotool and imagemagick, and a release build.
+# Needs xvfb, openbox, xdotool, imagemagick, python3, a C compiler and a release build.
 set -eu
 cd "$(dirname "$0")/.."
 build=$PWD/${1:-build/release}
@@ -59,6 +59,13 @@ enter() {
     key Tab 1 9 8 5
 }
 
+# A report depends on the day; tests/e2e/test_pictures.py has the same one.
+cc -shared -fPIC -o "$home/moving_clock.so" tests/faults/moving_clock.c
+python3 -c 'import datetime, struct, sys, time
+day = datetime.datetime(2026, 11, 21, 12)
+sys.stdout.buffer.write(struct.pack("@qq", round(day.timestamp() - time.time()), 0))' >"$home/moving-clock"
+export MOVING_CLOCK="$home/moving-clock" LD_PRELOAD="$home/moving_clock.so"
+
 open "$build/shell/orravane" 'Orravane v1.0'
 enter clara jane winter
 picture input
@@ -75,6 +82,7 @@ picture help
 
 key alt+f x
 wait $! 2>/dev/null || true
+unset LD_PRELOAD
 
 open "$build/document/orravane-document" 'Orravane Document'
 enter Clara Jane Winter

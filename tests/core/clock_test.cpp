@@ -1,5 +1,7 @@
 #include "core/clock.h"
 
+#include "tests/support/stepping_clock.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -47,27 +49,9 @@ TEST(FixedClock, GivesWayToTheClockBeforeIt) {
     EXPECT_EQ(Clock::Date(), year(1900) / 1 / 1);
 }
 
-/// Shows the next day at every look.
-class HastyClock final : public Clock {
-public:
-    explicit HastyClock(year_month_day first) : next_(first), before_(Install(this)) {}
-    ~HastyClock() override { Install(before_); }
-    HastyClock(const HastyClock &) = delete;
-    HastyClock &operator=(const HastyClock &) = delete;
-
-private:
-    year_month_day Now() const override {
-        const year_month_day shown{next_};
-        next_ += days(1);
-        return shown;
-    }
-
-    mutable sys_days next_;
-    const Clock *const before_;
-};
-
 TEST(Clock, ReadsYearMonthAndDayByCallsOfTheirOwn) {
-    const HastyClock clock(year(2026) / 12 / 31);
+    const SteppingClock clock(
+        {year(2026) / 12 / 31, year(2027) / 1 / 1, year(2027) / 1 / 2, year(2027) / 1 / 3});
     EXPECT_EQ(Clock::Day(), 31);
     EXPECT_EQ(Clock::Month(), 1);   // already past midnight
     EXPECT_EQ(Clock::Year(), 2027); // and another day on

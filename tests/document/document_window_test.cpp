@@ -10,6 +10,7 @@
 #include "tests/shell/dialogs.h"
 #include "tests/shell/file_dialog.h"
 #include "tests/shell/temporary_home.h"
+#include "tests/support/stand_in_engine.h"
 #include "tools/formats.h"
 #include "tools/people.h"
 
@@ -87,14 +88,7 @@ class DocumentWindowTest : public QObject {
 
     /// From now on the engine is a program whose interpreter is this script of the shell.
     void StandInForEngine(const QByteArray &script) {
-        for (const auto &[name, content] :
-             {std::pair("python", "#!/bin/sh\nPATH=" + path_ + "\n" + script),
-              {"weasyprint", "#!" + PathOf(u"python"_s).toUtf8() + "\n"}}) {
-            QFile file(PathOf(QLatin1StringView(name)));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(content);
-            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        }
+        MakeStandInEngine(folder_->path(), script, path_);
         qputenv("PATH", folder_->path().toUtf8());
     }
 

@@ -1,8 +1,8 @@
 """A desktop of a test's own: display, window manager, home, browser, accessibility bus.
 
 Everything that is started here ends with the test, however the test ends, and everything
-that is written lies in one temporary folder. Nothing waits a fixed time: what is awaited is
-polled for, with a deadline.
+that is written lies in one temporary folder. Nothing waits a fixed time but where the time itself
+matters, as with a double click: what is awaited is polled for, with a deadline.
 """
 
 import ctypes
@@ -322,8 +322,10 @@ class Desktop:
 
     def await_pages(self, pages):
         """Waits until as many pages are opened as `pages` has, and compares them."""
-        wait_for(f"{len(pages)} opened pages, of which there are {self.opened_pages()}",
-                 lambda: len(self.opened_pages()) >= len(pages))
+        try:
+            wait_for(f"{len(pages)} opened pages", lambda: len(self.opened_pages()) >= len(pages))
+        except AssertionError as trouble:
+            raise AssertionError(f"{trouble}; opened {self.opened_pages()}") from None
         if self.opened_pages() != pages:
             raise AssertionError(f"opened {self.opened_pages()}, not {pages}")
 

@@ -54,6 +54,29 @@ class Picture:
     def brightness(self):
         return sum(self.rgb) / len(self.rgb)
 
+    def most_unlike_tile(self, other, side=32):
+        """The square in which most pixels of both pictures differ by more than a shade: which share
+        of them does, and where it stands. Squares overlap by half, so that no word is cut by all."""
+        if (self.width, self.height) != (other.width, other.height):
+            raise AssertionError(f"{self.width} by {self.height} pixels beside {other.width} by "
+                                 f"{other.height}")
+        worst = 0.0, (0, 0)
+        for top in self._steps(self.height, side):
+            for left in self._steps(self.width, side):
+                one, two = (picture.crop(left, top, side, side).rgb for picture in (self, other))
+                if one == two:
+                    continue
+                shades = [abs(a - b) for a, b in zip(one, two)]
+                unlike = sum(max(shade) > 40
+                             for shade in zip(shades[0::3], shades[1::3], shades[2::3]))
+                worst = max(worst, (unlike / side ** 2, (left, top)))
+        return worst
+
+    @staticmethod
+    def _steps(length, side):
+        """Where the squares begin; the last one ends with the picture."""
+        return [*range(0, length - side, side // 2), length - side]
+
     def save(self, path):
         def chunk(kind, body):
             return (struct.pack(">I", len(body)) + kind + body +

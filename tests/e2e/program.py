@@ -200,6 +200,8 @@ class Program:
         for control, text in (("txtFirstName", person.first), ("txtMiddleName", person.middle),
                               ("txtLastName", person.last)):
             self.click(control)
+            # A window manager that is busy holds back a click, but no keys.
+            wait_for(f"the focus in {control}", lambda: self.part(control).colours()[GOLD] > 100)
             if text:
                 # A dialog before may have had the keyboard until now.
                 self.desktop.await_keyboard(self.window)
@@ -270,7 +272,7 @@ class Program:
     def await_clipboard(self, text):
         """Waits until the clipboard holds `text`; tells the difference where it does not."""
         try:
-            wait_for("the report on the clipboard", lambda: self.desktop.clipboard() == text, 20)
+            wait_for("the report on the clipboard", lambda: self.desktop.clipboard() == text)
         except AssertionError:
             test = unittest.TestCase()
             test.maxDiff = None

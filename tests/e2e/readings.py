@@ -28,6 +28,9 @@ class Person:
 
 MARIA = Person("maria", "elena", "fernandez", "March", 14, 1985)
 
+# What stands in a file that is to be replaced, and has to be there until it is.
+OLD_FILE = b"{\\rtf1 the reading of another day\\par\r\n}\r\n" * 10
+
 
 def tool(*arguments):
     """Runs orravane-report; gives its standard output as bytes."""

@@ -80,7 +80,7 @@ class Accessibility(DesktopTest):
             for key, nodes in (("Tab", [*order, order[0]]), ("shift+Tab", [order[0], order[-1]])):
                 for node in nodes:
                     wait_for(f"the focus on {node.role()} {node.name()}",
-                             lambda: node.has_state(STATE_FOCUSED), 5)
+                             lambda: node.has_state(STATE_FOCUSED))
                     screen.keys(key)
                 screen.keys("Tab" if key == "shift+Tab" else "shift+Tab")
 

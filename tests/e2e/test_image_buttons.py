@@ -12,7 +12,7 @@ class ImageButtons(DesktopTest):
 
     def await_form(self, program, button, form, what):
         try:
-            wait_for(f"{button} {what}", lambda: program.part(button) == form, 10)
+            wait_for(f"{button} {what}", lambda: program.part(button) == form)
         except AssertionError:
             program.keep(f"{button}-{what.replace(' ', '-')}")
             raise

@@ -178,13 +178,12 @@ class Instances(DesktopTest):
         with self.desktop("lock-browser") as screen:
             # A browser that stays, as a child of whatever starts it.
             (screen.bin / "xdg-open").write_text(
-                f"#!/bin/sh\nprintf '%s\\n' \"$1\" >> '{screen.opened}'\n"
-                f"echo $$ >> '{screen.folder}/browsers'\nexec sleep 1000\n")
+                f"#!/bin/sh\necho $$ >> '{screen.folder}/browsers'\n"
+                f"printf '%s\\n' \"$1\" >> '{screen.opened}'\nexec sleep 1000\n")
             first = self.assert_runs(screen)
             first.click("lblHyperlink")
             screen.await_pages([HOME_PAGE])
-            browser = int(wait_for("the browser",
-                                   (screen.folder / "browsers").read_text).split()[0])
+            browser = int((screen.folder / "browsers").read_text().split()[0])
             self.kill(first)
             second = self.assert_runs(screen, "second")
             os.kill(browser, 0)  # it is still there

@@ -4,7 +4,6 @@ import re
 import shutil
 import socket
 import subprocess
-import time
 
 import desktop
 from desktop import Desktop, DesktopTest
@@ -117,7 +116,8 @@ class PrintSettings(DesktopTest):
         ])
 
     def test_server_that_does_not_answer(self):
-        """It takes connections and never says a word; the window comes back all the same."""
+        """It takes connections and never says a word; the window comes back all the same, within the
+        deadline of what is done next."""
         with Desktop("print-silence") as screen, \
                 socket.socket(socket.AF_UNIX) as silent:
             path = screen.folder / "silent.sock"
@@ -126,10 +126,8 @@ class PrintSettings(DesktopTest):
             silent.listen(50)
             program = screen.orravane(env={"CUPS_SERVER": str(path)})
             program.proceed(MARIA)
-            start = time.monotonic()
             program.click("picPrint")
             program.read_topic(TOPICS[1], MARIA)
-            self.assertLess(time.monotonic() - start, 15)
             self.assertEqual(screen.program_windows(), [program.window])
 
 

@@ -6,23 +6,15 @@ import signal
 import desktop
 from desktop import Desktop, DesktopTest
 from program import COMPREHENSIVE
-from readings import MARIA
-from waiting import wait_for
-
-OLD = b"{\\rtf1 the reading of another day\\par\r\n}\r\n" * 10
+from readings import MARIA, OLD_FILE
 
 
 class ReplacedFile(DesktopTest):
 
-    def prepare(self, screen):
-        """Puts an old file under the name report.txt."""
-        self.documents = screen.home / "Documents"
-        self.old = self.documents / "report.txt"
-        self.old.write_bytes(OLD)
-
     def test_killed_in_the_middle_of_the_write(self):
         with Desktop("killed") as screen:
-            self.prepare(screen)
+            old = screen.home / "Documents" / "report.txt"
+            old.write_bytes(OLD_FILE)
             program = screen.orravane()
             program.proceed(MARIA)
             program.read_topic(COMPREHENSIVE, MARIA)
@@ -30,14 +22,9 @@ class ReplacedFile(DesktopTest):
             resource.prlimit(program.process.pid, resource.RLIMIT_CORE, (0, 0))
             resource.prlimit(program.process.pid, resource.RLIMIT_FSIZE,
                              (8192, resource.RLIM_INFINITY))
-            program.open_save_dialog()
-            screen.type("report.txt")
-            screen.keys("Return")
-            wait_for("the question", lambda: len(screen.windows("Orravane")) == 2)
-            screen.await_painted(max(screen.windows("Orravane")))
-            screen.keys("alt+y")
+            program.replace(old.name)
             self.assertEqual(program.await_end(), -signal.SIGXFSZ)
-            self.assertEqual(self.old.read_bytes(), OLD)
+            self.assertEqual(old.read_bytes(), OLD_FILE)
 
 
 if __name__ == "__main__":

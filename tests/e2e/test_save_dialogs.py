@@ -9,10 +9,9 @@ import time
 import desktop
 from desktop import Desktop, DesktopTest
 from program import Program, TOPICS
-from readings import MARIA, today
+from readings import MARIA, OLD_FILE, today
 from waiting import wait_for
 
-OLD = b"{\\rtf1 the reading of another day\\par\r\n}\r\n" * 10
 NOBODY = 65534
 
 # The desktop's dialog comes with the platform theme gtk3; its settings stay in memory.
@@ -32,7 +31,7 @@ class SaveDialogs(DesktopTest):
             with self.subTest(kind), Desktop(f"{name}-{kind}", **options) as screen:
                 self.documents = screen.home / "Documents"
                 self.old = self.documents / "report.txt"
-                self.old.write_bytes(OLD)
+                self.old.write_bytes(OLD_FILE)
                 if screen.user is not None:
                     os.chown(self.old, screen.user, screen.user)
                 (screen.home / ".config/gtk-3.0").mkdir(parents=True)
@@ -98,13 +97,13 @@ class SaveDialogs(DesktopTest):
             screen.screenshot().save(screen.artefact("question.png"))
             screen.keys("Return")
             self.await_dialog(screen, dialog)
-            self.assertEqual(self.old.read_bytes(), OLD)
+            self.assertEqual(self.old.read_bytes(), OLD_FILE)
             screen.screenshot().save(screen.artefact("again.png"))
             self.enter(screen)
             self.await_message(screen, dialog)
             screen.keys("Escape")
             self.await_dialog(screen, dialog)
-            self.assertEqual(self.old.read_bytes(), OLD)
+            self.assertEqual(self.old.read_bytes(), OLD_FILE)
             self.assertEqual(self.files(), ["report.txt"])
 
             # One Yes is enough.
@@ -112,7 +111,7 @@ class SaveDialogs(DesktopTest):
             self.await_message(screen, dialog)
             screen.keys("alt+y")
             program.await_no_dialog()
-            wait_for("the new content", lambda: self.old.read_bytes() != OLD)
+            wait_for("the new content", lambda: self.old.read_bytes() != OLD_FILE)
             self.assert_rtf(self.old.read_bytes(), MARIA, TOPICS[0], self.day)
             self.assertEqual(self.files(), ["report.txt"])
 
@@ -152,7 +151,7 @@ class SaveDialogs(DesktopTest):
             self.await_message(screen, dialog)
             screen.keys("Return")
             self.await_dialog(screen, dialog)
-            self.assertEqual(self.old.read_bytes(), OLD)
+            self.assertEqual(self.old.read_bytes(), OLD_FILE)
 
             # Another name, and all is well.
             screen.keys("ctrl+a")
@@ -161,7 +160,7 @@ class SaveDialogs(DesktopTest):
             wait_for("the file", (self.documents / "other.txt").exists)
             self.assert_rtf((self.documents / "other.txt").read_bytes(), MARIA, TOPICS[0],
                             self.day)
-            self.assertEqual(self.old.read_bytes(), OLD)
+            self.assertEqual(self.old.read_bytes(), OLD_FILE)
             self.assertEqual(self.files(), ["other.txt", "report.txt"])
 
         self.with_each_dialog("read-only-file", act, **self.as_an_ordinary_user())
@@ -181,7 +180,7 @@ class SaveDialogs(DesktopTest):
             program.await_no_dialog()
             program.read_topic("Personal Day", MARIA)
             self.assertEqual(screen.program_windows(), [program.window])
-            self.assertEqual(self.old.read_bytes(), OLD)
+            self.assertEqual(self.old.read_bytes(), OLD_FILE)
             self.assertEqual(self.files(), ["report.txt"])
 
         self.with_each_dialog("read-only-folder", act, **self.as_an_ordinary_user())

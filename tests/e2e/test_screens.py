@@ -119,10 +119,15 @@ class Screens(DesktopTest):
                   for side, line in sides.items()}
         self.assertEqual(counts, dict.fromkeys(sides, thickness), f"{control}: {sides}")
 
-    def check_edges(self, program):
+    @staticmethod
+    def unpainted(program):
+        """How many pixels below the menu nobody has painted."""
         pages = program.picture().crop(0, program.menu_height, program.width,
                                        program.height - program.menu_height)
-        self.assertEqual(pages.colours()[0, 0, 0], 0, "pixels that nobody painted")
+        return pages.colours()[0, 0, 0]
+
+    def check_edges(self, program):
+        self.assertEqual(self.unpainted(program), 0)
         self.check_edge(program, "txtFirstName", GOLD, 2)  # has the focus
         for control in ("txtMiddleName", "txtLastName", "cboMonth", "cboDate", "cboYear"):
             self.check_edge(program, control, MIST, 1)
@@ -172,7 +177,9 @@ class Screens(DesktopTest):
                 wait_for(f"the window to be {width} pixels wide", fits)
                 program.menu_height = program.height - math.floor(CLIENT[1] * scale)
                 screen.park_mouse()
-                wait_for("the page to be painted", lambda:
+                # It may still move a little, back into the screen.
+                wait_for("the window to be painted", lambda:
+                         fits() and self.unpainted(program) == 0 and
                          program.part("Picture1").colours()[PAGE_COLOUR] > 60000 * scale * scale)
                 program.keep(name)
                 self.check_edges(program)

@@ -23,6 +23,7 @@
 #include "numbers/essence.h"
 #include "report/rendering.h"
 #include "report/topics.h"
+#include "tests/support/stepping_clock.h"
 #include "tests/support/store_slots.h"
 
 #include <chrono>
@@ -40,28 +41,8 @@ using namespace modReadings;
 
 namespace {
 
-/// Shows one date after another, a reading each, until the last one stays.
-class MovingClock final : public Clock {
-public:
-    MovingClock() : before_(Install(this)) {}
-    ~MovingClock() override { Install(before_); }
-    MovingClock(const MovingClock &) = delete;
-    MovingClock &operator=(const MovingClock &) = delete;
-
-    void Show(std::vector<std::chrono::year_month_day> dates) {
-        dates_ = std::move(dates);
-        next_ = 0;
-    }
-
-private:
-    std::chrono::year_month_day Now() const override {
-        return next_ + 1 < dates_.size() ? dates_[next_++] : dates_.back();
-    }
-
-    std::vector<std::chrono::year_month_day> dates_{std::chrono::year(2026) / 11 / 16};
-    mutable std::size_t next_ = 0;
-    const Clock *const before_;
-};
+/// What the clock shows until a command sets it.
+constexpr auto firstDay = std::chrono::year(2026) / 11 / 16;
 
 std::u16string Text(std::string_view word) {
     std::u16string text;
@@ -180,7 +161,7 @@ public:
             store = {};
             profile = {};
             told_ = {};
-            clock_.Show({std::chrono::year(2026) / 11 / 16});
+            clock_.Show({firstDay});
         } else if (command == "profile") {
             profile = {Text(words.at(1)), Text(words.at(2)), Text(words.at(3)),
                        Text(words.at(4)), Text(words.at(5)), Text(words.at(6))};
@@ -215,7 +196,7 @@ public:
     }
 
 private:
-    MovingClock clock_;
+    SteppingClock clock_{{firstDay}};
     ReadingStore told_;
     std::string answers_;
 };

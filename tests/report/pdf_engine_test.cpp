@@ -2,6 +2,9 @@
 
 #include "report/pdf_engine.h"
 
+#include "tests/support/becomes.h"
+#include "tests/support/stand_in_engine.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -28,8 +31,7 @@ protected:
 
     /// From now on the engine is a program whose interpreter is this script of the shell.
     void StandIn(const QByteArray &shell) const {
-        const QString python = Make(u"python"_s, "#!/bin/sh\nPATH=" + path_ + "\n" + shell);
-        Make(u"weasyprint"_s, "#!" + python.toUtf8() + "\n");
+        MakeStandInEngine(folder_.path(), shell, path_);
         qputenv("PATH", folder_.path().toUtf8());
     }
 
@@ -112,12 +114,16 @@ TEST_F(PdfEngineTest, EndsTheProcessOnCancelAndBeginsAnew) {
     PdfEngine engine;
     engine.Start("<p>text", Paper::A4);
     EXPECT_TRUE(engine.IsAtWork());
-    QFile pid(folder_.filePath(u"pid"_s));
-    while (!pid.open(QIODevice::ReadOnly) || pid.size() == 0)
-        pid.close();
+    QFile file(folder_.filePath(u"pid"_s));
+    ASSERT_TRUE(Becomes([&] {
+        file.close();
+        return file.open(QIODevice::ReadOnly) && file.peek(100).endsWith('\n');
+    }));
+    const pid_t process = file.readAll().trimmed().toInt();
+    EXPECT_EQ(kill(process, 0), 0);
     engine.Cancel();
     EXPECT_FALSE(engine.IsAtWork());
-    EXPECT_NE(kill(pid.readAll().trimmed().toInt(), 0), 0);
+    EXPECT_NE(kill(process, 0), 0);
 
     StandIn("printf 'pdf 3\\nPDF'; cat >/dev/null");
     EXPECT_EQ(engine.Make("<p>text", Paper::A4).pdf, "PDF");

@@ -47,34 +47,6 @@ private slots:
         QCOMPARE(Round(Qt::ShiftModifier), order);
     }
 
-    void EveryStopShowsThatItHasTheFocus_data() { TabReachesWhatIsInSight_data(); }
-    void EveryStopShowsThatItHasTheFocus() {
-        QFETCH(QString, caption);
-        EnterSomebody();
-        ClickNode(caption);
-        const auto look = [this](const QWidget *stop) {
-            QApplication::processEvents();
-            return form.grab({stop->mapTo(&form, QPoint()), stop->size()}).toImage();
-        };
-        int stops = 0;
-        const QWidget *start = Focus();
-        do {
-            const QWidget *stop = Focus();
-            const QImage with = look(stop);
-            QTest::keyClick(Focus(), Qt::Key_Tab);
-            const QImage without = look(stop);
-            int changed = 0;
-            for (int y = 0; y < with.height(); ++y)
-                for (int x = 0; x < with.width(); ++x)
-                    changed += with.pixel(x, y) != without.pixel(x, y);
-            // More than a caret, which may blink or stand out of sight.
-            QVERIFY2(changed >= 60,
-                     qPrintable(u"%1 changes %2 pixels"_s.arg(stop->objectName()).arg(changed)));
-            ++stops;
-        } while (Focus() != start);
-        QVERIFY(stops > 5);
-    }
-
     void TheFocusDoesNotStayOnAPageThatIsCovered() {
         EnterSomebody();
         input.picProceed->setFocus();

@@ -1,5 +1,8 @@
 #!/bin/sh
-# Fails and names the places where a C++ source is not formatted as .clang-format says.
+# Fails and names the places where a C++ source is not formatted as .clang-format says. To be run
+# at the root of the sources.
+#
+# usage: check-format.sh [CLANG_FORMAT]
 set -eu
-find core numbers report shell tools tests bench packaging -name '*.cpp' -o -name '*.h' | sort |
-    xargs clang-format --dry-run -Werror
+find . \( -path ./build -o -name '.?*' \) -prune -o \( -name '*.cpp' -o -name '*.h' \) -print | sort |
+    xargs "${1:-clang-format}" --dry-run -Werror

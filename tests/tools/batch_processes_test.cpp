@@ -1,16 +1,15 @@
 // The processes of --jobs as the system sees them: they end with the one that was started, and
 // when one dies it is told.
 
+#include "tests/support/becomes.h"
 #include "tests/tools/batch_answers.h"
 #include "tests/tools/folder_test.h"
 #include "tests/tools/program.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <csignal>
 #include <sstream>
-#include <thread>
 
 #include <unistd.h>
 
@@ -32,16 +31,6 @@ std::vector<pid_t> ChildrenOf(pid_t parent) {
     for (pid_t child = 0; file >> child;)
         children.push_back(child);
     return children;
-}
-
-/// Whether `done` comes true within a time far beyond what it needs.
-template <typename Done> bool Becomes(Done done) {
-    for (int tries = 0; tries < 1000; ++tries) {
-        if (done())
-            return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    return false;
 }
 
 bool IsGone(pid_t process) {

@@ -1,5 +1,7 @@
 // Documents from the built program, with the real engine of the PDFs or a stand-in for it.
 
+#include "tests/support/becomes.h"
+#include "tests/support/stand_in_engine.h"
 #include "tests/tools/folder_test.h"
 #include "tests/tools/program.h"
 
@@ -14,13 +16,9 @@ protected:
     /// Surroundings in which the engine is a program whose interpreter is this script of the
     /// shell.
     Surroundings StandIn(const std::string &script) const {
-        const std::string path = std::getenv("PATH");
         std::filesystem::create_directory(Path("bin"));
-        const std::string python =
-            Make("bin/python", "#!/bin/sh\nPATH='" + path + "'\n" + script + "\n");
-        const std::string engine = Make("bin/weasyprint", "#!" + python + "\n");
-        for (const std::string &file : {python, engine})
-            std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+        MakeStandInEngine(QString::fromStdString(Path("bin")), QByteArray::fromStdString(script),
+                          qgetenv("PATH"));
         Surroundings surroundings;
         surroundings.environment["PATH"] = Path("bin");
         return surroundings;
@@ -82,15 +80,13 @@ TEST_F(DocumentTest, AnEngineThatFailsLeavesTheEarlierFile) {
 TEST_F(DocumentTest, AnInterruptEndsTheEngineToo) {
     const Surroundings slow = StandIn("echo $$ >" + Path("pid") + "; exec sleep 100");
     Program program(ann + Arguments{"-f", "pdf", "-o", Path("ann.pdf")}, slow);
-    while (!std::filesystem::exists(Path("pid")) || Read(Path("pid")).empty())
-        usleep(10'000);
+    ASSERT_TRUE(Becomes(
+        [&] { return std::filesystem::exists(Path("pid")) && Read(Path("pid")).ends_with('\n'); }));
     const pid_t engine = std::stoi(Read(Path("pid")));
     EXPECT_EQ(kill(engine, 0), 0);
     program.Signal(SIGINT);
     EXPECT_EQ(program.Finish().signal, SIGINT);
-    for (int tries = 0; kill(engine, 0) == 0 && tries < 1000; ++tries)
-        usleep(10'000); // until the system has tidied it up
-    EXPECT_NE(kill(engine, 0), 0);
+    EXPECT_TRUE(Becomes([=] { return kill(engine, 0) != 0; })); // the system has tidied it up
     EXPECT_FALSE(std::filesystem::exists(Path("ann.pdf")));
 }
 

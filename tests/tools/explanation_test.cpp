@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
 #include <sstream>
 
 using modReadings::Person;
@@ -19,6 +20,11 @@ using modReadings::Person;
 namespace {
 
 const Person anna{"Anna", {}, "Smith", "December", "29", "1985"};
+
+struct Expected {
+    Person person;
+    std::string block; ///< begins with the caption
+};
 
 class ExplanationTest : public testing::Test {
 protected:
@@ -33,6 +39,16 @@ protected:
         const std::size_t begin = text.find("\n\n" + ToUtf8(caption));
         EXPECT_NE(begin, std::string::npos) << text;
         return text.substr(begin + 2);
+    }
+
+    static void ExpectBlocks(std::span<const Expected> blocks) {
+        for (const Expected &expected : blocks) {
+            const std::string caption =
+                expected.block.substr(0, expected.block.find_first_of(":\n"));
+            EXPECT_EQ(Block(expected.person,
+                            KnownCaption(QString::fromStdString(caption).toStdU16String())),
+                      expected.block);
+        }
     }
 
     /// What stands between the date and the first topic.
@@ -104,11 +120,6 @@ TEST_F(ExplanationTest, SaysWhatOfTheNameDoesNotCount) {
 
   Y counts as a vowel, as the name has no other, and as a consonant too.)");
 }
-
-struct Expected {
-    Person person;
-    std::string block; ///< begins with the caption
-};
 
 TEST_F(ExplanationTest, HasABlockATopic) {
     const Person september{"Ben", {}, "Lee", "September", "9", "1993"};
@@ -296,12 +307,7 @@ TEST_F(ExplanationTest, HasABlockATopic) {
   number                14: 1 + 4 = 5
 )"},
     };
-    for (const Expected &expected : blocks) {
-        const std::string caption = expected.block.substr(0, expected.block.find_first_of(":\n"));
-        EXPECT_EQ(
-            Block(expected.person, KnownCaption(QString::fromStdString(caption).toStdU16String())),
-            expected.block);
-    }
+    ExpectBlocks(blocks);
 }
 
 // What no branch has assigned is not shown as if it had been worked out.
@@ -372,12 +378,7 @@ TEST_F(ExplanationTest, SaysWhatIsOfTheRunBefore) {
                        ...ers were sitting on."
 )"},
     };
-    for (const Expected &expected : blocks) {
-        const std::string caption = expected.block.substr(0, expected.block.find_first_of(":\n"));
-        EXPECT_EQ(
-            Block(expected.person, KnownCaption(QString::fromStdString(caption).toStdU16String())),
-            expected.block);
-    }
+    ExpectBlocks(blocks);
 }
 
 // Letters that add up to more than the sums hold; the tool refuses such a name before.

@@ -1,5 +1,6 @@
 // Named pipes, which only Unix has among its files.
 
+#include "tests/support/becomes.h"
 #include "tests/tools/folder_test.h"
 #include "tools/line_reader.h"
 
@@ -7,7 +8,10 @@
 
 #include <thread>
 
+#include <fcntl.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <zlib.h>
 
 namespace {
@@ -23,11 +27,14 @@ TEST_F(LineReaderOnUnix, ReadsWhatAPipeHandsOut) {
     gzclose(file);
     for (const std::string &bytes : {std::string("a\nbc\n"), Read(packed)}) {
         std::thread writer([&] {
-            std::ofstream pipe(Path("pipe"));
+            const int pipe = open(Path("pipe").c_str(), O_WRONLY);
             for (const char byte : bytes) {
-                pipe << byte << std::flush;
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                EXPECT_EQ(write(pipe, &byte, 1), 1);
+                int waiting = 1; // bytes that nobody has read yet
+                EXPECT_TRUE(
+                    Becomes([&] { return ioctl(pipe, FIONREAD, &waiting) == 0 && waiting == 0; }));
             }
+            close(pipe);
         });
         LineReader reader(QString::fromStdString(Path("pipe")));
         std::string line;

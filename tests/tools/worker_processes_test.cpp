@@ -4,15 +4,23 @@
 
 #include "tests/tools/complaint.h"
 
+#include <QCoreApplication>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <vector>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <csignal>
+#endif
+
 namespace {
 
-enum Kind : std::uint32_t { Echo, EchoTwice, Die };
+enum Kind : std::uint32_t { Echo, EchoTwice, TellId, Die };
 
 constexpr int codeOfTheDead = 7;
 constexpr std::size_t workers = 3;
@@ -22,9 +30,26 @@ void Answer(const WorkerSeat &seat, WorkerMessage message) {
         std::_Exit(codeOfTheDead);
     seat.memory[seat.worker] = static_cast<char>(message.slot);
     message.second = seat.worker;
+    if (message.kind == TellId)
+        message.first = static_cast<std::uint64_t>(QCoreApplication::applicationPid());
     seat.parent.Send(message);
     if (message.kind == EchoTwice)
         seat.parent.Send(message);
+}
+
+/// Whether there is a process with this id. One that has ended counts until somebody has seen its
+/// end.
+bool IsThere(std::uint64_t id) {
+#ifdef Q_OS_WIN
+    const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(id));
+    if (process == nullptr)
+        return false;
+    const bool isRunning = WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+    CloseHandle(process);
+    return isRunning;
+#else
+    return kill(static_cast<pid_t>(id), 0) == 0;
+#endif
 }
 
 /// What a worker of these tests does: it puts what it is told into the memory, and says it back.
@@ -81,8 +106,18 @@ TEST(WorkerProcesses, TellThatOneHasDied) {
 
 TEST(WorkerProcesses, EndWhileTheyWaitAndWhileTheyTalk) {
     const SharedMemory memory(workers);
-    WorkerProcesses processes(workers, memory, -1, Work);
-    processes.Send(1, {EchoTwice, 1, 0, 0});
+    std::vector<std::uint64_t> ids;
+    {
+        WorkerProcesses processes(workers, memory, -1, Work);
+        for (std::size_t worker = 0; worker < workers; ++worker) {
+            processes.Send(worker, {TellId, 0, 0, 0});
+            ids.push_back(processes.Receive().message.first);
+            EXPECT_TRUE(IsThere(ids.back()));
+        }
+        processes.Send(1, {EchoTwice, 1, 0, 0});
+    }
+    for (const std::uint64_t id : ids)
+        EXPECT_FALSE(IsThere(id)) << id;
 }
 
 } // namespace

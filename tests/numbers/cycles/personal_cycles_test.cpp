@@ -2,9 +2,10 @@
 #include "tests/support/fresh_store.h"
 #include "tests/support/longhand.h"
 #include "tests/support/reading_facts.h"
+#include "tests/support/stepping_clock.h"
 #include "tests/support/store_slots.h"
 
-#include <vector>
+#include <set>
 
 namespace modReadings {
 namespace {
@@ -19,28 +20,6 @@ using std::chrono::year_month_day;
 
 // All values of these topics have two digits at most on their way, where a fold is a digit
 // sum and the digital root is the number.
-
-/// A clock that shows another date at each look and stays on the last.
-class SteppingClock final : public Clock {
-public:
-    explicit SteppingClock(std::vector<year_month_day> dates)
-        : dates_(std::move(dates)), before_(Install(this)) {}
-    ~SteppingClock() override { Install(before_); }
-    SteppingClock(const SteppingClock &) = delete;
-    SteppingClock &operator=(const SteppingClock &) = delete;
-
-private:
-    year_month_day Now() const override {
-        const year_month_day date = dates_[next_];
-        if (next_ + 1 < dates_.size())
-            ++next_;
-        return date;
-    }
-
-    std::vector<year_month_day> dates_;
-    mutable std::size_t next_ = 0;
-    const Clock *const before_;
-};
 
 class PersonalCycles : public FreshStore {
 protected:
