@@ -43,12 +43,15 @@ QString PersonInput::*InputNamed(std::string_view name) {
 
 QString Quoted(std::string_view text) { return Excerpt(QString::fromUtf8(text)); }
 
-std::string_view WithoutBlanks(std::string_view text) {
-    const std::size_t begin = text.find_first_not_of(" \t");
+std::string_view WithoutBlanks(std::string_view text, const char *blanks = " \t") {
+    const std::size_t begin = text.find_first_not_of(blanks);
     if (begin == std::string_view::npos)
         return {};
-    return text.substr(begin, text.find_last_not_of(" \t") + 1 - begin);
+    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
 }
+
+/// Without what may stand around a value of JSON, which is more than a blank of a CSV field.
+std::string_view WithoutJsonBlanks(std::string_view text) { return WithoutBlanks(text, " \t\r\n"); }
 
 std::string LowerCase(std::string_view text) {
     std::string lower(text);
@@ -66,7 +69,7 @@ long long CharacterAt(std::string_view text, std::size_t offset) {
 }
 
 /// Whether `line` begins as a JSON object does.
-bool BeginsObject(std::string_view line) { return WithoutBlanks(line).starts_with('{'); }
+bool BeginsObject(std::string_view line) { return WithoutJsonBlanks(line).starts_with('{'); }
 
 /// Throws Refusal for the first line of an input that is recognisably of another kind: one
 /// message then stands for one about each line.
@@ -86,9 +89,9 @@ void RefuseOtherKinds(std::string_view line) {
         if (line.starts_with(magic))
             throw Refusal(
                 u"the input is compressed by %1; give it unpacked, or as gzip"_s.arg(name));
-    const std::string_view inside = WithoutBlanks(line);
+    const std::string_view inside = WithoutJsonBlanks(line);
     if (inside.starts_with('[') &&
-        (WithoutBlanks(inside.substr(1)).empty() || BeginsObject(inside.substr(1))))
+        (WithoutJsonBlanks(inside.substr(1)).empty() || BeginsObject(inside.substr(1))))
         throw Refusal(u"the input is a JSON array; give one object a line, by jq -c '.[]'"_s);
 }
 

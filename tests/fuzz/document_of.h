@@ -5,6 +5,7 @@
 
 #include "report/document.h"
 #include "report/person.h"
+#include "tests/fuzz/days.h"
 #include "tests/fuzz/fuzz.h"
 #include "tools/people.h"
 #include "tools/refusal.h"
@@ -14,27 +15,20 @@
 #include <algorithm>
 #include <optional>
 
-/// The document, or nothing for a person whom the report tool refuses.
+/// The document, or nothing for a person whom the report tool refuses or who would take long.
 inline std::optional<modReadings::Document> DocumentOf(std::string_view bytes) {
     std::vector<std::string_view> parts = Pieces(bytes.substr(0, 2000), '|');
     parts.resize(7);
     const auto text = [&](std::size_t index) {
         return QStringView(AnyUnits(parts[index])).toString();
     };
-    const auto number = [&](std::size_t at, std::size_t count) {
-        unsigned value = 0;
-        for (const char digit : parts[6].substr(std::min(at, parts[6].size()), count))
-            value = value * 10 + static_cast<unsigned char>(digit) % 16 % 10;
-        return value;
-    };
-    const std::chrono::year_month_day day =
-        std::chrono::year(static_cast<int>(std::max(number(0, 4), 1U))) /
-        std::chrono::month(std::clamp(number(5, 2), 1U, 12U)) /
-        std::chrono::day(std::clamp(number(8, 2), 1U, 28U));
+    const std::chrono::year_month_day day = DayFrom(parts[6], 28);
     const modReadings::FixedClock clock{day};
     try {
         const modReadings::UserProfile person =
             CheckPerson({text(0), text(1), text(2), text(3), text(4), text(5)});
+        if (!IsReadSoon(person, day))
+            return std::nullopt;
         return modReadings::MakeDocument(
             person, {AnyUnits(parts[0]), AnyUnits(parts[1]), AnyUnits(parts[2])}, day);
     } catch (const Refusal &) {
@@ -42,9 +36,22 @@ inline std::optional<modReadings::Document> DocumentOf(std::string_view bytes) {
     }
 }
 
+/// Whether a text is of printable ASCII, with single blanks between words.
+template <typename Text> bool IsShownAsItStands(Text text) {
+    bool behindBlank = true; // the beginning counts as one, and so does the end
+    for (const auto unit : text) {
+        if (unit < 0x20 || unit > 0x7E || (unit == ' ' && behindBlank))
+            return false;
+        behindBlank = unit == ' ';
+    }
+    return text.empty() || !behindBlank;
+}
+
 /// What a document shows of a text: every kind of blank is a blank, and stretches of them are
 /// one, as every reader shows them; what no document can hold is U+FFFD.
 inline std::string Shown(std::u16string_view text) {
+    if (IsShownAsItStands(text))
+        return {text.begin(), text.end()};
     std::u16string shown;
     for (std::size_t at = 0; at < text.size(); ++at) {
         char16_t unit = text[at];
@@ -69,4 +76,6 @@ inline std::string Shown(std::u16string_view text) {
 }
 
 /// The same for a text that is UTF-8 already.
-inline std::string Shown(std::string_view text) { return Shown(AnyUnits(text)); }
+inline std::string Shown(std::string_view text) {
+    return IsShownAsItStands(text) ? std::string(text) : Shown(AnyUnits(text));
+}

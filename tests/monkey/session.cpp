@@ -810,8 +810,7 @@ void Session::NoteMouse(QObject *watched, QEvent *event) {
             control->rect().contains(point.toPoint()))
             Note({.what = What::LinkClicked, .control = link});
     } else if (control == form_.Picture2->RTB->viewport()) {
-        if (event->type() != QEvent::MouseButtonDblClick)
-            Note({.what = What::PaneMouse});
+        Note({.what = What::PaneMouse});
         if (mouse->button() == Qt::LeftButton)
             markingReport_ = !release;
     } else if (control == form_.TV->viewport()) {

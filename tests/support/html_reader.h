@@ -13,9 +13,10 @@
 #include <utility>
 #include <vector>
 
+/// An element; the names in it are views of the file that was read.
 struct HtmlElement {
-    std::string name; ///< empty for a piece of text
-    std::vector<std::pair<std::string, std::string>> attributes;
+    std::string_view name; ///< empty for a piece of text
+    std::vector<std::pair<std::string_view, std::string>> attributes;
     std::vector<HtmlElement> children;
     std::string text; ///< of a piece of text, in UTF-8
 
@@ -24,17 +25,6 @@ struct HtmlElement {
         for (const auto &[each, value] : attributes)
             if (each == wanted)
                 return &value;
-        return nullptr;
-    }
-
-    /// The first element with this id, itself among them, or nullptr.
-    const HtmlElement *WithId(std::string_view id) const {
-        const std::string *mine = Attribute("id");
-        if (mine != nullptr && *mine == id)
-            return this;
-        for (const HtmlElement &child : children)
-            if (const HtmlElement *found = child.WithId(id))
-                return found;
         return nullptr;
     }
 
@@ -50,12 +40,18 @@ struct HtmlElement {
 
     /// All text within, without that of a style.
     std::string Text() const {
-        if (name == "style")
-            return {};
-        std::string all = text;
-        for (const HtmlElement &child : children)
-            all += child.Text();
+        std::string all;
+        AppendText(all);
         return all;
+    }
+
+private:
+    void AppendText(std::string &all) const {
+        if (name == "style")
+            return;
+        all += text;
+        for (const HtmlElement &child : children)
+            child.AppendText(all);
     }
 };
 
@@ -71,7 +67,7 @@ public:
         HtmlElement html = reader.Element(false);
         if (html.name != "html")
             reader.Fail("no html");
-        reader.Take("\n");
+        reader.Take('\n');
         if (reader.at_ != file.size())
             reader.Fail("something behind the end");
         for (const std::string &link : reader.links_)
@@ -83,12 +79,20 @@ public:
 private:
     explicit HtmlReader(std::string_view file) : file_(file) {}
 
-    [[noreturn]] void Fail(const std::string &what) const {
-        throw std::runtime_error("HTML: " + what + " at " + std::to_string(at_));
+    [[noreturn]] void Fail(std::string what, std::string_view name = {}) const {
+        throw std::runtime_error("HTML: " + what.append(name.empty() ? "" : " ").append(name) +
+                                 " at " + std::to_string(at_));
+    }
+
+    bool Take(char what) {
+        if (at_ == file_.size() || file_[at_] != what)
+            return false;
+        ++at_;
+        return true;
     }
 
     bool Take(std::string_view what) {
-        if (!file_.substr(at_).starts_with(what))
+        if (file_.compare(at_, what.size(), what) != 0)
             return false;
         at_ += what.size();
         return true;
@@ -96,7 +100,7 @@ private:
 
     char Peek() const { return at_ < file_.size() ? file_[at_] : '\0'; }
 
-    std::string Name() {
+    std::string_view Name() {
         const std::size_t begin = at_;
         const auto isName = [](char c) {
             return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
@@ -106,25 +110,29 @@ private:
             ++at_;
         if (at_ == begin || !(file_[begin] >= 'a' && file_[begin] <= 'z'))
             Fail("a name that is none");
-        return std::string(file_.substr(begin, at_ - begin));
+        return file_.substr(begin, at_ - begin);
     }
 
-    /// Text up to one of `ends`.
-    std::string Characters(std::string_view ends) {
+    /// Text up to `end`.
+    std::string Characters(char end) {
         std::string text;
-        while (at_ < file_.size() && ends.find(file_[at_]) == std::string_view::npos) {
-            const char c = file_[at_];
-            if (c == '&') {
-                text += Reference();
-                continue;
-            }
-            if (c == '<' || c == '>' || (static_cast<unsigned char>(c) < 0x20 && c != '\n') ||
-                c == 0x7F)
+        for (;;) {
+            // What stands for itself, in one piece.
+            const std::size_t begin = at_;
+            while (at_ < file_.size() && file_[at_] != end && StandsForItself(file_[at_]))
+                ++at_;
+            text += file_.substr(begin, at_ - begin);
+            if (at_ == file_.size() || file_[at_] == end)
+                return text;
+            if (file_[at_] != '&')
                 Fail("a character that has to be written out");
-            text += c;
-            ++at_;
+            text += Reference();
         }
-        return text;
+    }
+
+    static bool StandsForItself(char c) {
+        return c != '&' && c != '<' && c != '>' && c != 0x7F &&
+               (static_cast<unsigned char>(c) >= 0x20 || c == '\n');
     }
 
     std::string Reference() {
@@ -140,60 +148,59 @@ private:
     }
 
     HtmlElement Element(bool foreign) {
-        if (!Take("<"))
+        if (!Take('<'))
             Fail("no element");
         HtmlElement element;
         element.name = Name();
         foreign = foreign || element.name == "svg";
         if (element.name == "script" || element.name == "iframe" || element.name == "object" ||
             element.name == "embed" || element.name == "base" || element.name == "link")
-            Fail("the element " + element.name);
-        while (Take(" ") || Peek() == '\n') {
-            Take("\n");
+            Fail("the element", element.name);
+        constexpr std::size_t usualAttributes = 6;
+        if (Peek() != '>')
+            element.attributes.reserve(usualAttributes);
+        while (Take(' ') || Peek() == '\n') {
+            Take('\n');
             Attribute(element);
         }
         if (Take("/>")) {
             if (!foreign)
-                Fail("an end of its own on " + element.name);
+                Fail("an end of its own on", element.name);
             return element;
         }
-        if (!Take(">"))
-            Fail("a broken tag " + element.name);
+        if (!Take('>'))
+            Fail("a broken tag", element.name);
         constexpr std::string_view withoutEnd[] = {"meta", "br", "hr", "wbr", "col"};
         if (std::ranges::find(withoutEnd, element.name) != std::end(withoutEnd))
             return element;
-        const std::string end = "</" + element.name + ">";
         if (element.name == "style") {
             const std::size_t stop = file_.find("</", at_);
             const std::string_view style = file_.substr(at_, stop - at_);
-            if (stop == std::string_view::npos || style.find("url(") != style.npos ||
-                style.find("@import") != style.npos || style.find('<') != style.npos)
+            if (stop == std::string_view::npos || Loads(style) || style.find('<') != style.npos)
                 Fail("a style that loads something or has no end");
             at_ = stop;
         }
-        while (!Take(end)) {
+        while (!Take("</")) {
             if (at_ == file_.size())
-                Fail(element.name + " has no end");
-            if (Peek() == '<') {
-                if (file_.substr(at_).starts_with("</"))
-                    Fail("an end within " + element.name);
+                Fail("no end", element.name);
+            if (Peek() == '<')
                 element.children.push_back(Element(foreign));
-            } else {
-                HtmlElement &piece = element.children.emplace_back();
-                piece.text = Characters("<");
-            }
+            else
+                element.children.emplace_back().text = Characters('<');
         }
+        if (!Take(element.name) || !Take('>'))
+            Fail("another end than that of", element.name);
         return element;
     }
 
     void Attribute(HtmlElement &element) {
-        const std::string name = Name();
+        const std::string_view name = Name();
         if (element.Attribute(name) != nullptr)
-            Fail("an attribute twice, " + name);
+            Fail("twice the attribute", name);
         std::string value;
         if (Take("=\"")) {
-            value = Characters("\"");
-            if (!Take("\""))
+            value = Characters('"');
+            if (!Take('"'))
                 Fail("an attribute without end");
         }
         if (name == "id" && (!ids_.insert(value).second || value.empty()))
@@ -203,11 +210,25 @@ private:
                 Fail("a link to elsewhere, " + value);
             links_.push_back(value.substr(1));
         }
-        if (name == "src" || name == "srcset" || name == "action" || name == "poster" ||
-            name == "data" || name.starts_with("on") ||
-            (name == "style" && value.find("url(") != std::string::npos))
-            Fail("the attribute " + name);
+        constexpr std::string_view loadsOrLeads[] = {
+            "src",  "srcset",     "action",     "formaction", "poster",  "data",
+            "ping", "background", "http-equiv", "srcdoc",     "manifest"};
+        if (std::ranges::find(loadsOrLeads, name) != std::end(loadsOrLeads) ||
+            name.starts_with("on") || Loads(value))
+            Fail("the attribute", name);
         element.attributes.emplace_back(name, std::move(value));
+    }
+
+    /// Whether a style, or the value of an attribute that takes a part of one, asks for something
+    /// that stands elsewhere.
+    static bool Loads(std::string_view style) {
+        if (style.find('(') == style.npos && style.find('@') == style.npos)
+            return false;
+        for (std::size_t at = style.find("url("); at != style.npos; at = style.find("url(", at + 1))
+            if (!style.substr(at + 4).starts_with('#'))
+                return true;
+        return style.find("image-set(") != style.npos || style.find("src(") != style.npos ||
+               style.find("@import") != style.npos;
     }
 
     std::string_view file_;

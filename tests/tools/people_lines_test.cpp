@@ -99,6 +99,19 @@ TEST(PeopleLines, TakeAHeaderInAnyCaseWithBlanksOrTabs) {
     }
 }
 
+// A carriage return is a blank of JSON. In CSV it is a character of its field.
+TEST(PeopleLines, TakeCarriageReturnsAroundAnObject) {
+    const std::string line = std::string("\r\t\r ") + object + "\r \r";
+    Reader first(line);
+    EXPECT_FALSE(first.TookAHeader());
+    EXPECT_EQ(first.Parse(line), "Ann|M|Lee|March|7|1990");
+    EXPECT_EQ(Reader(object).Parse(line), "Ann|M|Lee|March|7|1990");
+
+    EXPECT_FALSE(Reader("\rfirst").TookAHeader());
+    EXPECT_EQ(Reader("last,first,month,day,year").Parse("\rLee,Ann\r,3,\r7,1990"),
+              "Ann\r||\rLee|3|\r7|1990");
+}
+
 // One message stands for one a line.
 TEST(PeopleLines, RefuseTheBeginningOfAnInputOfAnotherKind) {
     using namespace std::string_literals;
@@ -119,6 +132,8 @@ TEST(PeopleLines, RefuseTheBeginningOfAnInputOfAnotherKind) {
              {"\x28\xB5\x2F\xFD$", "Zstandard"},
              {"[", "JSON array"},
              {" [ ", "JSON array"},
+             {"\r[\r", "JSON array"},
+             {"\r[\r{", "JSON array"},
              {R"([{"first":"Ann"},)", "JSON array"}})
         ExpectLine(RefusalOf([line = line] { PeopleLines().Begin(line); }), {part});
 }
