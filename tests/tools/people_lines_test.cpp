@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 namespace {
 
 /// A reader that has taken `first` as its first line.
@@ -97,6 +99,16 @@ TEST(PeopleLines, TakeAHeaderInAnyCaseWithBlanksOrTabs) {
         EXPECT_EQ(reader.Parse(tabs ? "A, B\tLee\t3\t7\t1990" : "\"A, B\",Lee,3,7,1990"),
                   "A, B||Lee|3|7|1990");
     }
+}
+
+// A header of almost 1 MB. Each name compared to all others would take minutes.
+TEST(PeopleLines, FindADoubledColumnAmongManyInTime) {
+    std::string header = "first,last,birthdate";
+    for (int column = 0; column < 150'000; ++column)
+        header += ',' + std::to_string(column);
+    const std::clock_t start = std::clock();
+    ExpectLine(RefusalOf([&] { Reader(header + ",149999"); }), {"\"149999\" twice"});
+    EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC);
 }
 
 // One message stands for one a line.
