@@ -189,7 +189,7 @@ Value Chosen(const CommandLine &line, OptionId id, const NameTable<Value, size> 
 /// What is given as the name of a file or directory; empty where the option is not there. Throws
 /// Refusal for an empty one, and says then what `allowed` is.
 QString PathFrom(const CommandLine &line, OptionId id, const QString &allowed) {
-    const QString path = line.Value(id);
+    QString path = line.Value(id);
     if (line.Given(id) && path.isEmpty())
         throw Refusal(u"%1 is empty; give %2."_s.arg(Dashed(id), allowed));
     return path;
