@@ -32,11 +32,11 @@ std::size_t MostLines(const Options &options) {
 
 /// The kinds of WorkerMessage.
 enum Kind : std::uint32_t {
-    Chunk,   ///< to the worker: `first` bytes of lines in the slot
-    Answer,  ///< from the worker: `first` bytes about its answer in the slot
+    Chunk,   ///< to the worker: there are lines in the slot
+    Answer,  ///< from the worker: what there is to know of its answer is in the slot
     Write,   ///< to the worker: write its bytes from `first` to `second`
     Written, ///< from the worker: it has
-    Failed   ///< from the worker: exit code `second`, `first` bytes of a message in the slot
+    Failed   ///< from the worker: exit code `second`, a message in the slot
 };
 
 /// Puts numbers and texts into a slot, one behind the other.
@@ -134,8 +134,7 @@ public:
             } catch (const Refusal &refusal) {
                 Packer packer(memory_.Of(worker_, message.slot));
                 packer.Put(std::string_view(refusal.Line().toStdString()));
-                parent_.Send({Failed, message.slot, packer.Size(),
-                              static_cast<std::uint64_t>(refusal.Code())});
+                parent_.Send({Failed, message.slot, 0, static_cast<std::uint64_t>(refusal.Code())});
             }
         }
     }
@@ -191,7 +190,7 @@ private:
             packer.Put(each.end);
             packer.Put(std::string_view(each.text));
         }
-        parent_.Send({Answer, slot, packer.Size(), 0});
+        parent_.Send({Answer, slot, 0, 0});
     }
 
     void WriteBytes(const WorkerMessage &message) {
@@ -308,7 +307,7 @@ private:
         } while (lineThere_ && line_.file == file_ && piece.lines < mostLines &&
                  packer.Size() < fullChunk + input_.Header().size());
         packer.Put(std::uint64_t{0});
-        workers_.Send(worker, {Chunk, slot, packer.Size(), 0});
+        workers_.Send(worker, {Chunk, slot, 0, 0});
         pieces_.push_back(piece);
     }
 

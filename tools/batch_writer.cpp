@@ -8,9 +8,10 @@
 #include "tools/refusal.h"
 #include "tools/text.h"
 
-#include <QDir>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -119,9 +120,13 @@ public:
     void Begin() override {
         if (engine_ != nullptr && !PdfEngine::WhatIsMissing().isEmpty())
             throw Refusal(PdfEngine::WhatIsMissing(), ExitCode::CannotReadOrWrite);
-        if (!QDir().mkpath(options_.outputDir))
-            throw Refusal(u"--output-dir: the folder \"%1\" cannot be made"_s.arg(
-                              Excerpt(options_.outputDir)),
+        std::error_code error;
+        std::filesystem::create_directories(options_.outputDir.toStdU16String(), error);
+        if (error)
+            throw Refusal(u"--output-dir: the directory \"%1\" cannot be made (%2)"_s.arg(
+                              Excerpt(options_.outputDir),
+                              // In English, where the system itself may speak another language.
+                              QString::fromStdString(error.default_error_condition().message())),
                           ExitCode::CannotReadOrWrite);
     }
 
@@ -163,12 +168,13 @@ std::string_view BetweenPeople(const Options &options) {
     return options.format == Format::Rtf ? modReadings::rtfPageBreak : std::string_view();
 }
 
-std::string AnswerTo(const modReadings::UserProfile &person, const Options &options) {
+std::string AnswerTo(const modReadings::UserProfile &person, const modReadings::GivenName &given,
+                     const Options &options) {
     if (options.explain && options.format == Format::Json)
         return ExplanationAsJson(Explain(person, options.topics));
     if (!options.numbers) {
         const auto engine = options.format == Format::Pdf ? std::make_unique<PdfEngine>() : nullptr;
-        return BytesOf(options, person, GivenNameOf(options.person), engine.get());
+        return BytesOf(options, person, given, engine.get());
     }
     if (options.format == Format::Json)
         return NumbersAsJson(person, {});

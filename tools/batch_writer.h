@@ -46,5 +46,6 @@ std::unique_ptr<BatchWriter> MakeBatchWriter(const Options &options, ByteSink *s
 /// behind others writes it before its first person too.
 std::string_view BetweenPeople(const Options &options);
 
-/// What `options` ask for about one person alone.
-std::string AnswerTo(const modReadings::UserProfile &person, const Options &options);
+/// What `options` ask for about one person alone, whose names were `given`.
+std::string AnswerTo(const modReadings::UserProfile &person, const modReadings::GivenName &given,
+                     const Options &options);

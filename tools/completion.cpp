@@ -2,6 +2,7 @@
 
 #include "core/months.h"
 #include "tools/option_table.h"
+#include "tools/options.h"
 #include "tools/text.h"
 
 #include <vector>
@@ -9,6 +10,13 @@
 namespace {
 
 using Words = std::vector<std::string>;
+
+template <typename Value, std::size_t size> Words NamesIn(const NameTable<Value, size> &table) {
+    Words names;
+    for (const Named<Value> &each : table)
+        names.emplace_back(each.name);
+    return names;
+}
 
 /// The values that an option of this kind may have, where they are few and short.
 Words ChoicesOf(ValueKind kind) {
@@ -20,11 +28,11 @@ Words ChoicesOf(ValueKind kind) {
         return months;
     }
     case ValueKind::Format:
-        return {"text", "json", "rtf", "html", "pdf", "markdown", "csv", "tsv"};
+        return NamesIn(formatNames);
     case ValueKind::Shell:
-        return {"bash", "zsh", "fish"};
+        return NamesIn(shellNames);
     case ValueKind::Paper:
-        return {"a4", "letter"};
+        return NamesIn(paperNames);
     default:
         return {};
     }
@@ -108,6 +116,12 @@ _orravane_report() {
     case $before in
 )" + cases +
            R"(    *)
+        # Behind --batch, further arguments are further files.
+        if [[ $word != -* && " ${COMP_WORDS[*]:1:COMP_CWORD} " == *" --batch "* ]]; then
+            compopt -o filenames 2>/dev/null
+            mapfile -t COMPREPLY < <(compgen -f -- "$word")
+            return
+        fi
         values=()" +
            Joined(all, " ") + R"() ;;
     esac
@@ -180,8 +194,12 @@ _orravane_report_topics() {
 }
 
 _orravane_report() {
+    local -a files
+    # Behind --batch, further arguments are further files.
+    ((${words[(I)--batch(|=*)]})) && files=('*:file:_files')
     _arguments)" +
-           specs + R"(
+           specs + R"( \
+        "${files[@]}"
 }
 
 _orravane_report "$@"
@@ -190,7 +208,9 @@ _orravane_report "$@"
 
 std::string ForFish() {
     std::string text = "# Completion of orravane-report for fish.\n\n"
-                       "complete -c orravane-report -f\n";
+                       "complete -c orravane-report -f\n"
+                       "# Behind --batch, further arguments are further files.\n"
+                       "complete -c orravane-report -n '__fish_contains_opt batch' -F\n";
     for (const OptionRow &row : OptionTable()) {
         text += "complete -c orravane-report -l " + std::string(row.name);
         if (row.letter != 0)
@@ -214,16 +234,6 @@ std::string ForFish() {
 }
 
 } // namespace
-
-std::optional<Shell> ShellFrom(std::string_view name) {
-    if (name == "bash")
-        return Shell::Bash;
-    if (name == "zsh")
-        return Shell::Zsh;
-    if (name == "fish")
-        return Shell::Fish;
-    return std::nullopt;
-}
 
 std::string CompletionFor(Shell shell) {
     switch (shell) {

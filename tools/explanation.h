@@ -29,7 +29,8 @@ Explanation Explain(const modReadings::UserProfile &person,
 /// cannot stand by itself, acts on a terminal or runs from right to left.
 std::string Shown(char16_t character);
 
-/// A sheet of at most 79 columns: the person, the name letter by letter, a block a topic.
+/// A sheet: the person, the name letter by letter, a block a topic. Its lines have at most 79
+/// characters, but for a name that is longer by itself.
 std::string ExplanationAsText(const Explanation &explanation);
 
 /// One object on one line: what JSON of a reading has before its topics, the name and the

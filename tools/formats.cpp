@@ -165,19 +165,15 @@ std::string ReadingAsRtfBody(const PersonReading &reading) {
 
 std::string ReadingAs(Format format, const PersonReading &reading) {
     switch (format) {
+    case Format::Text:
+        return ReadingAsText(reading);
     case Format::Json:
         return ReadingAsJson(reading);
     case Format::Rtf:
         return ReadingAsRtf(reading);
-    case Format::Text:
-    case Format::Html:
-    case Format::Pdf:
-    case Format::Markdown:
-    case Format::Csv:
-    case Format::Tsv:
-        break;
+    default:
+        Q_UNREACHABLE();
     }
-    return ReadingAsText(reading);
 }
 
 std::string DocumentAs(Format format, const modReadings::UserProfile &person,

@@ -1,21 +1,36 @@
 #pragma once
 
-// A reading as bytes: UTF-8 text, JSON or RTF. All text of the output is UTF-8.
+// A reading as bytes: UTF-8 text, JSON, RTF, or a document as HTML or Markdown; and the book of all
+// texts. All text of the output is UTF-8.
 
 #include "numbers/book.h"
 #include "report/document.h"
+#include "tools/names.h"
 #include "tools/reading.h"
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
 
 enum class Format { Text, Json, Rtf, Html, Pdf, Markdown, Csv, Tsv };
 
+inline constexpr auto formatNames = std::to_array<Named<Format>>({{"text", Format::Text},
+                                                                  {"json", Format::Json},
+                                                                  {"rtf", Format::Rtf},
+                                                                  {"html", Format::Html},
+                                                                  {"pdf", Format::Pdf},
+                                                                  {"markdown", Format::Markdown},
+                                                                  {"csv", Format::Csv},
+                                                                  {"tsv", Format::Tsv}});
+
 /// Whether it is a document of one person to hand over, which holds all topics and more.
 constexpr bool IsDocument(Format format) {
     return format == Format::Html || format == Format::Pdf || format == Format::Markdown;
 }
+
+/// Whether it is a table of numbers, a row a person.
+constexpr bool IsTable(Format format) { return format == Format::Csv || format == Format::Tsv; }
 
 /// Who is read, as it stands above the first topic: the names, the dates of birth and of the
 /// reading. What a terminal might act on in a name is written out.
@@ -46,7 +61,7 @@ std::string ReadingAsRtf(const PersonReading &reading);
 /// What ReadingAsRtf puts between its beginning and its end, for a document of many.
 std::string ReadingAsRtfBody(const PersonReading &reading);
 
-/// One of the three above: Text, Json or Rtf.
+/// One of the three above: `format` is Text, Json or Rtf.
 std::string ReadingAs(Format format, const PersonReading &reading);
 
 /// The document of `person`, read for the present day: as Markdown, or as HTML, of which a PDF

@@ -12,7 +12,6 @@
 
 #include <QCoreApplication>
 
-#include <cstdio>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -43,10 +42,10 @@ ExitCode Run(int argc, char *argv[]) {
         Print({}, HelpText());
         break;
     case Options::Task::ListTopics:
-        Print({}, TopicList());
+        Print(options.output, TopicList());
         break;
     case Options::Task::Completion:
-        Print({}, CompletionFor(options.shell));
+        Print(options.output, CompletionFor(options.shell));
         break;
     case Options::Task::Version:
         Print({}, std::string("orravane-report ") + orravaneVersion + '\n');
@@ -59,18 +58,19 @@ ExitCode Run(int argc, char *argv[]) {
     case Options::Task::Batch:
         return RunBatch(options);
     case Options::Task::Person: {
-        if (options.format == Format::Pdf &&
-            (options.output.isEmpty() || options.output == u"-"_s) && IsTerminal(1))
-            throw Refusal(
-                u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
-                "a program read it."_s);
         const modReadings::FixedClock oneDay(modReadings::Clock::Date()); // the same for both
         const PersonInput input = options.normalize ? Composed(options.person) : options.person;
         const InputNames names(u"--"_s);
         const auto person = CheckPerson(input, names);
         if (const QString remark = DecomposedRemark(input, names); !remark.isEmpty())
             Complain(remark);
-        Print(options.output, AnswerTo(person, options));
+        Output output(options.output);
+        if (options.format == Format::Pdf && output.IsTerminal())
+            throw Refusal(
+                u"--format: \"pdf\" is nothing for a terminal; give --output FILE, or let "
+                "a program read it."_s);
+        output.Write(AnswerTo(person, GivenNameOf(input), options));
+        output.Finish();
         break;
     }
     }
@@ -81,8 +81,10 @@ ExitCode Run(int argc, char *argv[]) {
 
 int main(int argc, char *argv[]) {
     const StandardStreams streams;
-    std::setvbuf(stdout, nullptr, _IONBF, 0); // a report leaves in one write, whole and at once
-    qputenv("LC_ALL", "C.UTF-8");             // the tool speaks English and UTF-8 wherever it runs
+    // The tool speaks English and UTF-8 wherever it runs. The reasons that the system gives would
+    // be in the language of LANGUAGE, whatever LC_ALL is.
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"orravane-report"_s);
 

@@ -96,10 +96,10 @@ struct CellOf {
     Cell operator()(NumberIn number) const { return NumberCell(store.*number.slot); }
     Cell operator()(OneOf number) const {
         std::u16string_view text = store.*number.slot;
-        for (int skipped = 0; skipped < number.index; ++skipped)
-            text.remove_prefix(std::min(text.size(), text.find(u' ')) == text.size()
-                                   ? text.size()
-                                   : text.find(u' ') + 1);
+        for (int skipped = 0; skipped < number.index; ++skipped) {
+            const std::size_t blank = text.find(u' ');
+            text = blank == text.npos ? std::u16string_view() : text.substr(blank + 1);
+        }
         return NumberCell(text.substr(0, text.find(u' ')));
     }
     Cell operator()(Words words) const { return AsUtf8(TrimBlanks(store.*words.slot)); }

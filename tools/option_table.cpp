@@ -28,7 +28,7 @@ constexpr std::array table{
         Batch, ManyPeople, "batch", 0, "FILE", ValueKind::File, goesWith::batch, false,
         "Read many people, one per line: JSON Lines, or CSV with a header row, compressed with "
         "gzip or not. - is standard input. More files may follow. Prints one JSON object per "
-        "line."},
+        "person, if no option says otherwise."},
     OptionRow{Delimiter, ManyPeople, "delimiter", 0, "CHAR", ValueKind::Text, goesWith::batch,
               false,
               "Read CSV with this separator: one character, or the word tab. Default: a comma or a "
@@ -41,10 +41,10 @@ constexpr std::array table{
               false, "Stop at the Nth wrong line. Default: read on to the end."},
     OptionRow{Jobs, ManyPeople, "jobs", 0, "N", ValueKind::Number, goesWith::batch, false,
               "Use N processes, 1 to 256. The output is the same. Default: 1."},
-    OptionRow{OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch,
-              false,
-              "Write one file per person into this directory, in any format but json, named by "
-              "line number."},
+    OptionRow{
+        OutputDir, ManyPeople, "output-dir", 0, "DIR", ValueKind::Folder, goesWith::batch, false,
+        "Write one file per person into this directory, named by line number: text (default), "
+        "rtf, html, pdf or markdown."},
     OptionRow{NameTemplate, ManyPeople, "name-template", 0, "TEMPLATE", ValueKind::Text,
               goesWith::batch, false,
               "The names of these files, made of {first}, {middle}, {last} and {line}; {line} "
@@ -71,8 +71,8 @@ constexpr std::array table{
 
     OptionRow{OptionId::Format, WhatToWrite, "format", 'f', "FORMAT", ValueKind::Format,
               goesWith::everything, false,
-              "text (default), json (default of a batch), rtf, html, pdf or markdown; with "
-              "--numbers json, csv or tsv."},
+              "text (default), json (default of a batch without --output-dir), rtf, html, pdf or "
+              "markdown; with --numbers json, csv or tsv."},
     OptionRow{Head, WhatToWrite, "head", 0, "", ValueKind::None, goesWith::reading, false,
               "Write name, date of birth and date of the reading above the first topic, in text "
               "and rtf. A batch has this by default."},

@@ -2,7 +2,8 @@
 
 // The options of orravane-report, the only list of them: the parser, --help, the completions of
 // the shells and the check of the man page are made from it. A new option is a row here, a
-// member of Options that ParseOptions fills, and a paragraph of the man page.
+// member of Options that ParseOptions fills, and a paragraph of the man page. Where the values of
+// an option are names, these stand in a table beside their enumeration, such as formatNames.
 
 #include <span>
 #include <string_view>

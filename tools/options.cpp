@@ -130,14 +130,16 @@ std::chrono::year_month_day DateFrom(const QString &text) {
                                        std::chrono::day(static_cast<unsigned>(date.day())));
 }
 
-/// The value of an option that is a whole number from 1 to 10^15, beyond all lines there are.
-long long CountFrom(OptionId id, const QString &text) {
+constexpr long long mostLines = 1'000'000'000'000'000; // beyond all lines there are
+
+/// The value of an option that is a whole number from 1 to `most`.
+long long CountFrom(OptionId id, const QString &text, long long most) {
     const bool digits = std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
     bool fits = false;
     const long long count = text.toLongLong(&fits);
-    if (!digits || !fits || count < 1 || count > 1'000'000'000'000'000)
-        throw Refusal(u"%1: \"%2\" is not allowed; give a whole number from 1 on."_s.arg(
-            Dashed(id), Excerpt(text)));
+    if (!digits || !fits || count < 1 || count > most)
+        throw Refusal(u"%1: \"%2\" is not allowed; give a whole number from 1 to %3."_s.arg(
+            Dashed(id), Excerpt(text), QString::number(most)));
     return count;
 }
 
@@ -154,24 +156,43 @@ char DelimiterFrom(const QString &text) {
     return static_cast<char>(unit);
 }
 
-std::optional<Format> FormatFrom(const QString &text) {
-    if (text == "text"_L1)
-        return Format::Text;
-    if (text == "json"_L1)
-        return Format::Json;
-    if (text == "rtf"_L1)
-        return Format::Rtf;
-    if (text == "html"_L1)
-        return Format::Html;
-    if (text == "pdf"_L1)
-        return Format::Pdf;
-    if (text == "markdown"_L1)
-        return Format::Markdown;
-    if (text == "csv"_L1)
-        return Format::Csv;
-    if (text == "tsv"_L1)
-        return Format::Tsv;
-    return std::nullopt;
+bool GoesWithNumbers(Format format) { return format == Format::Json || IsTable(format); }
+
+/// The names in `table` of the values that `wanted` picks out, as a message lists them: "a, b or
+/// c".
+template <typename Value, std::size_t size, typename Wanted>
+QString Listed(const NameTable<Value, size> &table, Wanted wanted) {
+    QStringList names;
+    for (const auto &[name, value] : table)
+        if (wanted(value))
+            names << Text(name);
+    const QString last = names.takeLast();
+    return names.join(u", "_s) + u" or "_s + last;
+}
+
+/// The value of an option that has one of the names of `table`. Throws Refusal for any other, which
+/// says what is `allowed`.
+template <typename Value, std::size_t size>
+Value Chosen(const CommandLine &line, OptionId id, const NameTable<Value, size> &table,
+             const QString &allowed) {
+    const QString text = line.Value(id);
+    if (const auto value = ValueNamed(table, text.toStdString()))
+        return *value;
+    throw Refusal(u"%1: \"%2\" is not allowed; give %3."_s.arg(Dashed(id), Excerpt(text), allowed));
+}
+
+template <typename Value, std::size_t size>
+Value Chosen(const CommandLine &line, OptionId id, const NameTable<Value, size> &table) {
+    return Chosen(line, id, table, Listed(table, [](Value) { return true; }));
+}
+
+/// What is given as the name of a file or directory; empty where the option is not there. Throws
+/// Refusal for an empty one, and says then what `allowed` is.
+QString PathFrom(const CommandLine &line, OptionId id, const QString &allowed) {
+    QString path = line.Value(id);
+    if (line.Given(id) && path.isEmpty())
+        throw Refusal(u"%1 is empty; give %2."_s.arg(Dashed(id), allowed));
+    return path;
 }
 
 } // namespace
@@ -202,28 +223,28 @@ Options ParseOptions(const QStringList &arguments) {
     const CommandLine line(arguments);
 
     Options options;
-    for (const auto &[id, task] : {std::pair(Help, Options::Task::Help),
-                                   {Version, Options::Task::Version},
-                                   {ListTopics, Options::Task::ListTopics}})
+    for (const auto &[id, task] :
+         {std::pair(Help, Options::Task::Help), {Version, Options::Task::Version}})
         if (line.Given(id)) {
             options.task = task;
             return options;
         }
 
+    line.RefuseDoubled();
+    options.output = PathFrom(line, Output, u"the name of a file, or - for standard output"_s);
+    if (line.Given(ListTopics)) {
+        options.task = Options::Task::ListTopics;
+        return options;
+    }
     if (line.Given(Completion)) {
-        const auto shell = ShellFrom(line.Value(Completion).toStdString());
-        if (!shell)
-            throw Refusal(u"--completion: \"%1\" is not allowed; give bash, zsh or fish."_s.arg(
-                Excerpt(line.Value(Completion))));
         options.task = Options::Task::Completion;
-        options.shell = *shell;
+        options.shell = Chosen(line, Completion, shellNames);
         return options;
     }
 
     if (!line.Words().isEmpty() && !line.Given(Batch))
         throw Refusal(u"\"%1\" is not an option; see --help for what is allowed."_s.arg(
             Excerpt(line.Words().constFirst())));
-    line.RefuseDoubled();
 
     if (line.Given(Book)) {
         options.task = Options::Task::Book;
@@ -236,13 +257,10 @@ Options ParseOptions(const QStringList &arguments) {
     }
 
     if (line.Given(OptionId::Format)) {
-        const auto format = FormatFrom(line.Value(OptionId::Format));
-        if (!format)
-            throw Refusal(
-                u"--format: \"%1\" is not allowed; give text, json, rtf, html, pdf or markdown, "
-                u"and "
-                "with --numbers json, csv or tsv."_s.arg(Excerpt(line.Value(OptionId::Format))));
-        options.format = *format;
+        options.format =
+            Chosen(line, OptionId::Format, formatNames,
+                   Listed(formatNames, [](::Format format) { return !IsTable(format); }) +
+                       u", and with --numbers "_s + Listed(formatNames, GoesWithNumbers));
     } else if (line.Given(Numbers) ||
                (options.task == Options::Task::Batch && !line.Given(OutputDir))) {
         options.format = ::Format::Json;
@@ -250,15 +268,14 @@ Options ParseOptions(const QStringList &arguments) {
     options.numbers = line.Given(Numbers);
     options.explain = line.Given(Explain);
     options.normalize = line.Given(Normalize);
-    const bool isRow = options.format == ::Format::Csv || options.format == ::Format::Tsv;
     const bool isPage = options.format == ::Format::Text || options.format == ::Format::Rtf;
-    if (isRow && !options.numbers)
+    if (IsTable(options.format) && !options.numbers)
         throw Refusal(
             u"--format: \"%1\" goes with --numbers only."_s.arg(line.Value(OptionId::Format)));
     const bool isDocument = IsDocument(options.format);
-    if ((isPage || isDocument) && options.numbers)
-        throw Refusal(u"--format: \"%1\" does not go with --numbers; give json, csv or tsv."_s.arg(
-            line.Value(OptionId::Format)));
+    if (options.numbers && !GoesWithNumbers(options.format))
+        throw Refusal(u"--format: \"%1\" does not go with --numbers; give %2."_s.arg(
+            line.Value(OptionId::Format), Listed(formatNames, GoesWithNumbers)));
     if (options.explain && (options.format == ::Format::Rtf || isDocument))
         throw Refusal(u"--format: \"%1\" does not go with --explain; give text or json."_s.arg(
             line.Value(OptionId::Format)));
@@ -280,36 +297,31 @@ Options ParseOptions(const QStringList &arguments) {
         if (line.Given(id) && !isPage)
             throw Refusal(u"%1 goes with the formats text and rtf only."_s.arg(Dashed(id)));
     if (line.Given(OptionId::Paper)) {
-        const QString paper = line.Value(OptionId::Paper);
         if (options.format != ::Format::Pdf)
             throw Refusal(u"--paper goes with the format pdf only."_s);
-        if (paper != "a4"_L1 && paper != "letter"_L1)
-            throw Refusal(
-                u"--paper: \"%1\" is not allowed; give a4 or letter."_s.arg(Excerpt(paper)));
-        options.paper = paper == "a4"_L1 ? ::Paper::A4 : ::Paper::Letter;
+        options.paper = Chosen(line, OptionId::Paper, paperNames);
     }
     if (line.Given(Head) && line.Given(NoHead))
         throw Refusal(u"--head does not go with --no-head; leave one of them out."_s);
     options.head =
         isPage && !line.Given(NoHead) && (line.Given(Head) || options.task == Options::Task::Batch);
 
-    for (const OptionId id : {Batch, Output, OutputDir})
-        if (line.Given(id) && line.Value(id).isEmpty())
-            throw Refusal(u"%1 is empty; give the name of a %2."_s.arg(
-                Dashed(id), id == OutputDir ? u"folder"_s : u"file, or - for the standard one"_s));
+    const QString batchFile =
+        PathFrom(line, Batch, u"the name of a file, or - for standard input"_s);
     if (line.Given(Batch))
-        options.batchFiles = QStringList(line.Value(Batch)) + line.Words();
+        options.batchFiles = QStringList(batchFile) + line.Words();
     if (options.batchFiles.contains(QString()))
         throw Refusal(u"--batch: one of the files has an empty name."_s);
     if (options.batchFiles.count(u"-"_s) > 1)
         throw Refusal(u"--batch: - is standard input and can be read only once."_s);
-    options.output = line.Value(Output);
-    options.outputDir = line.Value(OutputDir);
+    options.outputDir = PathFrom(line, OutputDir, u"the name of a directory"_s);
     if (options.task == Options::Task::Batch) {
         const bool files = line.Given(OutputDir);
         if (files && options.format == ::Format::Json)
-            throw Refusal(
-                u"--format: \"json\" does not go with --output-dir; give text, rtf, html, pdf or markdown."_s);
+            throw Refusal(u"--format: \"json\" does not go with --output-dir; give %1."_s.arg(
+                Listed(formatNames, [](::Format format) {
+                    return format != ::Format::Json && !IsTable(format);
+                })));
         if (!files && isDocument)
             throw Refusal(u"--format: \"%1\" makes one file a person; give --output-dir."_s.arg(
                 line.Value(OptionId::Format)));
@@ -326,19 +338,13 @@ Options ParseOptions(const QStringList &arguments) {
     else if (line.Given(Summary))
         options.verbosity = Progress::Verbosity::Summary;
     if (line.Given(FirstLine))
-        options.firstLine = CountFrom(FirstLine, line.Value(FirstLine));
+        options.firstLine = CountFrom(FirstLine, line.Value(FirstLine), mostLines);
     if (line.Given(MaxErrors))
-        options.maxErrors = CountFrom(MaxErrors, line.Value(MaxErrors));
+        options.maxErrors = CountFrom(MaxErrors, line.Value(MaxErrors), mostLines);
     if (line.Given(Delimiter))
         options.delimiter = DelimiterFrom(line.Value(Delimiter));
-    if (line.Given(Jobs)) {
-        const long long jobs = CountFrom(Jobs, line.Value(Jobs));
-        if (jobs > mostJobs)
-            throw Refusal(
-                u"--jobs: %1 is not allowed; give a whole number from 1 to %2."_s.arg(jobs).arg(
-                    mostJobs));
-        options.jobs = static_cast<int>(jobs);
-    }
+    if (line.Given(Jobs))
+        options.jobs = static_cast<int>(CountFrom(Jobs, line.Value(Jobs), mostJobs));
     if (line.Given(NameTemplate))
         options.fileNames = FileNames(line.Value(NameTemplate));
     options.noClobber = line.Given(NoClobber);

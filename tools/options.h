@@ -6,6 +6,7 @@
 #include "tools/completion.h"
 #include "tools/file_names.h"
 #include "tools/formats.h"
+#include "tools/names.h"
 #include "tools/people.h"
 #include "tools/progress.h"
 
@@ -15,6 +16,9 @@
 #include <optional>
 #include <string_view>
 #include <vector>
+
+inline constexpr auto paperNames =
+    std::to_array<Named<Paper>>({{"a4", Paper::A4}, {"letter", Paper::Letter}});
 
 struct Options {
     enum class Task { Person, Book, Batch, ListTopics, Completion, Help, Version };

@@ -42,8 +42,9 @@ public:
 
     /// A file is written under another name beside its place and takes that place in
     /// Finish, so that a file that stands there is whole all the time. When the program ends
-    /// before, the unfinished file goes with it: on Unix at SIGINT, SIGTERM and SIGHUP, on
-    /// Windows however it ends.
+    /// before, the unfinished file goes with it: on Unix when a signal asks the program to end,
+    /// nobody reads its output or its time is up; on Windows however it ends, but for the moment in
+    /// which Finish gives the file its name.
     explicit Output(const QString &path, Kind kind = Kind::Named);
 
     /// Gives up what Finish has not put in place.
@@ -54,6 +55,9 @@ public:
 
     /// Puts the file in its place. Without this call no file appears.
     void Finish();
+
+    /// Whether people look at what is written, in a terminal.
+    bool IsTerminal() const;
 
     /// What is written to, as the C library numbers it.
     int Descriptor() const { return descriptor_; }

@@ -22,6 +22,10 @@ namespace {
 /// anything more complicated. Empty while there is none.
 std::array<char, 4096> unfinished{};
 
+/// The signals that end the program from outside. Not those of a fault of its own, after which
+/// nothing can be relied on.
+constexpr std::array endingSignals{SIGHUP, SIGINT, SIGQUIT, SIGPIPE, SIGTERM, SIGXCPU};
+
 extern "C" void RemoveUnfinishedAndEnd(int signal) {
     if (unfinished.front() != '\0')
         unlink(unfinished.data());
@@ -34,7 +38,7 @@ public:
     SignalsWait() {
         sigset_t ending;
         sigemptyset(&ending);
-        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        for (const int signal : endingSignals)
             sigaddset(&ending, signal);
         sigprocmask(SIG_BLOCK, &ending, &before_);
     }
@@ -46,10 +50,11 @@ private:
     sigset_t before_{};
 };
 
-/// From now on, a signal that ends the program removes `path` first.
+/// From now on, a signal that ends the program removes `path` first. To be called while the
+/// signals wait.
 void RemoveOnSignal(const std::string &path) {
     [[maybe_unused]] static const bool installed = [] {
-        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        for (const int signal : endingSignals) {
             struct sigaction action {};
             if (sigaction(signal, nullptr, &action) != 0 || action.sa_handler == SIG_IGN)
                 continue; // nohup and the like: it stays ignored
@@ -60,9 +65,7 @@ void RemoveOnSignal(const std::string &path) {
         }
         return true;
     }();
-    // The first character last: until it stands there the handler sees no path.
-    std::memcpy(unfinished.data() + 1, path.data() + 1, path.size());
-    unfinished.front() = path.front();
+    std::memcpy(unfinished.data(), path.c_str(), path.size() + 1);
 }
 
 /// The number in a name such as "/dev/fd/3" that stands for an open descriptor.
@@ -178,6 +181,8 @@ void Output::OpenBeside(Name place) {
     if (fchmod(descriptor_, mode) != 0)
         Fail(errno);
 }
+
+bool Output::IsTerminal() const { return isatty(descriptor_) == 1; }
 
 void Output::Write(std::string_view bytes) {
     while (!bytes.empty()) {

@@ -115,6 +115,11 @@ void Output::OpenBeside(Name place) {
         Fail(ErrorNow());
 }
 
+bool Output::IsTerminal() const {
+    DWORD mode = 0; // _isatty says yes to NUL as well
+    return GetConsoleMode(HandleOf(descriptor_), &mode) != 0;
+}
+
 void Output::Write(std::string_view bytes) {
     constexpr std::size_t most = std::numeric_limits<int>::max();
     while (!bytes.empty()) {

@@ -49,20 +49,20 @@ QString MonthName(const QString &text) {
 }
 
 /// `input` with its date in month, day and year, if it has one in one piece.
-PersonInput WithDateInParts(PersonInput input, const QString &name) {
+PersonInput WithDateInParts(PersonInput input, const InputNames &names) {
     if (input.date.isEmpty())
         return input;
     for (const QString &part : {input.month, input.day, input.year})
         if (!part.isEmpty())
-            throw Refusal(
-                u"%1 does not go with month, day and year; leave one of them out"_s.arg(name));
+            throw Refusal(u"%1 does not go with %2, %3 and %4; leave one of them out"_s.arg(
+                names.date, names.month, names.day, names.year));
     static const QRegularExpression form(u"\\A([0-9]{4})-([0-9]{2})-([0-9]{2})\\z"_s);
     const QRegularExpressionMatch match = form.match(input.date);
     if (!match.hasMatch() || !Number(match.captured(1), 1900, 2050) ||
         !Number(match.captured(2), 1, 12) || !Number(match.captured(3), 1, 31))
         throw Refusal(
             u"%1: \"%2\" is not allowed; give YYYY-MM-DD with a year from 1900 to 2050, "
-            "a month from 01 to 12 and a day from 01 to 31"_s.arg(name, Excerpt(input.date)));
+            "a month from 01 to 12 and a day from 01 to 31"_s.arg(names.date, Excerpt(input.date)));
     input.year = match.captured(1);
     input.month = match.captured(2);
     input.day = match.captured(3);
@@ -158,7 +158,7 @@ UserProfile CheckPerson(const PersonInput &given, const InputNames &names) {
         throw refusal(names.first, {}, u"give the first name"_s);
     if (given.last.isEmpty())
         throw refusal(names.last, {}, u"give the last name"_s);
-    const PersonInput input = WithDateInParts(given, names.date);
+    const PersonInput input = WithDateInParts(given, names);
     const QString month = MonthName(input.month);
     if (month.isEmpty())
         throw refusal(names.month, input.month,

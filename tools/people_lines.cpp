@@ -304,38 +304,39 @@ bool PeopleLines::Begin(const std::string &line) {
     if (BeginsObject(line) && !given_)
         return false;
     separator_ = given_ ? *given_ : ColumnsNamed(line, '\t') > ColumnsNamed(line, ',') ? '\t' : ',';
+    const std::ptrdiff_t named = ColumnsNamed(line, separator_);
     for (const char other : {';', '|', ':', ' '})
-        if (ColumnsNamed(line, other) > std::max<std::ptrdiff_t>(1, ColumnsNamed(line, separator_)))
+        if (ColumnsNamed(line, other) > std::max<std::ptrdiff_t>(1, named))
             throw Refusal(
                 given_ ? u"the columns of the header are separated by \"%1\" and not as "
                          "--delimiter says"_s.arg(QLatin1Char(other))
                        : u"the columns of the header are separated by \"%1\"; give commas or tabs, "
                          "or --delimiter \"%1\""_s.arg(QLatin1Char(other)));
-    if (given_ && ColumnsNamed(line, separator_) == 0)
+    if (given_ && named == 0)
         throw Refusal(u"the line is no CSV header with the separator of --delimiter; "_s +
                       neededColumns);
-    if (ColumnsNamed(line, separator_) == 0)
+    if (named == 0)
         return false;
 
     const CsvRow header(line, separator_);
     if (!header.error.isEmpty())
         throw Refusal(u"the header is not CSV: "_s + header.error);
+    const auto has = [&](QString PersonInput::*input) {
+        return std::ranges::find(columns_, input, &Column::input) != columns_.end();
+    };
+    std::unordered_set<std::string> further; // a set, since a line has room for 300,000 columns
     for (const std::string &field : header.fields) {
         std::string name(WithoutBlanks(field));
         QString PersonInput::*const input = InputNamed(LowerCase(name));
-        const bool twice = std::ranges::any_of(columns_, [&](const Column &column) {
-            return input != nullptr ? column.input == input : column.name == name;
-        });
-        if (twice && !name.empty())
+        const bool twice =
+            input != nullptr ? has(input) : !name.empty() && !further.insert(name).second;
+        if (twice)
             throw Refusal(
                 u"the header has the column \"%1\" twice; give it once"_s.arg(Quoted(name)));
         if (!FromUtf8(name))
             throw Refusal(u"the header is not UTF-8"_s);
         columns_.push_back({std::move(name), input});
     }
-    const auto has = [&](QString PersonInput::*input) {
-        return std::ranges::find(columns_, input, &Column::input) != columns_.end();
-    };
     for (const Member &member : members) {
         const bool optional = member.input == &PersonInput::middle ||
                               member.input == &PersonInput::date ||

@@ -15,9 +15,10 @@ enum class ExitCode {
     CannotReadOrWrite = 3 ///< the input or the output failed
 };
 
-/// Thrown with one line that says what is wrong and what is allowed. Within a batch it is
-/// caught for each line of the input, where it refuses that one person; anywhere else in
-/// main, where it ends the program.
+/// Thrown with one line that says what is wrong and what is allowed. For a line of a batch it
+/// refuses that one person, and the others go on. Any other ends the program in the end: main
+/// tells it, also where it was held back until the work before it was done, or handed on from
+/// another process.
 class Refusal : public std::exception {
 public:
     explicit Refusal(QString line, ExitCode code = ExitCode::WrongUse)

@@ -14,7 +14,8 @@
 ///
 /// Unix: if the program was started with one of them closed, the next file that it opens would
 /// take the number of that stream, and what is meant for the stream would go into the file. So
-/// each closed stream is occupied in such a way that using it fails, as it should.
+/// each closed stream is occupied in such a way that using it fails, as it should. Writing beyond
+/// the limit on the size of files fails too, and does not end the program.
 ///
 /// Windows: the streams carry bytes as they are, without carriage returns put in or taken out,
 /// and a console shows UTF-8. What the console was set to before comes back in the end.
@@ -32,7 +33,7 @@ public:
 bool ArgumentsAreBytes();
 
 /// Whether people look at the stream `descriptor` (1 or 2) in a terminal that obeys escape
-/// sequences.
+/// sequences. On Unix that is one whose kind is known by TERM and is not "dumb".
 bool IsTerminal(int descriptor);
 
 /// How wide the terminal behind standard error is at this moment; 80 where nobody can tell.

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <csignal>
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
@@ -14,13 +15,18 @@ StandardStreams::StandardStreams() {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (fcntl(stream, F_GETFD) < 0 && errno == EBADF)
             open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    // Where files may not grow further (ulimit -f), writing fails and the reason can be told.
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 StandardStreams::~StandardStreams() = default;
 
 bool ArgumentsAreBytes() { return true; }
 
-bool IsTerminal(int descriptor) { return isatty(descriptor) == 1; }
+bool IsTerminal(int descriptor) {
+    const QByteArray kind = qgetenv("TERM");
+    return isatty(descriptor) == 1 && !kind.isEmpty() && kind != "dumb";
+}
 
 int TerminalColumns() {
     winsize size{};
@@ -40,8 +46,14 @@ void WriteToStandardError(std::string_view bytes) {
 std::optional<InputFile::Opened> InputFile::Open(const QString &name) {
     const int descriptor = open(QFile::encodeName(name).constData(), O_RDONLY | O_CLOEXEC);
     struct stat status {};
-    if (descriptor < 0 || fstat(descriptor, &status) != 0)
+    if (descriptor < 0)
         return std::nullopt;
+    if (fstat(descriptor, &status) != 0) {
+        const int error = errno;
+        close(descriptor);
+        errno = error;
+        return std::nullopt;
+    }
     return Opened{descriptor, S_ISDIR(status.st_mode),
                   S_ISREG(status.st_mode) ? status.st_size : 0};
 }

@@ -18,8 +18,8 @@ struct WorkerMessage {
     std::uint64_t second = 0;
 };
 
-/// Memory that this process shares with the workers it makes for it. Pages that nobody touches
-/// take no space.
+/// Memory that this process shares with the workers it makes for it, zeros at first. On Unix, pages
+/// that nobody touches take no space; Windows sets all of it aside at once.
 class SharedMemory {
 public:
     /// Throws Refusal with ExitCode::CannotReadOrWrite when there is none.
@@ -43,6 +43,7 @@ public:
     /// `end` is what the system names it by.
     explicit ParentChannel(std::intptr_t end) : end_(end) {}
 
+    /// Ends the worker when the parent is gone.
     void Send(const WorkerMessage &message) const;
 
     /// The next message. Ends the worker when the parent is gone.

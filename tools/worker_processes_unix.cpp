@@ -151,8 +151,10 @@ void WorkerProcesses::Made::Start(char *memory, const Work &work) {
 void WorkerProcesses::Made::EndAll() {
     for (const Worker &worker : workers_) {
         close(worker.descriptor);
-        if (worker.process > 0)
+        if (worker.process > 0) {
             kill(worker.process, SIGTERM);
+            kill(worker.process, SIGCONT); // one that is stopped would end only then
+        }
     }
     for (const Worker &worker : workers_)
         while (worker.process > 0 && waitpid(worker.process, nullptr, 0) < 0 && errno == EINTR) {

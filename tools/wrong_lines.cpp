@@ -10,11 +10,16 @@ void WrongLines::Report(long long number, std::size_t file, long long numberInFi
                         const std::string &message) {
     ++count_;
     last_ = number;
-    Remark(number, file, numberInFile, message);
+    Tell(number, file, numberInFile, message);
 }
 
 void WrongLines::Remark(long long number, std::size_t file, long long numberInFile,
                         const std::string &message) {
+    Tell(number, file, numberInFile, message);
+}
+
+void WrongLines::Tell(long long number, std::size_t file, long long numberInFile,
+                      const std::string &message) {
     progress_.Clear();
     QString place = u"line %1"_s.arg(number);
     if (options_.batchFiles.size() > 1)

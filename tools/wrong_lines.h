@@ -18,7 +18,7 @@ public:
     void Report(long long number, std::size_t file, long long numberInFile,
                 const std::string &message);
 
-    /// Tells the same of a line that is not wrong.
+    /// Tells on standard error what is to be said of a person who was read, in the same way.
     void Remark(long long number, std::size_t file, long long numberInFile,
                 const std::string &message);
 
@@ -31,6 +31,9 @@ public:
     long long Count() const { return count_; }
 
 private:
+    void Tell(long long number, std::size_t file, long long numberInFile,
+              const std::string &message);
+
     const Options &options_;
     Progress &progress_;
     long long count_ = 0;

@@ -80,6 +80,9 @@ typed bash "orravane-report --topic 'soul" "--topic Soul Urge / Heart's Desire N
 typed bash 'orravane-report --topic soul' "--topic Soul Urge / Heart's Desire Number"
 typed bash 'orravane-report --topic Life\ Path\ N' '--topic Life Path Number'
 typed bash 'orravane-report --batch peo' '--batch people.csv'
+typed bash 'orravane-report --batch a.csv --jobs 2 peo' '--batch a.csv --jobs 2 people.csv'
+typed bash 'orravane-report --batch a.csv --first-l' '--batch a.csv --first-line'
+typed bash 'orravane-report peo' 'peo'
 typed bash 'orravane-report --output-dir r' '--output-dir readings/'
 
 fish_offers() {
@@ -90,6 +93,8 @@ offers fish 'orravane-report --out' '--output --output-dir'
 offers fish 'orravane-report --format ' 'csv html json markdown pdf rtf text tsv'
 offers fish 'orravane-report --completion ' 'bash fish zsh'
 offers fish 'orravane-report --batch peo' 'people.csv'
+offers fish 'orravane-report --batch a.csv --jobs 2 peo' 'people.csv'
+offers fish 'orravane-report peo' ''
 offers fish 'orravane-report --output-dir r' 'readings/'
 offers fish 'orravane-report --topic Life' 'Life Path Number Life Path Periods'
 
@@ -119,5 +124,8 @@ typed zsh 'orravane-report --month Sep' '--month September'
 typed zsh 'orravane-report --topic life\ path\ n' '--topic Life Path Number'
 typed zsh 'orravane-report --topic soul' "--topic Soul Urge / Heart's Desire Number"
 typed zsh 'orravane-report --batch peo' '--batch people.csv'
+typed zsh 'orravane-report --batch a.csv --jobs 2 peo' '--batch a.csv --jobs 2 people.csv'
+typed zsh 'orravane-report --batch=a.csv peo' '--batch=a.csv people.csv'
+typed zsh 'orravane-report peo' 'peo'
 typed zsh 'orravane-report --output-dir r' '--output-dir readings' # drops a last slash
 exit $failed

@@ -100,6 +100,17 @@ TEST_F(BatchProcesses, TellThatOneHasDied) {
     }
 }
 
+// Also where another one is stopped, which no signal but SIGKILL ends as it is.
+TEST_F(BatchProcesses, EndWhereOneIsStopped) {
+    Program program(Waiting({"--numbers"}));
+    const std::vector<pid_t> children = TwoChildren(program);
+    ASSERT_EQ(kill(children.front(), SIGSTOP), 0);
+    ASSERT_EQ(kill(children.back(), SIGKILL), 0);
+    ExpectFailed(program.Finish(People(1000)),
+                 {"--jobs: one of the processes has died (signal 9)"});
+    EXPECT_TRUE(Becomes([&] { return IsGone(children.front()); }));
+}
+
 // Who reads no more ends them all, without a word.
 TEST_F(BatchProcesses, EndWithTheirReader) {
     Make("people", People(20'000));

@@ -414,7 +414,8 @@ TEST_F(Batch, MakesTheFolderWithThoseAboveIt) {
 TEST_F(Batch, IsRefusedWhereTheFolderCannotBeMade) {
     Make("people.d", "before");
     ExpectLine(RefusalOf([&] { Run(annLine, ToAFolder()); }, ExitCode::CannotReadOrWrite),
-               {"--output-dir: the folder \"" + Shown(Path("people.d")) + "\" cannot be made"});
+               {"--output-dir: the directory \"" + Shown(Path("people.d")) +
+                "\" cannot be made (Not a directory)"});
     EXPECT_EQ(Read(Path("people.d")), "before");
 }
 

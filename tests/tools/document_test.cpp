@@ -45,6 +45,27 @@ TEST_F(DocumentTest, APdfIsNothingForATerminal) {
     terminal.outputFile = "/dev/ptmx"; // a terminal of its own
     const Finished run = RunProgram(ann + Arguments{"-f", "pdf"}, {}, terminal);
     ExpectRefused(run, {"--format: \"pdf\"", "--output FILE"});
+    ExpectRefused(RunProgram(ann + Arguments{"-f", "pdf", "-o", "/dev/stdout"}, {}, terminal),
+                  {"--format: \"pdf\"", "--output FILE"});
+    ExpectRefused(RunProgram(ann + Arguments{"-f", "pdf", "-o", "/dev/ptmx"}),
+                  {"--format: \"pdf\"", "--output FILE"});
+}
+
+TEST_F(DocumentTest, OfOnePersonHasTheNameComposedWhereThatIsAskedFor) {
+    const std::string people =
+        Make("people.csv", "first,last,birthdate\nE\u0301va,Lee,1990-03-07\n");
+    for (const char *format : {"html", "markdown"}) {
+        const Arguments day{"--normalize", "--format", format, "--today", "2026-11-16"};
+        const Finished run = RunProgram(
+            Arguments{"--first", "E\u0301va", "--last", "Lee", "--date", "1990-03-07"} + day);
+        ExpectGood(run);
+        EXPECT_NE(run.out.find("\u00C9va Lee"), std::string::npos) << run.out.substr(0, 500);
+        const Arguments folder{"--batch", people, "--output-dir", Path(format)};
+        ExpectGood(RunProgram(folder + day));
+        const FileMap files = Files(Path(format));
+        ASSERT_EQ(files.size(), 1U);
+        EXPECT_EQ(files.begin()->second, run.out);
+    }
 }
 
 TEST_F(DocumentTest, AMissingEngineIsNamedAndNothingIsWritten) {

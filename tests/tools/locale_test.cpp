@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <clocale>
 #include <cstdlib>
+#include <cstring>
 #include <cwctype>
 
 #include <langinfo.h>
@@ -19,9 +21,11 @@ protected:
     using Environment = std::map<std::string, std::optional<std::string>>;
 
     static Environment Under(const std::optional<std::string> &all,
-                             const std::optional<std::string> &lang) {
-        return {{"LC_ALL", all},     {"LANG", lang},   {"LC_CTYPE", {}},    {"LC_NUMERIC", {}},
-                {"LC_MESSAGES", {}}, {"LANGUAGE", {}}, {"LOCPATH", LOCALES}};
+                             const std::optional<std::string> &lang,
+                             const std::optional<std::string> &language = {}) {
+        return {{"LC_ALL", all},     {"LANG", lang},      {"LC_CTYPE", {}},
+                {"LC_NUMERIC", {}},  {"LC_MESSAGES", {}}, {"LANGUAGE", language},
+                {"LOCPATH", LOCALES}};
     }
 
     /// Runs under each locale, and expects the same of all of them.
@@ -30,11 +34,12 @@ protected:
         surroundings.environment = Under("C.UTF-8", {});
         const Finished first = RunProgram(arguments, input, surroundings);
         for (const Environment &environment :
-             {Under("C", {}), Under({}, {}), Under("de_DE.UTF-8", "C"), Under({}, "de_DE.UTF-8"),
-              Under("tr_TR.UTF-8", {}), Under("xx_XX.UTF-8", {})}) {
+             {Under("C", {}), Under({}, {}), Under("de_DE.UTF-8", "C", "de"),
+              Under({}, "de_DE.UTF-8"), Under("tr_TR.UTF-8", {}), Under("xx_XX.UTF-8", {})}) {
             surroundings.environment = environment;
             SCOPED_TRACE("LC_ALL=" + environment.at("LC_ALL").value_or("(none)") +
-                         " LANG=" + environment.at("LANG").value_or("(none)"));
+                         " LANG=" + environment.at("LANG").value_or("(none)") +
+                         " LANGUAGE=" + environment.at("LANGUAGE").value_or("(none)"));
             const Finished run = RunProgram(arguments, input, surroundings);
             EXPECT_EQ(run.exitCode, first.exitCode);
             EXPECT_EQ(run.out, first.out);
@@ -52,8 +57,13 @@ TEST_F(Locales, AreReal) {
     EXPECT_STREQ(nl_langinfo(MON_3), "März");
     const bool turkish = std::setlocale(LC_ALL, "tr_TR.UTF-8") != nullptr;
     EXPECT_EQ(std::towupper(L'i'), static_cast<std::wint_t>(L'İ'));
-    std::setlocale(LC_ALL, "C");
     unsetenv("LOCPATH");
+    // The language of the system's messages comes before the locale.
+    setenv("LANGUAGE", "de", 1);
+    std::setlocale(LC_ALL, "C.UTF-8");
+    EXPECT_STREQ(std::strerror(ENOENT), "Datei oder Verzeichnis nicht gefunden");
+    unsetenv("LANGUAGE");
+    std::setlocale(LC_ALL, "C");
     EXPECT_TRUE(german);
     EXPECT_TRUE(turkish);
 }

@@ -85,21 +85,33 @@ TEST(Completion, HasEveryOptionForEveryShell) {
     }
 }
 
-// A value that a shell offers is one that the program takes.
-TEST(Completion, OffersTheFormatsAndShellsThereAre) {
+/// Whether `text` has each of the names as a word.
+template <typename Table> void ExpectNamesOf(const Table &table, std::string_view text) {
+    for (const auto &[name, value] : table)
+        EXPECT_TRUE(
+            std::regex_search(std::string(text), std::regex("\\b" + std::string(name) + "\\b")))
+            << name << " in: " << text;
+}
+
+// A value that a shell offers is one that the program takes, and that --help names.
+TEST(Completion, OffersTheFormatsShellsAndPapersThereAre) {
     const std::string script = CompletionFor(Shell::Fish);
     for (const char *format : {"text", "json", "rtf", "html", "pdf", "markdown"})
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--format", format}));
     for (const char *format : {"csv", "tsv"})
         EXPECT_NO_THROW(ParseOptions({"orravane-report", "--numbers", "--format", format}));
-    EXPECT_NE(script.find("-l format -s f -x -a 'text json rtf html pdf markdown csv tsv'"),
-              std::string::npos)
-        << script;
+    for (const char *paper : {"a4", "letter"})
+        EXPECT_NO_THROW(ParseOptions({"orravane-report", "--format=pdf", "--paper", paper}));
     for (const char *shell : {"bash", "zsh", "fish"})
-        EXPECT_TRUE(ShellFrom(shell)) << shell;
-    EXPECT_FALSE(ShellFrom("Bash"));
-    EXPECT_NE(script.find("-l completion -x -a 'bash zsh fish'"), std::string::npos) << script;
-    EXPECT_THROW(ParseOptions({"orravane-report", "--completion", "csh"}), Refusal);
+        EXPECT_NO_THROW(ParseOptions({"orravane-report", "--completion", shell}));
+    for (const char *shell : {"csh", "Bash", ""})
+        EXPECT_THROW(ParseOptions({"orravane-report", "--completion", shell}), Refusal);
+    for (const char *offer : {"-l format -s f -x -a 'text json rtf html pdf markdown csv tsv'",
+                              "-l completion -x -a 'bash zsh fish'", "-l paper -x -a 'a4 letter'"})
+        EXPECT_NE(script.find(offer), std::string::npos) << offer;
+    ExpectNamesOf(formatNames, RowOf(OptionId::Format).help);
+    ExpectNamesOf(shellNames, RowOf(OptionId::Completion).help);
+    ExpectNamesOf(paperNames, RowOf(OptionId::Paper).help);
 }
 
 // Each has a paragraph under OPTIONS, with its value and its short form, and stands in an
@@ -131,6 +143,16 @@ TEST(ManPage, TellsOfEveryOption) {
             return row.name == name;
         })) << name;
     }
+}
+
+// Each has a paragraph under OUTPUT; the tables of numbers have theirs together.
+TEST(ManPage, TellsOfEveryFormat) {
+    const std::string output = Section(ManPage(), "OUTPUT");
+    for (const auto &[name, format] : formatNames)
+        EXPECT_NE(output.find(IsTable(format) ? "\n.BR csv \" or \" tsv ,\n"
+                                              : "\n.TP\n" + std::string(name) + '\n'),
+                  std::string::npos)
+            << name;
 }
 
 TEST(ManPage, TellsOfEveryExitCode) {

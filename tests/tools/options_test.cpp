@@ -104,7 +104,8 @@ TEST(ParseOptions, OfABatchOfSeveralFilesInSeveralProcesses) {
     for (const char *value : {"", "ab", "a", "7", "\"", "\n", "é"})
         ExpectWrong({"--batch", "-", "--delimiter", value}, {"--delimiter: \"", "is not allowed"});
     for (const char *value : {"0", "257", "-1", "two", ""})
-        ExpectWrong({"--batch", "-", std::string("--jobs=") + value}, {"--jobs: ", "not allowed"});
+        ExpectWrong({"--batch", "-", std::string("--jobs=") + value},
+                    {std::string("--jobs: \"") + value + "\"", "a whole number from 1 to 256."});
 }
 
 TEST(ParseOptions, OfNumbers) {
@@ -169,6 +170,16 @@ TEST(ParseOptions, OfHelpVersionAndTopicsWhateverElseIsThere) {
     EXPECT_EQ(Parsed({"--list-topics", "Ann"}).task, Options::Task::ListTopics);
 }
 
+TEST(ParseOptions, OfWhatIsPrintedTakesTheFileForIt) {
+    EXPECT_EQ(Parsed({"--list-topics", "-o", "f"}).output, "f");
+    EXPECT_EQ(Parsed({"--completion", "zsh", "--output", "f"}).output, "f");
+    EXPECT_EQ(Parsed({"--completion", "zsh", "--output", "f"}).shell, Shell::Zsh);
+    for (const Arguments &task : {Arguments{"--list-topics"}, Arguments{"--completion", "zsh"}}) {
+        ExpectWrong(task + Arguments{"-o", ""}, {"--output is empty"});
+        ExpectWrong(task + Arguments{"-o", "f", "-o", "g"}, {"--output is given more than once"});
+    }
+}
+
 TEST(ParseOptions, TakesTheShortForms) {
     for (const Arguments &arguments : {Arguments{"-f", "rtf", "-o", "x"}, Arguments{"-frtf", "-ox"},
                                        Arguments{"-f=rtf", "-o=x"}}) {
@@ -195,8 +206,9 @@ TEST(ParseOptions, OfAPieceOfABatch) {
     for (const char *option : {"--first-line", "--max-errors"}) {
         for (const char *value : {"", "0", "-1", "+1", "1.0", "1e3", "x", "٣", "1000000000000001",
                                   "9999999999999999999"})
-            ExpectWrong({"--batch", "-", option, value},
-                        {option + std::string(": \"") + value + "\"", "whole number from 1 on"});
+            ExpectWrong(
+                {"--batch", "-", option, value},
+                {option + std::string(": \"") + value + "\"", "from 1 to 1000000000000000."});
         ExpectWrong(ann + Arguments{option, "1"}, {option, "goes with --batch only"});
         ExpectWrong({"--book", option, "1"}, {option, "does not go with --book"});
     }
@@ -309,9 +321,10 @@ TEST(ParseOptions, NamesTheOptionItsValueAndWhatIsAllowed) {
                                   "2026-13-01", "2026-00-01", "2026-01-00", "0000-01-01"})
         ExpectWrong({"--today", day}, {"--today: \"" + day + "\" is not", "there is no such day"});
     ExpectWrong({"--topic", "Essence", "--topic", "Essences"}, {"--topic: \"Essences\""});
-    ExpectWrong(ann + Arguments{"--output", ""}, {"--output is empty"});
-    ExpectWrong({"--batch", ""}, {"--batch is empty"});
-    ExpectWrong({"--batch", "-", "--output-dir", ""}, {"--output-dir is empty"});
+    ExpectWrong(ann + Arguments{"--output", ""},
+                {"--output is empty", "or - for standard output."});
+    ExpectWrong({"--batch", ""}, {"--batch is empty", "or - for standard input."});
+    ExpectWrong({"--batch", "-", "--output-dir", ""}, {"--output-dir is empty", "a directory."});
 }
 
 TEST(ParseOptions, RefusesWhatIsNoOption) {

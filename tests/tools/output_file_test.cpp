@@ -30,7 +30,9 @@ const std::vector<Writer> writers{{ann, {}},
 class OutputFile : public FolderTest {};
 
 TEST_F(OutputFile, HoldsWhatStandardOutputWouldGet) {
-    for (const auto &[arguments, input] : writers) {
+    std::vector<Writer> all = writers;
+    all.insert(all.end(), {{{"--list-topics"}, {}}, {{"--completion", "bash"}, {}}});
+    for (const auto &[arguments, input] : all) {
         const Finished printed = RunProgram(arguments, input);
         ExpectGood(printed);
         const Finished written =
@@ -100,7 +102,7 @@ TEST_F(OutputFile, AppearsAtTheEndOfABatchAndNotBeforeNorWhenItIsKilled) {
 // Where a signal ends the program, nothing half remains, and the shell sees which one it was.
 TEST_F(OutputFile, LeavesNothingTemporaryBehindAfterASignal) {
     const std::string file = Make("people", "before");
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE, SIGXCPU}) {
         Program program(batch + Arguments{"--output", file});
         program.Write(twoPeople + std::string("{\n"));
         EXPECT_NE(program.ReadErrorLine().find("line 3"), std::string::npos);
@@ -109,6 +111,19 @@ TEST_F(OutputFile, LeavesNothingTemporaryBehindAfterASignal) {
         EXPECT_EQ(program.Finish().signal, signal);
         EXPECT_EQ(Files(), (FileMap{{"people", "before"}}));
     }
+}
+
+// More messages than a pipe takes.
+TEST_F(OutputFile, LeavesNothingTemporaryBehindWhenOneMessageIsReadAndNoMore) {
+    std::string wrong;
+    for (int count = 0; count < 5000; ++count)
+        wrong += "{}\n";
+    const std::string file = Make("wrong", wrong);
+    const Finished run = RunShell("{ \"$0\" --batch '" + file + "' -o '" + Path("out") +
+                                  "' 2>&1; echo $? >&3; } 3>&2 | head -n 1");
+    ExpectOneLine(run.out, {"line 1: first is missing"});
+    EXPECT_EQ(run.err, std::to_string(128 + SIGPIPE) + '\n');
+    EXPECT_EQ(Files(), (FileMap{{"wrong", wrong}}));
 }
 
 TEST_F(OutputFile, IsAppendedToThroughItsDescriptor) {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+
 namespace {
 
 /// A reader that has taken `first` as its first line.
@@ -110,6 +111,14 @@ TEST(PeopleLines, TakeCarriageReturnsAroundAnObject) {
     EXPECT_FALSE(Reader("\rfirst").TookAHeader());
     EXPECT_EQ(Reader("last,first,month,day,year").Parse("\rLee,Ann\r,3,\r7,1990"),
               "Ann\r||\rLee|3|\r7|1990");
+}
+
+// A header of almost 1 MB. Each name compared with all others would take longer than a test may.
+TEST(PeopleLines, FindADoubledColumnAmongManyInTime) {
+    std::string header = "first,last,birthdate";
+    for (int column = 0; column < 150'000; ++column)
+        header += ',' + std::to_string(column);
+    ExpectLine(RefusalOf([&] { Reader(header + ",149999"); }), {"\"149999\" twice"});
 }
 
 // One message stands for one a line.

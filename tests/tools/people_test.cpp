@@ -91,7 +91,7 @@ TEST_F(CheckPersonTest, TakesADateInOnePieceWithTheRangesOfTheLists) {
          {&PersonInput::month, &PersonInput::day, &PersonInput::year}) {
         PersonInput both = born("1984-05-07");
         both.*part = "7";
-        ExpectLine(Refused(both), {"--date does not go with month, day and year"});
+        ExpectLine(Refused(both), {"--date does not go with --month, --day and --year"});
     }
 }
 

@@ -22,8 +22,9 @@ void Prepare(const Surroundings &surroundings, int terminal) {
         const rlimit limit{static_cast<rlim_t>(*surroundings.mostBytes),
                            static_cast<rlim_t>(*surroundings.mostBytes)};
         setrlimit(RLIMIT_FSIZE, &limit);
-        std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
     }
+    const rlimit none{0, 0};
+    setrlimit(RLIMIT_CORE, &none); // tests end programs by signals on purpose
     if (terminal >= 0)
         dup2(terminal, STDERR_FILENO);
     if (surroundings.noInput)

@@ -36,7 +36,7 @@ struct Surroundings {
     bool noInput = false;          ///< standard input is closed
     bool noOutput = false;         ///< standard output is closed
     bool noError = false;          ///< standard error is closed
-    std::optional<long> mostBytes; ///< limit on the size of files, met by an error
+    std::optional<long> mostBytes; ///< limit on the size of files
     std::string program;           ///< empty for orravane-report
 };
 

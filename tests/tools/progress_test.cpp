@@ -22,6 +22,7 @@ std::string People(int count) {
 Surroundings AtATerminal() {
     Surroundings surroundings;
     surroundings.errorTerminal = true;
+    surroundings.environment["TERM"] = "xterm";
     return surroundings;
 }
 
@@ -185,6 +186,17 @@ TEST_F(ProgressBar, IsAbsentWithoutATerminal) {
           Arguments{"--batch", file, "--output-dir", Path("d")} + day})
         ExpectGood(RunProgram(line)); // nothing on standard error at all
     ExpectGood(RunProgram(Arguments{"--batch", "-"} + day, People(300)));
+}
+
+// It would show the escape sequences.
+TEST_F(ProgressBar, IsAbsentAtATerminalThatObeysNone) {
+    const Arguments line = Arguments{"--batch", Make("people", People(3))} + day;
+    for (const std::optional<std::string> &kind :
+         {std::optional<std::string>("dumb"), std::optional<std::string>("")}) {
+        Surroundings surroundings = AtATerminal();
+        surroundings.environment["TERM"] = kind;
+        ExpectGood(RunProgram(line, {}, surroundings));
+    }
 }
 
 TEST_F(ProgressBar, IsAbsentWhereThereIsNothingToWaitFor) {
