@@ -1,6 +1,7 @@
 #include "report/html.h"
 
 #include "document_style.h"
+#include "emblem.h"
 #include "report/html_pictures.h"
 #include "report/html_writer.h"
 #include "report/utf8.h"
@@ -12,20 +13,6 @@ namespace modReadings {
 namespace {
 
 constexpr std::u16string_view readingTitle = u"Orravane Comprehensive Reading";
-
-/// The star of the program's icon; it says nothing that is not said beside it.
-constexpr std::string_view emblem =
-    "<svg viewBox=\"0 0 104 104\" aria-hidden=\"true\" width=\"104\" height=\"104\">"
-    "<circle cx=\"52\" cy=\"52\" r=\"49\" fill=\"#3a2b4c\"/>"
-    "<circle cx=\"52\" cy=\"52\" r=\"40\" fill=\"none\" stroke=\"#ffc706\" stroke-width=\"3\"/>"
-    "<path d=\"M52 12L65.68 89.59L26.29 21.36L86.64 72L12.61 45.05L91.39 45.05L17.36 72L77.71 "
-    "21.36L38.32 89.59Z\" fill=\"none\" stroke=\"#ffc706\" stroke-width=\"1.6\" "
-    "stroke-linejoin=\"round\"/><g fill=\"#ffc706\"><circle cx=\"52\" cy=\"12\" r=\"6.4\" "
-    "fill=\"#ffe9a8\"/><circle cx=\"77.71\" cy=\"21.36\" r=\"5\"/><circle cx=\"91.39\" "
-    "cy=\"45.05\" r=\"5\"/><circle cx=\"86.64\" cy=\"72\" r=\"5\"/><circle cx=\"65.68\" "
-    "cy=\"89.59\" r=\"5\"/><circle cx=\"38.32\" cy=\"89.59\" r=\"5\"/><circle cx=\"17.36\" "
-    "cy=\"72\" r=\"5\"/><circle cx=\"12.61\" cy=\"45.05\" r=\"5\"/><circle cx=\"26.29\" "
-    "cy=\"21.36\" r=\"5\"/></g></svg>\n";
 
 /// Whether it turns the direction of what follows, beyond the text that it belongs to.
 constexpr bool IsMarkOfDirection(char16_t unit) {
