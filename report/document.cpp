@@ -445,12 +445,17 @@ ValuesPicture PictureOfValues() {
     Enumerate(words, missing, [&](int value) { Append(words, value); });
     if (!missing.empty())
         words += missing.size() == 1 ? u" is missing." : u" are missing.";
-    Append(words, u" ", Shown(picture.leader.character), u" comes most often, ");
-    AppendTimes(words, static_cast<std::size_t>(picture.leader.count));
-    if (picture.leaderValue != 0)
-        Append(words, u", and its value is the Hidden Passion Number, ", picture.leaderValue, u".");
-    else
-        words += u"; it has no value, and so there is no Hidden Passion Number.";
+    if (name.empty()) {
+        words += u" The name has no character, and so there is no Hidden Passion Number.";
+    } else {
+        Append(words, u" ", Shown(picture.leader.character), u" comes most often, ");
+        AppendTimes(words, static_cast<std::size_t>(picture.leader.count));
+        if (picture.leaderValue != 0)
+            Append(words, u", and its value is the Hidden Passion Number, ", picture.leaderValue,
+                   u".");
+        else
+            words += u"; it has no value, and so there is no Hidden Passion Number.";
+    }
 
     picture.text.id = "values-picture";
     picture.text.title = u"The values 1 to 9 in the name";
