@@ -30,6 +30,8 @@
 #include <QShortcut>
 #include <QUrl>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -175,7 +175,8 @@ QString WriteWhole(const QString &name, std::string_view content) {
     // the stump in place; only a flush tells. And some file systems find out that there is no
     // room, or that the disk is broken, only when the bytes have to be on it, which a commit
     // asks for without heeding the answer.
-    // It takes over what the earlier file permits, but not where it fails to ask for that.
+    // QSaveFile gives the new file the permissions of the earlier one, but goes on without where
+    // it cannot find them out or set them; to set them once more tells.
     if (!file.open(QIODevice::WriteOnly) || (earlier && !file.setPermissions(earlier)) ||
         file.write(content.data(), size) != size || !file.flush())
         return file.errorString();
