@@ -379,7 +379,7 @@ void Draw(HtmlWriter &html, const TimePicture &picture) {
 void Draw(HtmlWriter &html, const PlanesPicture &picture) {
     constexpr int row = 50;
     constexpr int lettersX = 106;                // behind "Emotional" in bold letters
-    constexpr std::size_t mostLettersShown = 15; // what is behind them is the share
+    constexpr std::size_t mostLettersShown = 13; // what is behind them is the share
     Drawing drawing(html, static_cast<int>(picture.planes.size()) * row, picture.text.id);
     int y = 0;
     for (const PlanesPicture::Plane &plane : picture.planes) {
