@@ -31,6 +31,8 @@
 #include <QShortcut>
 #include <QUrl>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -9,8 +9,8 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include <array>
 #include <chrono>
+#include <string_view>
 
 class BusyBar;
 class CheckBox;
@@ -42,6 +42,7 @@ public:
     BusyBar *busy;         ///< likewise
     QLabel *status;        ///< what has become of the latest document
 
+    /// While a PDF is being made: from Make until its end or Cancel.
     bool IsBusy() const { return engine_.IsAtWork(); }
 
 public slots:

@@ -2,9 +2,9 @@
 
 // The toolkit's file dialog notes things in settings that all programs of the toolkit share,
 // such as the folders that were looked at. While this object lives, that changes nothing for
-// good: what the dialog notes goes with it. Only the day of the update question outlasts a run.
-// One implementation for each kind of system.
+// good: what the dialog notes goes with it. One implementation for each kind of system.
 
+#include <QString>
 #include <QTemporaryDir>
 #include <QVariantMap>
 

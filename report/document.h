@@ -75,6 +75,7 @@ struct PictureText {
     std::u16string_view title;
     std::u16string_view legend; ///< how to read the picture
     std::u16string words;       ///< the same as the picture, in words
+    std::u16string_view note{}; ///< behind the legend, where a rare rule holds; may be empty
 };
 
 /// The letters of the name with their values, and the sums that they make.
@@ -88,7 +89,6 @@ struct ValuesPicture {
     PictureText text;
     std::array<std::u16string, 10> letters; ///< of the name, by value; 0: without a value
     FrequentCharacter leader;               ///< decides on the Hidden Passion
-    int16 leaderValue = 0;                  ///< 0 for a character without one
 };
 
 /// A stretch of ages with a number.
@@ -108,11 +108,10 @@ struct LifePicture {
     std::vector<int16> challenges; ///< these have no ages
 };
 
-/// The years and months from the day of the reading on.
+/// The years from that of the reading on, and the months from that of the reading on.
 struct TimePicture {
     struct Year {
         int year = 0;
-        int age = 0;
         int16 personalYear = 0;
         std::optional<int16> essence; ///< none where no letter of a name counts
     };
@@ -139,10 +138,9 @@ struct PlanesPicture {
 };
 
 struct Document {
-    std::u16string name;             ///< as it was given, its parts with a blank between
-    std::u16string born;             ///< "March 29, 1985"
-    std::u16string readFor;          ///< "November 21, 2026"
-    std::chrono::year_month_day day; ///< the same as a date
+    std::u16string name;    ///< as it was given, its parts with a blank between
+    std::u16string born;    ///< "March 29, 1985"
+    std::u16string readFor; ///< "November 21, 2026"
 
     std::vector<NumberGroup> glance;
     int16 age = 0; ///< as the calculators count it
@@ -158,16 +156,26 @@ struct Document {
     std::vector<DocumentTopic> topics; ///< the 22, in the order of the pass
 };
 
+/// The titles that the formats share.
+inline constexpr std::u16string_view glanceTitle = u"All numbers at a glance";
+inline constexpr std::u16string_view todayTitle = u"In force today";
+
+/// The texts of the five pictures in the order of the document. They are those of `document`, and
+/// live no longer.
+std::array<const PictureText *, 5> PicturesOf(const Document &document);
+
 /// A date written out: "November 21, 2026".
 std::u16string LongDate(std::u16string_view month, int day, int year);
+/// The same; `date` is a day of the calendar: date.ok().
 std::u16string LongDate(std::chrono::year_month_day date);
 
 /// How a sum becomes its number: "65, 6 + 5 = 11". The sum alone where it is the number.
 std::u16string InWords(const NameSum &sum);
 
-/// The document of `person`, who gave the name `given`, for `day`. It is made on an empty store;
-/// profile and store are afterwards as they were before. EndlessName (numbers/essence.h) must
-/// have no answer for the person on that day: otherwise this never returns.
+/// The document of `person`, who gave the name `given`, for `day`, which is a day of the calendar:
+/// day.ok(). It is made on an empty store; profile and store are afterwards as they were before.
+/// EndlessName (numbers/essence.h) must have no answer for the person on that day: otherwise this
+/// never returns. Throws RuntimeFailure where BirthDay or BirthYear is no number.
 Document MakeDocument(const UserProfile &person, const GivenName &given,
                       std::chrono::year_month_day day);
 

@@ -1,8 +1,10 @@
 #include "report/html.h"
 
 #include "document_style.h"
+#include "emblem.h"
 #include "report/html_pictures.h"
 #include "report/html_writer.h"
+#include "report/rendering.h"
 #include "report/utf8.h"
 
 #include <cstdio>
@@ -11,21 +13,8 @@ namespace modReadings {
 
 namespace {
 
-constexpr std::u16string_view readingTitle = u"Orravane Comprehensive Reading";
-
-/// The star of the program's icon; it says nothing that is not said beside it.
-constexpr std::string_view emblem =
-    "<svg viewBox=\"0 0 104 104\" aria-hidden=\"true\" width=\"104\" height=\"104\">"
-    "<circle cx=\"52\" cy=\"52\" r=\"49\" fill=\"#3a2b4c\"/>"
-    "<circle cx=\"52\" cy=\"52\" r=\"40\" fill=\"none\" stroke=\"#ffc706\" stroke-width=\"3\"/>"
-    "<path d=\"M52 12L65.68 89.59L26.29 21.36L86.64 72L12.61 45.05L91.39 45.05L17.36 72L77.71 "
-    "21.36L38.32 89.59Z\" fill=\"none\" stroke=\"#ffc706\" stroke-width=\"1.6\" "
-    "stroke-linejoin=\"round\"/><g fill=\"#ffc706\"><circle cx=\"52\" cy=\"12\" r=\"6.4\" "
-    "fill=\"#ffe9a8\"/><circle cx=\"77.71\" cy=\"21.36\" r=\"5\"/><circle cx=\"91.39\" "
-    "cy=\"45.05\" r=\"5\"/><circle cx=\"86.64\" cy=\"72\" r=\"5\"/><circle cx=\"65.68\" "
-    "cy=\"89.59\" r=\"5\"/><circle cx=\"38.32\" cy=\"89.59\" r=\"5\"/><circle cx=\"17.36\" "
-    "cy=\"72\" r=\"5\"/><circle cx=\"12.61\" cy=\"45.05\" r=\"5\"/><circle cx=\"26.29\" "
-    "cy=\"21.36\" r=\"5\"/></g></svg>\n";
+constexpr std::u16string_view picturesTitle = u"Pictures";
+constexpr std::u16string_view readingsTitle = u"Readings";
 
 /// Whether it turns the direction of what follows, beyond the text that it belongs to.
 constexpr bool IsMarkOfDirection(char16_t unit) {
@@ -54,7 +43,7 @@ std::u16string ShortName(std::u16string_view name) {
 /// by its number, so that nothing in it can end the style.
 void WriteCssString(HtmlWriter &html, std::u16string_view text) {
     for (std::size_t at = 0; at < text.size();) {
-        const char32_t character = TakeCharacter(text, at);
+        const char32_t character = DecodeUtf16(text, at);
         if (character == U' ' || (character >= U'0' && character <= U'9') ||
             (character >= U'A' && character <= U'Z') || (character >= U'a' && character <= U'z')) {
             html << static_cast<char>(character);
@@ -96,14 +85,13 @@ void WriteEntry(HtmlWriter &html, std::string_view id, std::u16string_view text)
 void WriteContents(HtmlWriter &html, const Document &document) {
     html << "<nav id=\"contents\" aria-labelledby=\"contents-title\">\n"
             "<h2 id=\"contents-title\">Contents</h2>\n<ol>\n"
-            "<li><a href=\"#glance\">All numbers at a glance</a></li>\n"
-            "<li><a href=\"#today\">In force today</a></li>\n"
-            "<li><a href=\"#pictures\">Pictures</a>\n<ol>\n";
-    for (const PictureText *text :
-         {&document.letters.text, &document.values.text, &document.life.text, &document.time.text,
-          &document.planes.text})
+            "<li><a href=\"#glance\">"
+         << glanceTitle << "</a></li>\n<li><a href=\"#today\">" << todayTitle
+         << "</a></li>\n<li><a href=\"#pictures\">" << picturesTitle << "</a>\n<ol>\n";
+    for (const PictureText *text : PicturesOf(document))
         WriteEntry(html, text->id, text->title);
-    html << "</ol></li>\n<li><a href=\"#readings\">Readings</a>\n"
+    html << "</ol></li>\n<li><a href=\"#readings\">" << readingsTitle
+         << "</a>\n"
             "<ol id=\"contents-of-readings\">\n";
     for (const DocumentTopic &topic : document.topics)
         WriteEntry(html, topic.id, topic.caption);
@@ -111,7 +99,8 @@ void WriteContents(HtmlWriter &html, const Document &document) {
 }
 
 void WriteGlance(HtmlWriter &html, const Document &document) {
-    html << "<section id=\"glance\">\n<h2 id=\"glance-title\">All numbers at a glance</h2>\n"
+    html << "<section id=\"glance\">\n<h2 id=\"glance-title\">" << glanceTitle
+         << "</h2>\n"
             "<table aria-labelledby=\"glance-title\">\n<thead><tr><th scope=\"col\">Topic</th>"
             "<th scope=\"col\" class=\"number\">Number</th></tr></thead>\n";
     for (const NumberGroup &group : document.glance) {
@@ -133,8 +122,9 @@ void WriteGlance(HtmlWriter &html, const Document &document) {
 }
 
 void WriteToday(HtmlWriter &html, const Document &document) {
-    html << "<section id=\"today\">\n<h2>In force today</h2>\n<p>" << document.todayNote
-         << "</p>\n<table class=\"today\" aria-label=\"In force today\">\n<thead><tr>"
+    html << "<section id=\"today\">\n<h2>" << todayTitle << "</h2>\n<p>" << document.todayNote
+         << "</p>\n<table class=\"today\" aria-label=\"" << todayTitle
+         << "\">\n<thead><tr>"
             "<th scope=\"col\">Topic</th><th scope=\"col\" class=\"number\">Number</th></tr>"
             "</thead>\n<tbody>\n";
     for (const InForce &each : document.today) {
@@ -149,7 +139,8 @@ void WriteToday(HtmlWriter &html, const Document &document) {
 template <typename Picture> void WritePicture(HtmlWriter &html, const Picture &picture) {
     const PictureText &text = picture.text;
     html << "<figure id=\"" << text.id << "\">\n<figcaption><h3 id=\"" << text.id << "-title\">"
-         << text.title << "</h3>\n<p>" << text.legend << "</p></figcaption>\n";
+         << text.title << "</h3>\n<p>" << text.legend << (text.note.empty() ? "" : " ") << text.note
+         << "</p></figcaption>\n";
     Draw(html, picture);
     html << "<p class=\"words\" id=\"" << text.id << "-words\"><b>In words.</b> " << text.words
          << "</p>\n</figure>\n";
@@ -190,7 +181,7 @@ std::string ToHtml(const Document &document) {
     html << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<meta name=\"color-scheme\" content=\"light dark\">\n<title>"
-         << shortName << " \u2013 " << readingTitle << ", " << document.readFor
+         << shortName << " \u2013 " << comprehensiveReadingTitle << ", " << document.readFor
          << "</title>\n<meta name=\"author\" content=\"Orravane\">\n"
             "<meta name=\"generator\" content=\"Orravane\">\n"
             "<meta name=\"description\" content=\"A numerology report for "
@@ -205,7 +196,7 @@ std::string ToHtml(const Document &document) {
     html << "\"; }\n}\n</style>\n</head>\n<body>\n<a class=\"skip\" href=\"#main\">Skip the "
             "contents</a>\n"
             "<header class=\"cover\">\n"
-         << emblem << "<p class=\"kicker\">" << readingTitle << "</p>\n<h1"
+         << emblem << "<p class=\"kicker\">" << comprehensiveReadingTitle << "</p>\n<h1"
          << ClassFor(document.name) << "><bdi>" << document.name
          << "</bdi></h1>\n<dl><dt>Born</dt><dd>" << document.born << "</dd>\n<dt>Read for</dt><dd>"
          << document.readFor << "</dd></dl>\n</header>\n<div class=\"page\">\n";
@@ -213,17 +204,17 @@ std::string ToHtml(const Document &document) {
     html << "<main id=\"main\">\n";
     WriteGlance(html, document);
     WriteToday(html, document);
-    html << "<section id=\"pictures\">\n<h2>Pictures</h2>\n";
+    html << "<section id=\"pictures\">\n<h2>" << picturesTitle << "</h2>\n";
     WritePicture(html, document.letters);
     WritePicture(html, document.values);
     WritePicture(html, document.life);
     WritePicture(html, document.time);
     WritePicture(html, document.planes);
-    html << "</section>\n<section id=\"readings\">\n<h2>Readings</h2>\n";
+    html << "</section>\n<section id=\"readings\">\n<h2>" << readingsTitle << "</h2>\n";
     for (const DocumentTopic &topic : document.topics)
         WriteTopic(html, topic);
-    html << "</section>\n</main>\n<footer>" << readingTitle << " for <bdi>" << shortName
-         << "</bdi>, " << document.readFor << ".</footer>\n</div>\n</body>\n</html>\n";
+    html << "</section>\n</main>\n<footer>" << comprehensiveReadingTitle << " for <bdi>"
+         << shortName << "</bdi>, " << document.readFor << ".</footer>\n</div>\n</body>\n</html>\n";
     return std::string(html.Written());
 }
 

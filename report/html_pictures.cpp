@@ -4,7 +4,8 @@
 #include "report/svg.h"
 
 #include <algorithm>
-#include <utility>
+#include <array>
+#include <span>
 
 namespace modReadings {
 
@@ -55,41 +56,46 @@ void DrawLetter(Drawing &drawing, const NameLetter &letter, int x, int y, const 
                  : consonant ? Paint::Ink
                              : Paint::Muted,
                  Align::Middle, Glyph(letter.character));
-    const int value = letter.value;
     if (vowel)
         drawing.Text(x + half, middle - size.letter / 2 - 8, size.value, Paint::Ink, Align::Middle,
-                     value);
+                     letter.value);
     if (consonant)
         drawing.Text(x + half, middle + size.letter / 2 + size.value + 4, size.value, Paint::Ink,
-                     Align::Middle, value);
+                     Align::Middle, letter.value);
 }
 
-/// The letters of one of the names, centred; returns the height that they take.
-int DrawPart(Drawing *drawing, std::span<const NameLetter> letters, int y, const LetterSize &size) {
+/// The height that one of the names takes.
+int HeightOf(std::span<const NameLetter> letters, const LetterSize &size) {
+    const auto columns = static_cast<std::size_t>(size.columns);
+    return static_cast<int>((letters.size() + columns - 1) / columns) * size.height;
+}
+
+/// The letters of one of the names, centred.
+void DrawPart(Drawing &drawing, std::span<const NameLetter> letters, int y,
+              const LetterSize &size) {
     const int width = drawingWidth / size.columns;
     const auto columns = static_cast<std::size_t>(size.columns);
-    const int top = y;
     for (std::size_t begin = 0; begin < letters.size(); begin += columns, y += size.height) {
-        if (drawing == nullptr)
-            continue;
         const auto line = letters.subspan(begin, std::min(columns, letters.size() - begin));
         int x = (drawingWidth - width * static_cast<int>(line.size())) / 2;
         for (const NameLetter &letter : line) {
-            DrawLetter(*drawing, letter, x, y, size);
+            DrawLetter(drawing, letter, x, y, size);
             x += width;
         }
     }
-    return y - top;
 }
 
+constexpr int sumHeight = 46;
+
+/// What the letters make, and below it how: a sum has a line of its own, since that of a long
+/// name is long.
 void DrawSum(Drawing &drawing, int y, Paint mark, std::string_view letters,
              std::u16string_view number, const NameSum &sum) {
-    drawing.Box(0, y - 12, 14, 14, 3, mark);
-    drawing.Text(22, y, 15, Paint::Ink, Align::Start, letters);
-    drawing.Text(118, y, 15, Paint::Ink, Align::Start, InWords(sum));
-    const int value = sum.number;
-    drawing.Text(drawingWidth - 26, y, 15, Paint::Ink, Align::End, number);
-    drawing.Text(drawingWidth, y, 17, Paint::Ink, Align::End, value, true);
+    drawing.Box(0, y + 8, 14, 14, 3, mark);
+    drawing.Text(22, y + 20, 15, Paint::Ink, Align::Start, letters);
+    drawing.Text(drawingWidth - 26, y + 20, 15, Paint::Ink, Align::End, number);
+    drawing.Text(drawingWidth, y + 20, 17, Paint::Ink, Align::End, sum.number, true);
+    drawing.Text(22, y + 39, 14, Paint::Muted, Align::Start, InWords(sum));
 }
 
 // ---- The life ----
@@ -109,8 +115,8 @@ AgeAxis AxisFor(const LifePicture &picture) {
     return {std::max(90, needed / 10 * 10)};
 }
 
-/// A bar with its number and its ages, which stand where the line of today does not run through
-/// them; beside the bar where it is short.
+/// A bar with its number and its ages. Those of a short bar stand beside it, where the line of
+/// today does not run through them; the bar itself covers that line.
 void DrawSpan(Drawing &drawing, const AgeAxis &axis, const LifeSpan &span, int y, int today) {
     constexpr int height = 28;
     constexpr int agesWidth = 52;
@@ -124,26 +130,20 @@ void DrawSpan(Drawing &drawing, const AgeAxis &axis, const LifeSpan &span, int y
                       paint);
     else
         drawing.Box(from, y, to - from - 1, height, 3, paint);
-    const int number = span.number;
     const std::u16string ages =
         DecimalText(span.ages.from) +
         (span.ages.IsOpen() ? u" on" : u"\u2013" + DecimalText(span.ages.to));
     if (to - from >= agesWidth + 20) {
-        const bool todayThere = today >= to - agesWidth && today <= to;
-        drawing.Text(from + 10, y + 20, 17, ink, Align::Start, number, true);
-        if (todayThere && to - from >= 2 * agesWidth)
-            drawing.Text(from + 32, y + 19, 14, ink, Align::Start, ages);
-        else
-            drawing.Text(to - 8, y + 19, 14, ink, Align::End, ages);
+        drawing.Text(from + 10, y + 20, 17, ink, Align::Start, span.number, true);
+        drawing.Text(to - 8, y + 19, 14, ink, Align::End, ages);
         return;
     }
-    drawing.Text((from + to) / 2, y + 20, 17, ink, Align::Middle, number, true);
-    const bool roomBehind = to + agesWidth < drawingWidth;
+    drawing.Text((from + to) / 2, y + 20, 17, ink, Align::Middle, span.number, true);
     const bool todayBehind = today >= to && today <= to + agesWidth;
-    if (roomBehind && !todayBehind)
-        drawing.Text(to + 6, y + 19, 14, Paint::Muted, Align::Start, ages);
-    else
+    if (todayBehind)
         drawing.Text(from - 6, y + 19, 14, Paint::Muted, Align::End, ages);
+    else
+        drawing.Text(to + 6, y + 19, 14, Paint::Muted, Align::Start, ages);
 }
 
 // ---- The time ----
@@ -178,13 +178,15 @@ void Draw(HtmlWriter &html, const NamePicture &picture) {
 
     int height = 0;
     for (const auto &part : parts)
-        height += DrawPart(nullptr, part, 0, size);
+        height += HeightOf(part, size);
     const bool more = letters.size() < all.size();
     height += more ? 30 : 0;
-    Drawing drawing(html, height + 104, picture.text.id);
+    Drawing drawing(html, height + 14 + 3 * sumHeight, picture.text.id);
     int y = 0;
-    for (const auto &part : parts)
-        y += DrawPart(&drawing, part, y, size);
+    for (const auto &part : parts) {
+        DrawPart(drawing, part, y, size);
+        y += HeightOf(part, size);
+    }
     if (more) {
         drawing.Text(drawingWidth / 2, y + 20, 15, Paint::Muted, Align::Middle,
                      u"and " + DecimalText(static_cast<int16>(all.size() - letters.size())) +
@@ -192,9 +194,12 @@ void Draw(HtmlWriter &html, const NamePicture &picture) {
         y += 30;
     }
     drawing.Line(0, y + 8, drawingWidth, y + 8, Paint::Muted);
-    DrawSum(drawing, y + 36, Paint::Violet, "All letters", u"Destiny", picture.sheet.destiny);
-    DrawSum(drawing, y + 64, Paint::Gold, "Vowels", u"Soul Urge", picture.sheet.soulUrge);
-    DrawSum(drawing, y + 92, Paint::Tint, "Consonants", u"Inner Dreams", picture.sheet.innerDreams);
+    y += 14;
+    DrawSum(drawing, y, Paint::Violet, "All letters", u"Destiny", picture.sheet.destiny);
+    y += sumHeight;
+    DrawSum(drawing, y, Paint::Gold, "Vowels", u"Soul Urge", picture.sheet.soulUrge);
+    y += sumHeight;
+    DrawSum(drawing, y, Paint::Tint, "Consonants", u"Inner Dreams", picture.sheet.innerDreams);
 }
 
 void Draw(HtmlWriter &html, const ValuesPicture &picture) {
@@ -270,7 +275,11 @@ void Draw(HtmlWriter &html, const LifePicture &picture) {
     }
     drawing.Line(axis.left, axisY, axis.right, axisY, Paint::Muted);
 
+    const bool unborn = picture.age < 0;
     const int today = axis.X(picture.age);
+    // Below the bars, so that it runs through none of their numbers.
+    if (!unborn && picture.age <= axis.end)
+        drawing.Line(today, 20, today, axisY, Paint::Ink, 2);
     // The titles stand where the line of today does not run through them.
     const bool early = today < drawingWidth / 3;
     const int titleX = early ? axis.right : 0;
@@ -285,29 +294,24 @@ void Draw(HtmlWriter &html, const LifePicture &picture) {
         y += lane;
     }
 
-    const bool unborn = picture.age < 0;
-    const bool beyond = picture.age > axis.end;
     const std::u16string label =
         unborn ? std::u16string(u"today: before birth") : u"today: age " + DecimalText(picture.age);
-    if (!unborn && !beyond)
-        drawing.Line(today, 20, today, axisY, Paint::Ink, 2);
     if (today < 70)
         drawing.Text(unborn ? 0 : today - 4, 14, 14, Paint::Ink, Align::Start, label, true);
-    else if (today > axis.right - 70 || beyond)
+    else if (today > axis.right - 70)
         drawing.Text(drawingWidth, 14, 14, Paint::Ink, Align::End, label, true);
     else
         drawing.Text(today, 14, 14, Paint::Ink, Align::Middle, label, true);
 
     const int row = axisY + 50;
     drawing.Text(0, row + 25, 14, Paint::Muted, Align::Start, "Challenges");
+    constexpr std::array<std::string_view, 4> ordinals{"first", "second", "third", "fourth"};
     int x = 100;
     for (std::size_t index = 0; index < picture.challenges.size(); ++index, x += 80) {
-        constexpr std::array<std::string_view, 4> names{"first", "second", "third", "fourth"};
         drawing.Box(x, row, 74, 40, 4, Paint::Tint);
-        const int number = picture.challenges[index];
-        drawing.Text(x + 37, row + 19, 17, Paint::Ink, Align::Middle, number, true);
-        drawing.Text(x + 37, row + 34, 13, Paint::Muted, Align::Middle,
-                     names[std::min<std::size_t>(index, 3)]);
+        drawing.Text(x + 37, row + 19, 17, Paint::Ink, Align::Middle, picture.challenges[index],
+                     true);
+        drawing.Text(x + 37, row + 34, 13, Paint::Muted, Align::Middle, ordinals.at(index));
     }
 }
 
@@ -374,7 +378,8 @@ void Draw(HtmlWriter &html, const TimePicture &picture) {
 
 void Draw(HtmlWriter &html, const PlanesPicture &picture) {
     constexpr int row = 50;
-    constexpr std::size_t mostLettersShown = 18; // what is behind them is the share
+    constexpr int lettersX = 106;                // behind "Emotional" in bold letters
+    constexpr std::size_t mostLettersShown = 13; // what is behind them is the share
     Drawing drawing(html, static_cast<int>(picture.planes.size()) * row, picture.text.id);
     int y = 0;
     for (const PlanesPicture::Plane &plane : picture.planes) {
@@ -387,7 +392,7 @@ void Draw(HtmlWriter &html, const PlanesPicture &picture) {
             letters.resize(mostLettersShown);
             letters += u"\u2026";
         }
-        drawing.Text(90, y + 16, 14, Paint::Muted, Align::Start, letters);
+        drawing.Text(lettersX, y + 16, 14, Paint::Muted, Align::Start, letters);
         drawing.Box(0, y + 24, drawingWidth, 12, 2, Paint::Tint);
         if (plane.share > 0)
             drawing.Box(0, y + 24, plane.share * drawingWidth / 100, 12, 2,

@@ -91,7 +91,7 @@ void HtmlWriter::PutCharacter(char32_t character, std::string_view newLine) {
         character = U' ';
     if (!MayStandInDocument(character))
         character = 0xFFFD;
-    PutUtf8(character, [this](char byte) { *this << byte; });
+    EncodeUtf8(character, [this](char byte) { *this << byte; });
 }
 
 void HtmlWriter::PutText(std::u16string_view text, std::string_view newLine) {
@@ -110,7 +110,7 @@ void HtmlWriter::PutText(std::u16string_view text, std::string_view newLine) {
             break;
         if (text.substr(at).starts_with(u"\r\n"))
             ++at; // both are one line break
-        PutCharacter(TakeCharacter(text, at), newLine);
+        PutCharacter(DecodeUtf16(text, at), newLine);
     }
 }
 

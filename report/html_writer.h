@@ -17,11 +17,13 @@ public:
     template <std::size_t size> HtmlWriter &operator<<(const char (&literal)[size]) {
         return Write(literal);
     }
+    /// Of a buffer the compiler knows the size, but not how much of it is filled.
+    template <std::size_t size> HtmlWriter &operator<<(char (&buffer)[size]) = delete;
     HtmlWriter &operator<<(char markup) { return Write(markup); }
     HtmlWriter &operator<<(int number) { return Write(number); }
 
     /// Pieces of markup and numbers, one behind the other; quicker than each by itself.
-    template <typename... Pieces> HtmlWriter &Write(const Pieces &...pieces) {
+    template <typename... Pieces> HtmlWriter &Write(Pieces &&...pieces) {
         Reserve((MostBytesOf(pieces) + ...));
         char *end = out_.data() + used_;
         ((end = Put(end, pieces)), ...);
@@ -65,6 +67,7 @@ private:
         std::memcpy(out, literal, size - 1);
         return out + size - 1;
     }
+    template <std::size_t size> static std::size_t MostBytesOf(char (&buffer)[size]) = delete;
     static std::size_t MostBytesOf(char) { return 1; }
     static char *Put(char *out, char markup) {
         *out = markup;

@@ -3,8 +3,6 @@
 #include "report/report.h"
 #include "report/utf8.h"
 
-#include <algorithm>
-
 namespace modReadings {
 
 namespace {
@@ -16,7 +14,7 @@ constexpr bool IsPunctuation(char c) { return c > ' ' && c < 0x7F && !IsDigit(c)
 /// The character of `text` at `at`, which moves behind it, as Markdown can hold it: what
 /// separates lines, and a tab, is a blank.
 char32_t NextCharacter(std::u16string_view text, std::size_t &at) {
-    const char32_t character = TakeCharacter(text, at);
+    const char32_t character = DecodeUtf16(text, at);
     if (character == U'\t' || character == U'\r' || character == U'\n' || character == 0x2028 ||
         character == 0x2029)
         return U' ';
@@ -30,7 +28,7 @@ template <typename IsMarkup> std::string Escaped(std::u16string_view text, IsMar
         const char32_t character = NextCharacter(text, at);
         if (character < 0x80 && isMarkup(static_cast<char>(character)))
             escaped += '\\';
-        PutUtf8(character, [&escaped](char byte) { escaped += byte; });
+        EncodeUtf8(character, [&escaped](char byte) { escaped += byte; });
     }
     return escaped;
 }
@@ -129,20 +127,18 @@ std::string ToMarkdown(const Document &document) {
                            "\nsubtitle: " + Quoted("Born " + Text(document.born)) +
                            "\ndate: " + Quoted("Read for " + Text(document.readFor)) + "\n---\n\n";
 
-    markdown += Heading(1, "All numbers at a glance", "glance");
+    markdown += Heading(1, Text(glanceTitle), "glance");
     for (const NumberGroup &group : document.glance)
         markdown += GlanceTable(group);
 
-    markdown += Heading(1, "In force today", "today") + Paragraphs(document.todayNote);
+    markdown += Heading(1, Text(todayTitle), "today") + Paragraphs(document.todayNote);
     for (const InForce &each : document.today)
         markdown += "- " + Link(Text(each.what), each.id) + ' ' + Text(each.number) + ", " +
                     Text(each.when) + '\n';
     markdown += '\n';
 
     markdown += Heading(1, "The pictures in words", "pictures");
-    for (const PictureText *picture :
-         {&document.letters.text, &document.values.text, &document.life.text, &document.time.text,
-          &document.planes.text})
+    for (const PictureText *picture : PicturesOf(document))
         markdown += Heading(2, Text(picture->title), picture->id) + Paragraphs(picture->words);
 
     markdown += Heading(1, "The readings", "readings");

@@ -1,8 +1,11 @@
 #include "report/pdf_engine.h"
 
+#include "pdf_engine_script.h"
+
 #include <QFile>
 #include <QStandardPaths>
 
+#include <optional>
 #include <utility>
 
 #ifdef Q_OS_LINUX
@@ -13,38 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// What the process runs. It reads documents from its standard input, the length in bytes and
-/// the size of the pages on a line before each, and answers each with its length likewise, and
-/// "pdf" or "trouble" before it. It ends where its input does, or when it is asked to, and takes
-/// its temporary files with it.
-constexpr auto script = R"(
-import signal, sys, tempfile
-sys.path[:] = filter(None, sys.path)  # no module of the current folder
-source, target = sys.stdin.buffer, sys.stdout.buffer
-sys.stdout = sys.stderr  # only answers go there
-signal.signal(signal.SIGINT, signal.SIG_IGN)  # it is for the program that asks
-signal.signal(signal.SIGTERM, lambda *_: sys.exit())
-
-from weasyprint import CSS, HTML
-
-def load_nothing(url, *_, **__):
-    raise ValueError("nothing is loaded: " + url)
-
-with tempfile.TemporaryDirectory(prefix="orravane-") as tempfile.tempdir:
-    while line := source.readline():
-        length, paper = line.decode().split()
-        html = source.read(int(length)).decode()
-        try:
-            pages = CSS(string="@page { size: %s }" % paper)
-            document = HTML(string=html, url_fetcher=load_nothing)
-            kind, answer = b"pdf", document.write_pdf(stylesheets=[pages])
-        except Exception as error:
-            kind, answer = b"trouble", f"{type(error).__name__}: {error}".encode()
-        target.write(b"%s %d\n" % (kind, len(answer)))
-        target.write(answer)
-        target.flush()
-)"_L1;
 
 /// The command that runs a program for the Python in which WeasyPrint is installed: the one
 /// that the first line of its own program names. Empty when there is none.
@@ -65,6 +36,24 @@ QString LastLine(const QByteArray &errors) {
 
 PdfAnswer Trouble(const QString &what) {
     return {{}, u"WeasyPrint cannot make the PDF: %1"_s.arg(what)};
+}
+
+/// The line before the bytes of an answer.
+struct AnswerLine {
+    bool isPdf;
+    qsizetype length;
+};
+
+/// What `line` announces; nothing where it announces no answer.
+std::optional<AnswerLine> ReadAnswerLine(const QByteArray &line) {
+    const QList<QByteArray> words = line.split(' ');
+    if (words.size() != 2 || (words[0] != "pdf" && words[0] != "trouble"))
+        return {};
+    bool isNumber = false;
+    const auto length = static_cast<qsizetype>(words[1].toUInt(&isNumber));
+    if (!isNumber)
+        return {};
+    return AnswerLine{words[0] == "pdf", length};
 }
 
 } // namespace
@@ -105,7 +94,7 @@ void PdfEngine::Launch() {
         return;
     }
     const QString program = command.takeFirst();
-    process_.start(program, command << u"-c"_s << script);
+    process_.start(program, command << u"-c"_s << QString::fromUtf8(modReadings::pdfEngineScript));
 }
 
 void PdfEngine::Start(const std::string &html, Paper paper) {
@@ -113,6 +102,8 @@ void PdfEngine::Start(const std::string &html, Paper paper) {
     received_.clear();
     if (process_.state() == QProcess::NotRunning)
         Launch();
+    else
+        process_.readAllStandardError(); // of the documents before; it says nothing of this one
     if (!atWork_)
         return;
     process_.write(QByteArray::number(static_cast<qulonglong>(html.size())) +
@@ -149,14 +140,17 @@ void PdfEngine::TakeOutput() {
     const qsizetype endOfLine = received_.indexOf('\n');
     if (!atWork_ || endOfLine < 0)
         return;
-    const QByteArrayView line = QByteArrayView(received_).first(endOfLine);
-    const qsizetype blank = line.indexOf(' ');
-    const qsizetype length = line.sliced(blank + 1).toLongLong();
-    if (received_.size() - endOfLine - 1 < length)
+    const std::optional<AnswerLine> line = ReadAnswerLine(received_.first(endOfLine));
+    if (!line) {
+        // The true answer may still come, and must not be taken for that of the next document.
+        Cancel();
+        Answer(Trouble(u"its process answered in an unknown form"_s));
         return;
-    const bool isPdf = line.first(qMax<qsizetype>(blank, 0)) == "pdf";
-    const QByteArray body = received_.sliced(endOfLine + 1, length);
-    Answer(isPdf ? PdfAnswer{body, {}} : Trouble(LastLine(body)));
+    }
+    if (received_.size() - endOfLine - 1 < line->length)
+        return;
+    const QByteArray body = received_.sliced(endOfLine + 1, line->length);
+    Answer(line->isPdf ? PdfAnswer{body, {}} : Trouble(LastLine(body)));
 }
 
 void PdfEngine::HasEnded() {

@@ -33,13 +33,15 @@ public:
     static QString WhatIsMissing();
 
     /// Begins to make a PDF of `html`, a document in UTF-8 from which nothing else is loaded:
-    /// no file, no page of the web. The same text gives the same bytes. answered() follows;
-    /// only one document is in work at a time.
+    /// no file, no page of the web. The same text gives the same bytes. answered() follows, even
+    /// before this returns where the engine is missing or does not start. Only one document is in
+    /// work at a time.
     void Start(const std::string &html, Paper paper);
 
     /// Ends the work that Start has begun: the process is gone, and answered() does not come.
     void Cancel();
 
+    /// From Start until answered() or Cancel.
     bool IsAtWork() const { return atWork_; }
 
     /// The same as Start, but waits for the answer and returns it.

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QTextDocument>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -38,7 +38,7 @@ Report RunAndRenderTopic(const Topic &topic) {
 
 Report RenderComprehensiveReading() {
     Report report;
-    BoldHeading(report, u"Orravane Comprehensive Reading");
+    BoldHeading(report, comprehensiveReadingTitle);
     for (const Calculator calculate : passOrder) {
         Attempt(calculate);
         AppendTopic(report, TopicOf(calculate), 2);

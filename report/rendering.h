@@ -9,6 +9,9 @@
 
 namespace modReadings {
 
+/// The title of the whole report, and of the document that is made of it.
+inline constexpr std::u16string_view comprehensiveReadingTitle = u"Orravane Comprehensive Reading";
+
 /// What a click on a topic shows: runs the topic's calculator, then renders it. A
 /// calculator that gives up leaves its slots as they stand and is written all the same.
 Report RunAndRenderTopic(const Topic &topic);

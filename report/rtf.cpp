@@ -1,5 +1,7 @@
 #include "report/rtf.h"
 
+#include <cstdint>
+
 namespace modReadings {
 
 namespace {

@@ -1,8 +1,14 @@
 #include "report/svg.h"
 
+#include "document_fonts.h"
+
 namespace modReadings {
 
 namespace {
+
+// The engine of the PDFs takes neither colours nor the font from the page's style into a drawing.
+// So each shape has its colour on light ground as an attribute, and the style gives that on dark
+// ground to its class; the colours are those of :root in document.css.
 
 std::string_view FillOf(Paint paint) {
     switch (paint) {
@@ -32,9 +38,13 @@ std::string_view StrokeOf(Paint paint) {
         return " class=\"sg\" stroke=\"#d9a400\"";
     case Paint::Ink:
         return " class=\"si\" stroke=\"#2b2333\"";
-    default:
-        return " class=\"sm\" stroke=\"#8a7d97\"";
+    case Paint::Muted:
+    case Paint::Tint:
+    case Paint::OnViolet:
+    case Paint::OnGold:
+        break; // no line has one of the last three
     }
+    return " class=\"sm\" stroke=\"#8a7d97\"";
 }
 
 /// Nothing for the usual one.
@@ -56,10 +66,8 @@ Drawing::Drawing(HtmlWriter &html, int height, std::string_view id) : html_(html
     // Most texts are centred and in ink.
     html_.Write("<svg role=\"img\" aria-labelledby=\"", id, "-title\" aria-describedby=\"", id,
                 "-words\" viewBox=\"0 0 ", drawingWidth, ' ', height, "\" width=\"", drawingWidth,
-                "\" height=\"", height,
-                "\">\n<g text-anchor=\"middle\" font-family=\"Charter,'Bitstream Charter',"
-                "'Iowan Old Style',P052,Palatino,Georgia,'DejaVu Serif',serif\"",
-                FillOf(Paint::Ink), ">\n");
+                "\" height=\"", height, "\">\n<g text-anchor=\"middle\" font-family=\"",
+                documentFonts, '"', FillOf(Paint::Ink), ">\n");
 }
 
 Drawing::~Drawing() { html_ << "\n</g>\n</svg>\n"; }

@@ -1,7 +1,8 @@
 #pragma once
 
-// The drawings of a document: shapes and texts of SVG, written into the HTML. Lengths are
-// whole units of the drawing; all drawings are as wide as a phone shows them well.
+// The drawings of a document: shapes and texts of SVG, written into the HTML. Lengths are whole
+// units of the drawing. All drawings have the same width, which a phone shows without shrinking
+// their texts too far.
 
 #include "report/html_writer.h"
 

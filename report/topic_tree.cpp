@@ -2,6 +2,8 @@
 
 #include "core/text.h"
 
+#include <utility>
+
 namespace modReadings {
 
 namespace {

@@ -12,7 +12,7 @@ namespace {
 
 using S = ReadingStore;
 
-/// The 18 topics of the common form: About, an empty line, Text.
+/// The 17 topics of the common form: About, an empty line, Text.
 constexpr Topic Standard(std::u16string_view caption, std::u16string_view heading,
                          HeadingNumber number, Calculator calculate, TextSlot about,
                          TextSlot text) {
@@ -58,8 +58,11 @@ constexpr std::array topics{
              &S::LifePathAbout, &S::LifePathText),
     Standard(u"Destiny / Expressions Number", u"Your Destiny Or Expression Number is: ",
              &S::DestinyNumber, CalcDestiny, &S::DestinyAbout, &S::DestinyText),
-    Standard(u"Karmic Lessons Number", u"Your Karmic Lessons Number is: ", &S::KarmicLessonsNumber,
-             CalcKarmicLessons, &S::KarmicLessonsAbout, &S::KarmicLessonsText),
+    Topic{u"Karmic Lessons Number",
+          u"Your Karmic Lessons Number is: ",
+          &S::KarmicLessonsNumber,
+          CalcKarmicLessons,
+          {{{&S::KarmicLessonsAbout, 2, {}, true}, {&S::KarmicLessonsText, 0, {}, false, true}}}},
     Standard(u"Birthday Number", u"Your BirthDay Number is: ", BirthDayAsNumber{}, CalcBirthday,
              &S::BirthdayAbout, &S::BirthdayText),
     Topic{u"Challenge Number",
@@ -95,11 +98,12 @@ constexpr std::array topics{
     Standard(u"Inner Dreams / Personality Number", u"Your Inner Dreams Or Personality Number is: ",
              &S::InnerDreamsNumber, CalcInnerDreams, &S::InnerDreamsAbout, &S::InnerDreamsText),
     // The one topic with its About at the end.
-    Topic{u"Planes Of Expression / Personal Aspects",
-          u"Your Planes of Expression is towards ",
-          &S::PlanesNumber,
-          CalcPlanes,
-          {{{&S::PlanesText, 2, u"Your Personal Aspects: "}, {&S::PlanesAbout, 0, {}, true}}}},
+    Topic{
+        u"Planes Of Expression / Personal Aspects",
+        u"Your Planes of Expression is towards ",
+        &S::PlanesNumber,
+        CalcPlanes,
+        {{{&S::PlanesText, 2, u"Your Personal Aspects: "}, {&S::PlanesAbout, 0, {}, true, true}}}},
     Standard(u"Soul Urge / Heart's Desire Number", u"Your Soul Urge Or Heart's Desire Number is: ",
              &S::SoulUrgeNumber, CalcSoulUrge, &S::SoulUrgeAbout, &S::SoulUrgeText),
 };

@@ -28,7 +28,8 @@ struct Block {
     TextSlot slot = nullptr;
     int breaks = 0;
     std::u16string_view before;
-    bool isAbout = false; ///< explains the topic, whatever its number is
+    bool isAbout = false;   ///< explains the topic, whatever its number is
+    bool hasTitles = false; ///< some of its lines are titles of those below them
 
     /// A line that stands directly above the next block, as its title.
     constexpr bool IsLabel() const { return breaks == 1; }

@@ -8,9 +8,9 @@
 
 namespace modReadings {
 
-/// The character of `text` at `at`, which moves behind it. Half a surrogate pair stays what it
-/// is.
-constexpr char32_t TakeCharacter(std::u16string_view text, std::size_t &at) {
+/// The character of `text` at `at`, which is less than its size and moves behind the character.
+/// Half a surrogate pair stays what it is.
+constexpr char32_t DecodeUtf16(std::u16string_view text, std::size_t &at) {
     const char32_t unit = text[at++];
     if (unit < 0xD800 || unit >= 0xDC00 || at == text.size() || text[at] < 0xDC00 ||
         text[at] >= 0xE000)
@@ -27,7 +27,7 @@ constexpr bool MayStandInDocument(char32_t character) {
 }
 
 /// Calls `put` with each byte of `character`.
-template <typename Put> constexpr void PutUtf8(char32_t character, Put put) {
+template <typename Put> constexpr void EncodeUtf8(char32_t character, Put put) {
     const auto trail = [&](int shift) {
         put(static_cast<char>(0x80 | ((character >> shift) & 0x3F)));
     };

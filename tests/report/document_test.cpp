@@ -211,6 +211,9 @@ TEST(Document, DrawsTheValuesAndTheLetterThatLeads) {
                     .values.text.words.ends_with(u"A character without a value comes most often, "
                                                  u"twice; it has no value, and so there is no "
                                                  u"Hidden Passion Number."));
+    EXPECT_EQ(For(Person(u"", u"", u"7", u"March", u"2040")).values.text.words,
+              u"The values 1, 2, 3, 4, 5, 6, 7, 8 and 9 are missing. The name has no character, "
+              u"and so there is no Hidden Passion Number.");
 }
 
 TEST(Document, DrawsTheLifeAsTheTablesHaveIt) {

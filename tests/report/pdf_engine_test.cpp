@@ -103,6 +103,47 @@ TEST_F(PdfEngineTest, SaysInALineWhyThereIsNoPdf) {
     EXPECT_TRUE(PdfEngine().Make("<p>text", Paper::A4).trouble.startsWith(start));
 }
 
+// A module in place of the engine whose C code prints a line of its own.
+TEST_F(PdfEngineTest, KeepsWhatALibraryPrintsOutOfItsAnswers) {
+    Make(u"weasyprint.py"_s, "import os\n"
+                             "class CSS:\n"
+                             "    def __init__(self, string): pass\n"
+                             "class HTML:\n"
+                             "    def __init__(self, string, url_fetcher): self.text = string\n"
+                             "    def write_pdf(self, stylesheets):\n"
+                             "        os.write(1, b'stray\\n')\n"
+                             "        print('odd')\n"
+                             "        return self.text.encode()\n");
+    qputenv("PYTHONPATH", folder_.path().toUtf8());
+    PdfEngine engine;
+    EXPECT_EQ(engine.Make("<p>one", Paper::A4).pdf, "<p>one");
+    EXPECT_EQ(engine.Make("<p>two", Paper::A4).pdf, "<p>two");
+    qunsetenv("PYTHONPATH");
+}
+
+// What comes behind such an answer would be taken for that of the next person.
+TEST_F(PdfEngineTest, EndsAProcessThatAnswersInAnUnknownForm) {
+    const QString trouble =
+        u"WeasyPrint cannot make the PDF: its process answered in an unknown form"_s;
+    PdfEngine engine;
+    for (const QByteArray line : {"stray", "pdf", "pdf x", "pdf -1", "odd 3", "pdf 3 3", ""}) {
+        StandIn("read header; echo '" + line + "'; printf 'pdf 3\\nONE'; exec sleep 100");
+        EXPECT_EQ(engine.Make("<p>one", Paper::A4).trouble, trouble) << line.toStdString();
+        EXPECT_FALSE(engine.IsAtWork());
+    }
+    StandIn("printf 'pdf 3\\nTWO'; cat >/dev/null");
+    EXPECT_EQ(engine.Make("<p>two", Paper::A4).pdf, "TWO");
+}
+
+TEST_F(PdfEngineTest, GivesNoWarningOfAnEarlierDocumentAsTheReason) {
+    StandIn(
+        "read header; read text; echo odd >&2; printf 'pdf 3\\nONE'; read header; kill -KILL $$");
+    PdfEngine engine;
+    EXPECT_EQ(engine.Make("<p>one\n", Paper::A4).pdf, "ONE");
+    EXPECT_EQ(engine.Make("<p>two\n", Paper::A4).trouble,
+              u"WeasyPrint cannot make the PDF: its process was ended by signal 9"_s);
+}
+
 // A document larger than a pipe holds, to a process that dies before it has read it.
 TEST_F(PdfEngineTest, SurvivesAProcessThatDoesNotRead) {
     StandIn("exit 1");
