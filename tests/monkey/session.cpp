@@ -859,9 +859,10 @@ void Session::NoteKey(int key, Qt::KeyboardModifiers modifiers, const QString &t
         if ((IsEnter(key) || key == Qt::Key_Space) && !repeated)
             Note({.what = What::LinkClicked, .control = link});
     } else if (focus == form_.TV) {
-        if (IsEnter(key))
-            Note({.what = What::NodeClicked, .text = form_.TV->currentItem()->text(0)});
-        else if (copies)
+        if (IsEnter(key)) {
+            if (!repeated)
+                Note({.what = What::NodeClicked, .text = form_.TV->currentItem()->text(0)});
+        } else if (copies)
             model_.clipboard = form_.TV->currentItem()->text(0);
         else if (modifiers != Qt::ControlModifier)
             treeIsTheToolkits_ = true;
